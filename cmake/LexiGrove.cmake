@@ -1,0 +1,35 @@
+# What every target of the project shares.
+
+include(GoogleTest OPTIONAL)
+
+add_library(lexigrove_flags INTERFACE)
+target_compile_features(lexigrove_flags INTERFACE cxx_std_20)
+target_include_directories(lexigrove_flags INTERFACE ${CMAKE_SOURCE_DIR})
+target_compile_options(lexigrove_flags INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor -Woverloaded-virtual -Werror)
+if(LEXIGROVE_SANITIZE)
+    set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_compile_options(lexigrove_flags INTERFACE ${sanitizers})
+    target_link_options(lexigrove_flags INTERFACE ${sanitizers})
+endif()
+
+# lexigrove_library(<folder> SOURCES <files> [DEPENDS <lower floors>])
+# A folder is a static library of the folder's name.
+function(lexigrove_library name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;DEPENDS")
+    add_library(${name} STATIC ${arg_SOURCES})
+    target_link_libraries(${name} PUBLIC lexigrove_flags ${arg_DEPENDS})
+endfunction()
+
+# lexigrove_test(<name> SOURCES <files> DEPENDS <libraries> [TIMEOUT <seconds>])
+# One test program of GoogleTest cases, each known to ctest.
+function(lexigrove_test name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "TIMEOUT" "SOURCES;DEPENDS")
+    if(NOT arg_TIMEOUT)
+        set(arg_TIMEOUT 300)
+    endif()
+    add_executable(${name} ${arg_SOURCES})
+    set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
+    target_link_libraries(${name} PRIVATE ${arg_DEPENDS} GTest::gmock GTest::gtest_main)
+    gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT ${arg_TIMEOUT})
+endfunction()

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <string>
+
+namespace lexigrove
+{
+
+/// The main window's status line: the label `Label1` and the icon `Warn` beside it. A front end that must tell every text,
+/// also those overwritten within one action, overrides `written`.
+class StatusLine
+{
+public:
+    virtual ~StatusLine() = default;
+
+    /// ShowStatus: puts the message into `Label1` and makes the icon visible.
+    void show(const std::string& message)
+    {
+        Warn = true;
+        write(message);
+    }
+
+    /// Sets the caption of `Label1` and leaves the icon as it is.
+    void write(const std::string& caption)
+    {
+        Label1 = caption;
+        written(caption);
+    }
+
+    std::string Label1;
+    bool Warn = false;
+
+protected:
+    virtual void written(const std::string& /*caption*/) {}
+};
+
+} // namespace lexigrove
