@@ -9,10 +9,22 @@ namespace lexigrove
 /// A colour: red + 256 * green + 65536 * blue, or a system colour number (0x80000000 + index).
 using Colour = std::uint32_t;
 
-constexpr Colour rgb(unsigned red, unsigned green, unsigned blue) { return red + 256U * green + 65536U * blue; }
-constexpr unsigned redOf(Colour c) { return c & 0xFFU; }
-constexpr unsigned greenOf(Colour c) { return (c >> 8) & 0xFFU; }
-constexpr unsigned blueOf(Colour c) { return (c >> 16) & 0xFFU; }
+constexpr Colour rgb(unsigned red, unsigned green, unsigned blue)
+{
+    return red + 256U * green + 65536U * blue;
+}
+constexpr unsigned redOf(Colour c)
+{
+    return c & 0xFFU;
+}
+constexpr unsigned greenOf(Colour c)
+{
+    return (c >> 8) & 0xFFU;
+}
+constexpr unsigned blueOf(Colour c)
+{
+    return (c >> 16) & 0xFFU;
+}
 
 namespace system_colour
 {
@@ -24,10 +36,13 @@ constexpr Colour buttonText = 0x80000012;
 constexpr Colour highlight3d = 0x80000014;
 } // namespace system_colour
 
-constexpr bool isSystemColour(Colour c) { return (c & 0x80000000U) != 0; }
+constexpr bool isSystemColour(Colour c)
+{
+    return (c & 0x80000000U) != 0;
+}
 
-/// The desktop's colours by system colour index (0 to 24). A front end fills it from the toolkit's palette; until then it
-/// holds a neutral light desktop.
+/// The desktop's colours by system colour index (0 to 24). A front end fills it from the toolkit's palette; until then
+/// it holds a neutral light desktop.
 struct SystemPalette {
     SystemPalette();
     std::array<Colour, 25> entries;

@@ -3,6 +3,7 @@
 #include "controls/colour.hpp"
 
 #include <string>
+#include <string_view>
 
 namespace lexigrove
 {
@@ -17,7 +18,7 @@ struct Label {
 };
 
 /// The number at the start of a caption, as the labels of scores and counters are read back: blanks are passed over, no
-/// digit at all is 0.
-int numberOf(const std::string& caption);
+/// digit at all is 0, a number beyond `int` becomes the nearest `int`.
+int numberOf(std::string_view caption);
 
 } // namespace lexigrove

@@ -1,0 +1,35 @@
+#pragma once
+
+namespace lexigrove
+{
+
+/// The controls measure in units of 1/1440 inch; at the design resolution a pixel is 15 of them.
+constexpr int unitsPerPixel = 15;
+
+struct Point {
+    int x = 0;
+    int y = 0;
+
+    bool operator==(const Point&) const = default;
+};
+
+/// A place that may fall between two units.
+struct ExactPoint {
+    double x = 0;
+    double y = 0;
+
+    bool operator==(const ExactPoint&) const = default;
+};
+
+struct Size {
+    int width = 0;
+    int height = 0;
+
+    bool operator==(const Size&) const = default;
+};
+
+/// The numbers of the mouse buttons, as the controls' events carry them.
+constexpr int leftButton = 1;
+constexpr int rightButton = 2;
+
+} // namespace lexigrove
