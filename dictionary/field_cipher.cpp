@@ -1,0 +1,1 @@
+#include "dictionary/field_cipher.hpp"

@@ -1,0 +1,1 @@
+#include "dictionary/letter_tables.hpp"

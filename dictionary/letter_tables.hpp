@@ -1,0 +1,76 @@
+#pragma once
+
+#include "platform/clock.hpp"
+#include "platform/random.hpp"
+
+#include <array>
+#include <cstdint>
+#include <string_view>
+
+namespace lexigrove
+{
+
+/// How often each letter stands in the words of a dictionary.
+struct LetterFrequencies {
+    std::array<std::int64_t, 27> letters{}; ///< 1 to 26 for A to Z; lower-case letters are no letters here
+    std::int64_t characters = 0;            ///< every character of every line, line ends left out
+};
+
+/// Counts the letters of a whole file's text.
+LetterFrequencies countLetters(std::string_view text);
+
+/// The scores of the letters and the pool of 100 letters that a game deals from.
+class LetterTables
+{
+public:
+    static constexpr int poolSize = 100;
+
+    /// The score of each letter, 1 to 26 for A to Z; entry 0 is the score of everything else.
+    static constexpr std::array<std::int16_t, 27> value{0, 1, 3, 3,  2, 1, 4, 2, 4, 1, 8, 5, 1, 3,
+                                                        1, 1, 3, 10, 1, 1, 1, 1, 4, 4, 8, 4, 10};
+
+    /// The tables as they stand before any dictionary is read.
+    LetterTables() { buildStartUp(); }
+
+    /// Build letter tables: the counts and the pool of the start-up table.
+    void buildStartUp();
+
+    /// Gives each letter its share of the 100 places, at least one to a letter that occurs, and fills the pool. Places
+    /// left over go to letters drawn at random; places too many are taken from the letter with the largest share.
+    /// Throws std::domain_error when there are no characters, std::overflow_error when a count times 100 leaves 32
+    /// bits, and std::length_error when the shares need a 101st place; the tables then stand as before.
+    void derive(const LetterFrequencies& frequencies, Random& random, const Clock& clock);
+
+    /// How many of the 100 places each letter has, 1 to 26 for A to Z; entry 0 is unused. A derived share may be below
+    /// 0 where too many places had to be taken from one letter.
+    std::array<int, 27> letterCounts{};
+
+    /// Entries 1 to 100 hold letters, in alphabetical runs until they are shuffled. Entry 0 holds no letter.
+    std::array<char, poolSize + 1> pool{};
+
+private:
+    void fillPool(const std::array<int, 27>& counts);
+};
+
+/// The place of a letter in the alphabet, 1 to 26, and 0 for anything but A to Z.
+constexpr int letterIndex(char letter)
+{
+    return letter >= 'A' && letter <= 'Z' ? letter - 'A' + 1 : 0;
+}
+
+/// The score of a letter; 0 for anything but A to Z.
+constexpr int letterValue(char letter)
+{
+    return LetterTables::value[static_cast<std::size_t>(letterIndex(letter))];
+}
+
+/// The sum of the scores of a word's letters.
+constexpr int letterSum(std::string_view word)
+{
+    int sum = 0;
+    for (const char letter : word)
+        sum += letterValue(letter);
+    return sum;
+}
+
+} // namespace lexigrove

@@ -1,0 +1,1 @@
+#include "dictionary/maintained_format.hpp"

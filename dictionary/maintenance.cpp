@@ -1,0 +1,1 @@
+#include "dictionary/maintenance.hpp"

@@ -1,0 +1,136 @@
+#pragma once
+
+#include "dictionary/dictionary.hpp"
+#include "dictionary/word_view.hpp"
+#include "platform/clock.hpp"
+#include "platform/dialogs.hpp"
+#include "platform/screen.hpp"
+#include "platform/status_line.hpp"
+#include "platform/text_file.hpp"
+
+#include <array>
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace lexigrove
+{
+
+/// The title of the window, and what its controls say. `List1`, `Text1` and `ListBoy1`, which is not shown, say
+/// nothing.
+namespace maintenance_text
+{
+
+struct ControlText {
+    std::string_view name;
+    std::string_view caption;
+    std::string_view toolTip;
+};
+
+inline constexpr std::string_view title = "Dictionary Maintenance";
+inline constexpr ControlText Frame2{"Frame2", "Dictionary Words", ""};
+inline constexpr ControlText Frame1{"Frame1", "Edit Dictionary", ""};
+inline constexpr ControlText Option1{"Option1", "Level1", ""};
+inline constexpr ControlText Option2{"Option2", "Level2", ""};
+inline constexpr ControlText Option3{"Option3", "Level3", ""};
+inline constexpr ControlText Addwordx{"Addwordx", "AddWord", "Add a word to the dictionary"};
+inline constexpr ControlText Removewordx{"Removewordx", "RemoveWord", "Remove a word from the dictionary"};
+inline constexpr ControlText Command1{"Command1", "Show Dictionary", "Show a list of all words in the dictionary"};
+inline constexpr ControlText Command2{"Command2", "SpellCheck", "Spell check a word"};
+inline constexpr ControlText Command4{"Command4", "Exit", "Quit this program"};
+inline constexpr ControlText plainList{"PlainList", "Plain List",
+                                       "Write the level file as a plain word list, so that the next game can use it"};
+
+/// What Exit asks after words were added or removed.
+inline constexpr std::string_view plainListQuestion =
+    "Write the level file as a plain word list, so that the next game can use it?";
+
+} // namespace maintenance_text
+
+/// The window "Dictionary Maintenance": looks through the words of the loaded level, checks, adds and removes words,
+/// and rewrites the level's file. Each operation runs to its end; its messages are put to the player on the way.
+///
+/// A file is backed up before it is rewritten and is replaced whole. When writing or reading fails, the operation ends
+/// with one message (what failed, the file, the system's reason), the level file stands as before and the backup is
+/// left alone.
+class DictionaryMaintenance
+{
+public:
+    /// An option button of a level.
+    struct Option {
+        bool Value = false;
+        bool Enabled = false;
+    };
+
+    /// A word is refused when the dictionary holds exactly so many; one that holds more takes words.
+    static constexpr int fullCount = 200'000;
+
+    DictionaryMaintenance(Dictionary& dictionary, Dialogs& dialogs, Screen& screen, const Clock& clock);
+
+    /// The main window's add-word command, with the text of its selected-word label. True when the window is to be
+    /// shown (the word is then handed to it); otherwise the status line says why not.
+    bool open(const std::string& selectedWord, StatusLine& status);
+
+    /// A new game: the list is empty again, and Exit has nothing to ask.
+    void reset();
+
+    /// The window becomes active.
+    void activate();
+
+    /// Chooses a level, 1 to 3. Does nothing while its option is disabled.
+    void chooseOption(int level);
+
+    /// A row of `List1` is clicked, counted from 0 among those that the search leaves. Does nothing outside of them.
+    void clickRow(int row);
+
+    void showDictionary(); ///< `Command1`
+    void spellCheck();     ///< `Command2`
+    void addWord();        ///< `Addwordx`
+    void removeWord();     ///< `Removewordx`
+
+    /// Writes the level's file, which is in the maintained format, as a plain list of its words in ascending order.
+    /// Where the loaded entries are that file's coded lines, the words take their place.
+    void writePlainList();
+
+    /// `Command4`: the window closes. After words were added or removed it asks first, once, whether the level file is
+    /// to be written as a plain list.
+    void exit();
+
+    std::string word;  ///< the word property, set before the window is shown
+    std::string Text1; ///< the word being edited
+    WordView List1;
+    Option Option1, Option2, Option3;
+
+private:
+    /// The files of the option that is set.
+    struct LevelFiles {
+        int level = 0;
+        std::string name; ///< as the file table gives it, for messages
+        std::string path;
+        std::string backup; ///< with its folder
+    };
+
+    /// What AddWord and RemoveWord do alike after their checks, and the texts in which they differ.
+    struct Change {
+        int countAfter = 0;
+        std::string sorted;      ///< message: the words are sorted
+        std::string backedUpEnd; ///< end of the message that names the backup, before the file's name
+        std::string done;        ///< message: the file is verified
+        std::string restored;    ///< start of the message after a difference
+    };
+
+    [[nodiscard]] Option& option(int level);
+    [[nodiscard]] bool mayChange(LevelFiles& files);
+    [[nodiscard]] LevelFiles chosenFiles() const;
+    void rewrite(const LevelFiles& files, std::span<const std::string_view> items, const Change& change);
+    bool verify(const LevelFiles& files);
+    void restore(const LevelFiles& files, std::string_view oldBytes);
+
+    Dictionary& dictionary_;
+    Dialogs& dialogs_;
+    Screen& screen_;
+    const Clock& clock_;
+    bool changed_ = false; ///< a word was added or removed since Exit last asked
+};
+
+} // namespace lexigrove

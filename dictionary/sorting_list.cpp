@@ -1,0 +1,1 @@
+#include "dictionary/sorting_list.hpp"

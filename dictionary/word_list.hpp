@@ -1,0 +1,74 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace lexigrove
+{
+
+/// The word array: entries 1 to `count()` are the words of the active dictionary, in the order of its file. Entry 0 is
+/// always empty, and so is every entry that was never written.
+///
+/// The words lie one behind the other in one buffer, with an offset for each. The buffer is never changed, only
+/// replaced: a copy of the list costs nothing and keeps the words as they stood. A view of an entry lives as long as
+/// any copy of the list that it was taken from.
+class WordList
+{
+public:
+    static constexpr int capacity = 250'000;
+
+    WordList() : words_(std::make_shared<const Words>()) {}
+
+    /// The lines of a text, one word each, taken as they stand; CR LF, LF and CR end a line. Throws std::length_error
+    /// above 250,000 lines.
+    static WordList ofLines(std::string text);
+
+    /// Entries 1 to the number of `words`. Throws std::length_error above 250,000.
+    static WordList of(std::span<const std::string_view> words);
+
+    [[nodiscard]] int count() const { return count_; }
+
+    /// Entry 0 to 250,000. Throws std::out_of_range outside.
+    [[nodiscard]] std::string_view entry(int index) const
+    {
+        const auto place = static_cast<std::size_t>(index);
+        if (place + 1 < words_->starts.size()) [[likely]]
+            return between(words_->starts[place], words_->starts[place + 1]);
+        return unwrittenEntry(index);
+    }
+
+    /// FindWord: the index of the entry that equals the word, or -1. The empty word is found at 0. Where the words are
+    /// not in ascending order of their codes, the answers are those of this very search, misses included.
+    [[nodiscard]] int findWord(std::string_view word) const;
+
+    /// Writes entries 1 to the number of `words`. Entries behind them keep their texts and the count stays as it is.
+    /// The views may point into this list. Throws std::length_error above 250,000 words.
+    void overwrite(std::span<const std::string_view> words);
+
+    /// Says how many entries are words, 0 to 250,000. No entry changes.
+    void setCount(int count);
+
+    /// Bytes that the list holds in memory.
+    [[nodiscard]] std::size_t memory() const;
+
+private:
+    struct Words {
+        std::string text;
+        std::vector<std::uint32_t> starts{0, 0}; ///< of each entry, and the end of the last one
+    };
+
+    [[nodiscard]] std::string_view between(std::uint32_t start, std::uint32_t end) const
+    {
+        return {words_->text.data() + start, end - start};
+    }
+    static std::string_view unwrittenEntry(int index);
+
+    std::shared_ptr<const Words> words_;
+    int count_ = 0;
+};
+
+} // namespace lexigrove

@@ -1,0 +1,1 @@
+#include "dictionary/word_text.hpp"
