@@ -1,0 +1,54 @@
+#pragma once
+
+#include <array>
+#include <string>
+#include <string_view>
+
+namespace lexigrove
+{
+
+/// How the current game went, for the player and for the computer: a table of 17 texts and a counter for each letter
+/// used in words. Everything starts empty at each game's start (`reset`).
+class Statistics
+{
+public:
+    /// Where the entries of each side begin: the player's are 1 to 8, the computer's 9 to 16.
+    static constexpr int playerBase = 0;
+    static constexpr int computerBase = 8;
+
+    /// Offsets of the entries from a base.
+    static constexpr int wordsMade = 1;
+    static constexpr int fiveOrMoreLetters = 5; ///< 2, 3 and 4 are the words of so many letters
+    static constexpr int hintsUsed = 6;         ///< the player's only
+    static constexpr int longestLength = 7;
+    static constexpr int longestWord = 8; ///< the word, followed by one blank
+
+    static constexpr int entryCount = 17; ///< entry 0 stays empty
+
+    /// Counts a word that was made, with `playerBase` or `computerBase`. A later word as long as the longest takes its
+    /// place.
+    void recordWord(std::string_view word, int base);
+
+    /// Writes the hints used so far into the player's entry; 0 leaves it empty.
+    void setHintsUsed(int count);
+
+    void reset();
+
+    /// Entry 0 to 16 as it stands, and the number in it (an empty entry is 0).
+    [[nodiscard]] const std::string& entry(int index) const { return table_.at(static_cast<std::size_t>(index)); }
+    [[nodiscard]] int number(int index) const;
+
+    /// Letters used in words: 1 to 26 for A to Z; 0 is their total as of the last `totalLettersUsed`.
+    [[nodiscard]] const std::array<int, 27>& lettersUsed() const { return lettersUsed_; }
+
+    /// Sums the 26 counters into counter 0 and returns the sum.
+    int totalLettersUsed();
+
+private:
+    void addOne(int index);
+
+    std::array<std::string, entryCount> table_;
+    std::array<int, 27> lettersUsed_{};
+};
+
+} // namespace lexigrove

@@ -1,0 +1,80 @@
+#pragma once
+
+#include "controls/label.hpp"
+#include "scores/statistics.hpp"
+
+#include <array>
+#include <string>
+#include <variant>
+#include <vector>
+
+namespace lexigrove
+{
+
+/// A straight line of the chart.
+struct ChartLine {
+    int x1, y1, x2, y2;
+    Colour colour;
+    int width; ///< in pixels
+};
+
+/// The outline of a rectangle between two corners.
+struct ChartFrame {
+    int left, top, right, bottom;
+    Colour colour;
+    int width; ///< in pixels
+};
+
+/// A text whose upper left corner is at (x, y).
+struct ChartText {
+    int x, y;
+    std::string text;
+    Colour colour;
+    std::string font;
+    int pointSize;
+};
+
+/// What `Picture1` of the statistics window shows: items in the order in which they are painted over the background,
+/// all places in the picture's units of 1/1440 inch, y growing downwards. What runs past the picture's edge is cut off.
+struct Chart {
+    Colour background;
+    int width, height; ///< the part of the plane that the picture shows
+    std::vector<std::variant<ChartLine, ChartFrame, ChartText>> items;
+};
+
+/// The font that sets the chart's letter width: a front end measures its "W", rounded to a whole number of picture
+/// units.
+inline constexpr const char* chartFont = "courier new";
+inline constexpr int chartFontSize = 10;
+
+/// The statistics window `Form4`: the counts of both sides, and the bar chart of letters provided and letters used.
+class StatisticsForm
+{
+public:
+    explicit StatisticsForm(Statistics& statistics);
+
+    /// Fills the window from the table, on every activation. `lettersProvided` 1 to 26 are the pool's letter counts,
+    /// which are percentages too, because the pool holds 100 letters. In a solo game the computer's column is disabled
+    /// and keeps what it showed last.
+    void activate(bool computerGame, const std::array<int, 27>& lettersProvided);
+
+    /// The chart for letters `letterWidth` units wide.
+    [[nodiscard]] Chart chart(int letterWidth) const;
+
+    /// How many per cent of the letters used were this one, 1 to 26, rounded down.
+    [[nodiscard]] int usedPercentage(int letter) const { return used_.at(static_cast<std::size_t>(letter)); }
+
+    std::string Caption = "Statistics";
+    std::array<std::string, 9> rowCaptions; ///< 1 to 8, beside `sval` 1 to 8
+    Label YourColumn;                       ///< the heading "Your"
+    Label Frame2;                           ///< the frame "Computer" around `sval` 9 to 16
+    std::array<std::string, 17> sval;       ///< the value labels 1 to 16
+    Label Exitx;
+
+private:
+    Statistics& statistics_;
+    std::array<int, 27> provided_{};
+    std::array<int, 27> used_{};
+};
+
+} // namespace lexigrove

@@ -1,0 +1,91 @@
+#pragma once
+
+#include "controls/colour.hpp"
+#include "platform/dialogs.hpp"
+
+#include <array>
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace lexigrove
+{
+
+/// Places in the colour table. What else a window shows is derived from these: settings/window_colours.hpp.
+namespace scheme_entry
+{
+inline constexpr std::size_t ground = 0; ///< frames and panels
+inline constexpr std::size_t tileTop = 1;
+inline constexpr std::size_t tileLeft = 2;
+inline constexpr std::size_t tileBottom = 3;
+inline constexpr std::size_t tileRight = 4;
+inline constexpr std::size_t tileFace = 5;
+inline constexpr std::size_t tileLetter = 6;
+inline constexpr std::size_t doubleTile = 7;
+inline constexpr std::size_t tripleTile = 8;
+inline constexpr std::size_t quadrupleTile = 9;
+inline constexpr std::size_t redTile = 10;
+inline constexpr std::size_t wordList = 11; ///< word list and colour-scheme box
+inline constexpr std::size_t computer = 12; ///< the computer's back colour
+} // namespace scheme_entry
+
+using ColourTable = std::array<Colour, 14>;
+
+/// The table before any file is read.
+ColourTable groveColours();
+
+/// The colour table, filled from the scheme files "*.sch" of the program folder.
+class ColourScheme
+{
+public:
+    static constexpr std::size_t fileEntries = 13; ///< a file fills 0 to 12; entry 13 is never filled
+    static constexpr const char* defaultName = "Default.sch";
+
+    /// `folder` ends with its separator.
+    ColourScheme(std::string folder, Dialogs& dialogs);
+
+    /// Makes `name` the current name and fills the table from that file; an empty name loads the default scheme. A file
+    /// that cannot be read to its end is told in a message and makes the default's name the current one; the table then
+    /// keeps the entries read so far. True when the whole file was read.
+    bool load(const std::string& name);
+
+    /// The scheme files of the folder, in ascending byte order of their names.
+    [[nodiscard]] std::vector<std::string> filesInFolder() const;
+
+    [[nodiscard]] const ColourTable& entries() const { return entries_; }
+    [[nodiscard]] Colour entry(std::size_t index) const { return entries_.at(index); }
+
+    /// An entry as a plain colour: a system colour is looked up in `palette`.
+    [[nodiscard]] Colour plain(std::size_t index) const { return palette.resolve(entries_.at(index)); }
+
+    /// The face of a tile by its multiplier (1 plain; 2, 3, 4 bonus; 9 red) and the letter on it, as plain colours: the
+    /// scheme's letter on a plain tile, black or white on a coloured one, whichever reads better.
+    [[nodiscard]] Colour tileFace(int multiplier) const;
+    [[nodiscard]] Colour tileLetter(int multiplier) const;
+
+    /// A tile in the path exchanges face and letter.
+    [[nodiscard]] Colour selectedFace(int multiplier) const { return tileLetter(multiplier); }
+    [[nodiscard]] Colour selectedLetter(int multiplier) const { return tileFace(multiplier); }
+
+    /// The fore colour on the computer's back colour.
+    [[nodiscard]] Colour computerFore() const { return readableOn(plain(scheme_entry::computer)); }
+
+    /// The desktop's colours; the front end keeps it true.
+    SystemPalette palette;
+
+    /// The file name of the current scheme with its extension; empty until one is known.
+    std::string currentName;
+
+private:
+    std::string folder_;
+    Dialogs& dialogs_;
+    ColourTable entries_ = groveColours();
+};
+
+/// Reads one line of a scheme file, red;green;blue, or of the default scheme, a whole colour before the first ";".
+/// False when the line has too few fields or no colour; `colour` then stands as it was.
+bool readSchemeLine(std::string_view line, Colour& colour);
+bool readDefaultSchemeLine(std::string_view line, Colour& colour);
+
+} // namespace lexigrove

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "controls/dc.hpp"
+#include "dictionary/dictionary.hpp"
+#include "platform/clock.hpp"
+#include "platform/dialogs.hpp"
+#include "settings/options_form.hpp"
+
+#include <string>
+
+namespace lexigrove
+{
+
+/// What the configuration is read into and written from.
+struct ConfigurationContext {
+    Dialogs& dialogs;
+    const Clock& clock;
+    OptionsForm& options;
+    Dc& Dc1; ///< the main window's clock
+    ColourScheme& scheme;
+    Dictionary& dictionary;
+    SoundCues& sounds;
+    std::string folder; ///< the program folder with its closing separator
+};
+
+/// The player's choices between runs: `Lexigrove.cfg` in the program folder, 23 lines whose place alone gives their
+/// meaning.
+class Configuration
+{
+public:
+    static constexpr int lineCount = 23;
+
+    explicit Configuration(const ConfigurationContext& context);
+
+    /// Reads the file. A clock of the colour "DEFAULT" takes the two colours of the main window: its background and
+    /// that of its list `List1`. A file that is missing, short or garbled sets the controls to their defaults, is told
+    /// in a message and is replaced by a fresh one; the scheme's name, the clock's look and the delay that came before
+    /// the fault stay as read.
+    void load(Colour windowBackground, Colour list1Background);
+
+    /// Writes the file whole. A failure is told in a message and leaves the old file.
+    void save();
+
+    [[nodiscard]] const std::string& path() const { return path_; }
+
+private:
+    bool read(Colour windowBackground, Colour list1Background);
+    void setDefaults();
+    void applySound();
+
+    ConfigurationContext context_;
+    std::string path_;
+};
+
+} // namespace lexigrove

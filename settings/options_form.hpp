@@ -1,0 +1,163 @@
+#pragma once
+
+#include "controls/box_control.hpp"
+#include "dictionary/dictionary.hpp"
+#include "platform/dialogs.hpp"
+#include "platform/screen.hpp"
+#include "settings/colour_scheme.hpp"
+#include "settings/game_settings.hpp"
+#include "settings/option_controls.hpp"
+#include "settings/sound_cues.hpp"
+
+#include <string>
+#include <vector>
+
+namespace lexigrove
+{
+
+/// What the options dialog reaches.
+struct OptionsContext {
+    Dialogs& dialogs;
+    Screen& screen;
+    Dictionary& dictionary;
+    ColourScheme& scheme;
+    SoundCues& sounds;
+    std::string folder; ///< the program folder with its closing separator
+};
+
+/// The options dialog `Form7`. Its controls hold the stored options; the rest of the program reads them here.
+///
+/// A front end shows the frames in the order of `frames()`, calls `select` when a choice is selected by any means, and
+/// `mouseReleased` when the mouse button is released over it: handlers run on that release only. A choice made with the
+/// keyboard alone counts when a game starts (`takeChoices`).
+class OptionsForm
+{
+public:
+    enum class Answer { None, Start, Exit };
+
+    explicit OptionsForm(const OptionsContext& context);
+    OptionsForm(const OptionsForm&) = delete;
+    OptionsForm& operator=(const OptionsForm&) = delete;
+
+    /// The frames with choices, from the first to the last: sound, arrangement, drop, meanings, dictionary, computer
+    /// plays.
+    [[nodiscard]] std::vector<ChoiceFrame*> choiceFrames();
+
+    /// The choice of this control name, or null.
+    [[nodiscard]] Choice* find(const std::string& name);
+
+    /// Sets the value of a choice, as the mouse, the keyboard or a file does; no handler runs. A choice that becomes
+    /// selected clears the others of its frame.
+    void select(Choice& choice) { setValue(choice, true); }
+    void setValue(Choice& choice, bool value);
+
+    /// The mouse button was released over the control: runs its handler, if it has one.
+    void mouseReleased(Choice& choice);
+    void check1Released();
+
+    /// Check box "YES" of "Play with the Computer".
+    void setCheck1(bool checked) { Check1.Value = checked; }
+
+    /// `GetUserDictName` was released: asks for a file; a cancelled dialog changes nothing.
+    void browseUserDictionary();
+
+    /// The text of `UsrDictName` was edited.
+    void typeUserDictName(const std::string& text);
+
+    /// `PSBoard` was released: asks for the 100 letters of a preset board.
+    void presetBoard();
+
+    /// An entry of `Combo1` was chosen.
+    void chooseScheme(const std::string& name);
+
+    /// Part of the start: loads the current scheme, lists the scheme files in `Combo1` and colours the box and its
+    /// frame.
+    void loadSchemes();
+
+    /// Release of the main window's button `SoundOnOff`.
+    void soundButton();
+
+    /// `Startx` and `Exitx`: hide the dialog with this answer. Saving and leaving are the flow's.
+    void pressStart() { hide(Answer::Start); }
+    void pressExit() { hide(Answer::Exit); }
+
+    /// Called before the dialog is shown; empties the answer.
+    void open();
+    [[nodiscard]] bool isVisible() const { return visible_; }
+    [[nodiscard]] Answer answer() const { return answer_; }
+
+    /// A game starts: whatever the controls say counts, however it was chosen. Sets the sound flag, the delay (0
+    /// without animation), the computer's mode and the dictionary.
+    void takeChoices();
+
+    /// ApplyDictionaryChoice with the choice and the file name of this dialog. No choice selected: the old one stays.
+    void applyDictionaryChoice();
+
+    [[nodiscard]] bool isSquare() const { return s8x8.Value; }
+    [[nodiscard]] bool isComputerGame() const { return Check1.Value; }
+
+    /// The values that the choices set and the game reads.
+    GameSettings settings;
+
+    std::string Caption = "LexiGrove Options";
+
+    Choice Option15{"Option15", "On"};
+    Choice Option16{"Option16", "Off"};
+    Choice s8x8{"s8x8", "Square"};
+    Choice s7x8{"s7x8", "Staggered"};
+    Choice Option11{"Option11", "No Animation"};
+    Choice Option10{"Option10", "Animation"};
+    Choice Option9{"Option9", "Computer Dictionary"};
+    Choice Option8{"Option8", "Merriam Webster"};
+    Choice Option7{"Option7", "Free Dictionary"};
+    Choice Option6{"Option6", "Online Dictionary"};
+    Choice Option5{"Option5", "Level 3 - 200,000 words"};
+    Choice Option4{"Option4", "Level 2 - 20,000 words"};
+    Choice Option3{"Option3", "Level 1 - 2,500 words"};
+    Choice Option2{"Option2", "Custom"};
+    Choice Check1{"Check1", "YES"}; ///< a check box of its own, in no group
+    Choice Option14{"Option14", "Any"};
+    Choice Option13{"Option13", "Longest word"};
+    Choice Option12{"Option12", "Highest score word"};
+
+    ChoiceFrame SoundFrame{"Sound", "Set sound on or off", {&Option15, &Option16}};
+    ChoiceFrame ArrangementFrame{"Tiles Arrangement", "Select size of the grid", {&s8x8, &s7x8}};
+    ChoiceFrame DropFrame{"Tiles Drop", "Select how tiles will drop after making a word", {&Option11, &Option10}};
+    ChoiceFrame MeaningsFrame{
+        "Word Meanings from", "Internet source for getting word meanings", {&Option9, &Option8, &Option7, &Option6}};
+    ChoiceFrame SchemeFrame{"Color Scheme", "Select a color scheme for display", {}}; ///< around `Combo1`
+    ChoiceFrame DictionaryFrame{"Dictionary", "Set game level", {&Option5, &Option4, &Option3, &Option2}};
+    ChoiceFrame ComputerFrame{
+        "Play with the Computer", "Play against the computer, scores are not counted", {}}; ///< around `Check1`
+    ChoiceFrame StrategyFrame{"Computer Plays", "", {&Option14, &Option13, &Option12}};
+
+    ComboBox Combo1;
+    TextBox UsrDictName;
+    BoxControl GetUserDictName;
+    PushButton Startx{"Start", "Start this game"};
+    PushButton PSBoard{"Preset Board", "Set board to letters of your choice"};
+    PushButton Exitx{"Exit", "End this game"};
+
+private:
+    void enableUserDictionary(bool enabled);
+    void colourSchemeBox();
+    void setSound();
+    void setStrategy();
+    void hide(Answer answer);
+
+    OptionsContext context_;
+    bool visible_ = false;
+    Answer answer_ = Answer::None;
+};
+
+/// Shows the options dialog.
+class OptionsWindow
+{
+public:
+    virtual ~OptionsWindow() = default;
+
+    /// Shows the form and returns when `Startx` or `Exitx` has hidden it; the form holds which.
+    virtual void show(OptionsForm& form) = 0;
+};
+
+} // namespace lexigrove
