@@ -1,0 +1,289 @@
+#include "controls/dc.hpp"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <stdexcept>
+#include <string_view>
+#include <utility>
+
+namespace lexigrove
+{
+
+namespace
+{
+
+/// The segments of each figure from 0 to 9: top, middle, bottom, upper left, upper right, lower left, lower right.
+constexpr std::array<std::string_view, 10> patterns{
+    "1011111", "0000101", "1110110", "1110101", "0101101", "1111001", "1111011", "1000101", "1111111", "1111101",
+};
+
+constexpr std::array<int, 4> digitLeft{90, 450, 930, 1290};
+
+std::int16_t toInt16(int value)
+{
+    constexpr int lowest = std::numeric_limits<std::int16_t>::min();
+    constexpr int highest = std::numeric_limits<std::int16_t>::max();
+    return static_cast<std::int16_t>(std::clamp(value, lowest, highest));
+}
+
+int divideDown(int dividend, int divisor)
+{
+    return static_cast<int>(std::floor(static_cast<double>(dividend) / divisor));
+}
+
+std::string upperCase(std::string text)
+{
+    for (char& c : text)
+        if (c >= 'a' && c <= 'z')
+            c = static_cast<char>(c - 'a' + 'A');
+    return text;
+}
+
+/// The two ends of a segment. The middle bars of digits 0 and 2 stand a pixel to the left, as the face was drawn.
+std::pair<Point, Point> segmentPlace(int digit, int segment)
+{
+    const int left = digitLeft.at(static_cast<std::size_t>(digit));
+    const int right = left + 240;
+    const int middleShift = digit % 2 == 0 ? -unitsPerPixel : 0;
+    switch (segment) {
+    case 0:
+        return {{left + 60, 90}, {left + 180, 90}};
+    case 1:
+        return {{left + 60 + middleShift, 285}, {left + 180 + middleShift, 285}};
+    case 2:
+        return {{left + 60, 495}, {left + 180, 495}};
+    case 3:
+        return {{left, 135}, {left, 255}};
+    case 4:
+        return {{right, 135}, {right, 255}};
+    case 5:
+        return {{left, 315}, {left, 435}};
+    default:
+        return {{right, 315}, {right, 435}};
+    }
+}
+
+} // namespace
+
+Dc::Dc() : Shapet_{{0, 0}, {Width, 580}, 0, 0}
+{
+    repaint();
+    showValue(0);
+}
+
+void Dc::ClockBackground(Colour value)
+{
+    ClockBackground_ = value;
+    Shapet_.fill = value;
+    Shapet_.border = value;
+    changedAndShown();
+}
+
+void Dc::DigitHighlight(Colour value)
+{
+    DigitHighlight_ = value;
+    colours_[1] = value;
+    repaint();
+    changedAndShown();
+}
+
+void Dc::DigitDim(Colour value)
+{
+    DigitDim_ = value;
+    colours_[0] = value;
+    repaint();
+    changedAndShown();
+}
+
+void Dc::ClockStartValue(std::int16_t value)
+{
+    ClockStartValue_ = value;
+    currentValue_ = value;
+    showValue(value);
+    changedAndShown();
+}
+
+void Dc::ClockIncrement(std::int16_t value)
+{
+    ClockIncrement_ = value;
+    changed_ = true;
+}
+
+void Dc::StartCountdown()
+{
+    running_ = true;
+    dotVisible_ = {true, true};
+    ++revision_;
+}
+
+void Dc::DigitWidth(std::int16_t value)
+{
+    DigitWidth_ = value;
+    thickness_ = value;
+    changedAndShown();
+}
+
+void Dc::ShowTimeOnly(bool value)
+{
+    ShowTimeOnly_ = value;
+    changed_ = true;
+}
+
+void Dc::ClockColor(std::string name)
+{
+    const std::string theme = upperCase(name);
+    ClockColor_ = std::move(name);
+    changed_ = true;
+    if (theme == "DEFAULT")
+        return;
+    if (theme == "GREEN")
+        applyTheme(rgb(0, 50, 0), rgb(0, 100, 0), rgb(0, 244, 0));
+    else if (theme == "RED")
+        applyTheme(rgb(50, 0, 0), rgb(100, 0, 0), rgb(244, 0, 0));
+    else if (theme == "BLUE")
+        applyTheme(rgb(0, 0, 50), rgb(0, 0, 100), rgb(0, 0, 244));
+    repaint();
+}
+
+void Dc::applyTheme(Colour background, Colour dim, Colour highlight)
+{
+    ClockBackground(background);
+    colours_ = {dim, highlight};
+}
+
+bool Dc::tick(double secondsSinceMidnight)
+{
+    if (!running_)
+        return false;
+    if (ShowTimeOnly_) {
+        showTimeOfDay(secondsSinceMidnight);
+        return false;
+    }
+    if (currentValue_ <= 0)
+        return true;
+    currentValue_ = toInt16(currentValue_ + ClockIncrement_);
+    showValue(currentValue_);
+    return false;
+}
+
+void Dc::showValue(int seconds)
+{
+    const int minutes = divideDown(seconds, 60);
+    const int rest = seconds - 60 * minutes;
+    const int tens = divideDown(minutes, 10);
+    showDigit(0, tens);
+    showDigit(1, minutes - 10 * tens);
+    showDigit(2, rest / 10);
+    showDigit(3, rest % 10);
+    lit_[upperDot] = lit_[lowerDot] = rest % 2 == 0;
+    ++revision_;
+}
+
+void Dc::showTimeOfDay(double secondsSinceMidnight)
+{
+    constexpr int day = 24 * 60 * 60;
+    const int time = static_cast<int>(std::clamp(secondsSinceMidnight, 0.0, static_cast<double>(day))) % day;
+    const int hours = time / 3600;
+    const int minutes = time / 60 % 60;
+    showDigit(0, hours / 10);
+    showDigit(1, hours % 10);
+    showDigit(2, minutes / 10);
+    showDigit(3, minutes % 10);
+    const bool secondHalf = time % 60 > 29;
+    dotVisible_ = {!secondHalf, secondHalf};
+    ++revision_;
+}
+
+/// A figure that has no pattern (a hundred minutes and more, or less than none) leaves its digit dark.
+void Dc::showDigit(int digit, int figure)
+{
+    for (int segment = 0; segment < segmentCount; ++segment) {
+        const bool on = figure >= 0 && figure <= 9 &&
+                        patterns[static_cast<std::size_t>(figure)][static_cast<std::size_t>(segment)] == '1';
+        lit_.at(static_cast<std::size_t>(10 * digit + segment)) = on;
+    }
+}
+
+void Dc::repaint()
+{
+    lit_.fill(false);
+    lit_[upperDot] = lit_[lowerDot] = true;
+    Shapet_.fill = ClockBackground_;
+    Shapet_.border = ClockBackground_;
+    ++revision_;
+}
+
+void Dc::changedAndShown()
+{
+    changed_ = true;
+    ++revision_;
+}
+
+ClockLine Dc::lin2(int index) const
+{
+    const Colour colour = colours_[lit(index) ? 1 : 0];
+    if (index == upperDot)
+        return {{810, 210}, {825, 225}, thickness_, colour, dotVisible_[0]};
+    if (index == lowerDot)
+        return {{810, 405}, {825, 420}, thickness_, colour, dotVisible_[1]};
+    const auto [from, to] = segmentPlace(index / 10, index % 10);
+    return {from, to, thickness_, colour, true};
+}
+
+bool Dc::lit(int index) const
+{
+    const bool dot = index == upperDot || index == lowerDot;
+    const bool segment = index >= 0 && index < 10 * digitCount && index % 10 < segmentCount;
+    if (!dot && !segment)
+        throw std::out_of_range("the clock has no such line");
+    return lit_[static_cast<std::size_t>(index)];
+}
+
+int Dc::shownDigit(int digit) const
+{
+    std::string pattern;
+    for (int segment = 0; segment < segmentCount; ++segment)
+        pattern += lit(10 * digit + segment) ? '1' : '0';
+    const auto found = std::find(patterns.begin(), patterns.end(), pattern);
+    return found == patterns.end() ? -1 : static_cast<int>(found - patterns.begin());
+}
+
+void Dc::writeProperties(PropertyBag& bag)
+{
+    bag.write<Colour>("ClockBackground", ClockBackground_, 0);
+    bag.write<Colour>("DigitHighlight", DigitHighlight_, 0);
+    bag.write<Colour>("DigitDim", DigitDim_, 0);
+    bag.write<std::int16_t>("ClockStartValue", ClockStartValue_, 0);
+    bag.write<std::int16_t>("ClockIncrement", ClockIncrement_, 0);
+    bag.write<std::int16_t>("DigitWidth", DigitWidth_, 0);
+    bag.write("ShowTimeOnly", ShowTimeOnly_, false);
+    bag.write<std::string>("ClockColor", ClockColor_, "Green");
+    changed_ = false;
+}
+
+void Dc::readProperties(const PropertyBag& bag)
+{
+    ClockBackground_ = bag.read<Colour>("ClockBackground", 0);
+    DigitHighlight_ = bag.read<Colour>("DigitHighlight", 0);
+    DigitDim_ = bag.read<Colour>("DigitDim", 0);
+    ClockStartValue_ = bag.read<std::int16_t>("ClockStartValue", 0);
+    ClockIncrement_ = bag.read<std::int16_t>("ClockIncrement", 0);
+    DigitWidth_ = bag.read<std::int16_t>("DigitWidth", 0);
+    ShowTimeOnly_ = bag.read("ShowTimeOnly", false);
+    ClockColor_ = bag.read<std::string>("ClockColor", "Green");
+    changed_ = false;
+}
+
+void frame10Released(Dc& clock, int button)
+{
+    if (button == leftButton) {
+        const int thicker = clock.DigitWidth() + 1;
+        clock.DigitWidth(toInt16(thicker >= 7 ? 2 : thicker));
+    } else if (button == rightButton) {
+        const std::string theme = upperCase(clock.ClockColor());
+        clock.ClockColor(theme == "GREEN" ? "BLUE" : theme == "BLUE" ? "RED" : "GREEN");
+    }
+}
+
+} // namespace lexigrove

@@ -1,0 +1,285 @@
+#include "platform/text_file.hpp"
+
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <utility>
+
+namespace lexigrove
+{
+
+namespace
+{
+
+/// The system's reason in English: a translated one would come in the desktop's character set, which is not the game's.
+std::string describe(const std::string& failure, const std::string& path, int errorNumber)
+{
+    std::string text = failure + "\n" + path;
+    if (errorNumber != 0) {
+        const char* reason = strerrordesc_np(errorNumber);
+        text += "\n";
+        text += reason != nullptr ? reason : "Unknown error";
+    }
+    return text;
+}
+
+/// An open file, closed at the end of its scope.
+class Descriptor
+{
+public:
+    explicit Descriptor(int number) : number_(number) {}
+    ~Descriptor()
+    {
+        if (number_ >= 0)
+            ::close(number_);
+    }
+    Descriptor(Descriptor&& other) noexcept : number_(std::exchange(other.number_, -1)) {}
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+    Descriptor& operator=(Descriptor&&) = delete;
+
+    [[nodiscard]] int get() const { return number_; }
+    [[nodiscard]] bool isOpen() const { return number_ >= 0; }
+
+private:
+    int number_;
+};
+
+/// Waits for the exclusive lock. A file system that knows no locks gives none; the game then goes on without.
+void lockExclusively(int descriptor)
+{
+    while (::flock(descriptor, LOCK_EX) != 0 && errno == EINTR) {
+    }
+}
+
+bool isSameFile(int descriptor, const std::string& path)
+{
+    struct stat open = {};
+    struct stat named = {};
+    return ::fstat(descriptor, &open) == 0 && ::lstat(path.c_str(), &named) == 0 && open.st_dev == named.st_dev &&
+           open.st_ino == named.st_ino;
+}
+
+std::string folderOf(const std::string& path)
+{
+    const std::size_t slash = path.rfind('/');
+    if (slash == std::string::npos)
+        return ".";
+    return path.substr(0, slash == 0 ? 1 : slash);
+}
+
+/// The file at the end of a chain of symbolic links, whether it exists or not.
+std::string followLinks(const std::string& path)
+{
+    constexpr int longestChain = 40; // as the system allows
+    std::string file = path;
+    for (int links = 0; links <= longestChain; ++links) {
+        std::string link(4096, '\0');
+        const ssize_t length = ::readlink(file.c_str(), link.data(), link.size());
+        if (length < 0)
+            return file;
+        link.resize(static_cast<std::size_t>(length));
+        file = link.starts_with('/') ? link : folderOf(file) + "/" + link;
+    }
+    throw FileError("Cannot write the file", path, ELOOP);
+}
+
+void writeAll(int descriptor, std::string_view bytes, const std::string& path)
+{
+    while (!bytes.empty()) {
+        const ssize_t written = ::write(descriptor, bytes.data(), bytes.size());
+        if (written < 0 && errno == EINTR)
+            continue;
+        if (written < 0)
+            throw FileError("Cannot write the file", path, errno);
+        bytes.remove_prefix(static_cast<std::size_t>(written));
+    }
+}
+
+void flush(int descriptor, const std::string& path)
+{
+    if (::fsync(descriptor) == 0 || errno == EINVAL || errno == ENOSYS || errno == ENOTSUP)
+        return; // the last three: a file system that has nothing to flush
+    throw FileError("Cannot write the file", path, errno);
+}
+
+/// The temporary file beside a target. Its name is fixed, so that a crash leaves one such file at most and the next
+/// writer takes it over; a lock on it keeps two writers apart.
+class TemporaryFile
+{
+public:
+    explicit TemporaryFile(const std::string& target)
+        : target_(target), path_(target + ".new"), descriptor_(openLocked(path_, target))
+    {
+    }
+    ~TemporaryFile()
+    {
+        if (!renamed_)
+            ::unlink(path_.c_str());
+    }
+    TemporaryFile(const TemporaryFile&) = delete;
+    TemporaryFile& operator=(const TemporaryFile&) = delete;
+
+    /// Gives the file the rights of the one that it replaces; the owner as far as the system lets us.
+    void takeRightsOf(const struct stat& old) const
+    {
+        struct stat own = {};
+        const bool sameOwner =
+            ::fstat(descriptor_.get(), &own) == 0 && own.st_uid == old.st_uid && own.st_gid == old.st_gid;
+        const bool ownerGiven = sameOwner || ::fchown(descriptor_.get(), old.st_uid, old.st_gid) == 0;
+        const mode_t rights = old.st_mode & (ownerGiven ? 07777U : 0777U);
+        if (::fchmod(descriptor_.get(), rights) != 0)
+            throw FileError("Cannot write the file", target_, errno);
+    }
+
+    void write(std::string_view bytes) const
+    {
+        if (::ftruncate(descriptor_.get(), 0) != 0)
+            throw FileError("Cannot write the file", target_, errno);
+        writeAll(descriptor_.get(), bytes, target_);
+        flush(descriptor_.get(), target_);
+    }
+
+    void renameOverTarget()
+    {
+        if (::rename(path_.c_str(), target_.c_str()) != 0)
+            throw FileError("Cannot replace the file", target_, errno);
+        renamed_ = true;
+    }
+
+private:
+    /// Another writer may have renamed or removed the file while we waited for its lock; then there is a new one to
+    /// lock.
+    static Descriptor openLocked(const std::string& path, const std::string& target)
+    {
+        for (;;) {
+            Descriptor file(::open(path.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0666));
+            if (!file.isOpen())
+                throw FileError("Cannot write the file", target, errno);
+            lockExclusively(file.get());
+            if (isSameFile(file.get(), path))
+                return file;
+        }
+    }
+
+    std::string target_;
+    std::string path_;
+    Descriptor descriptor_;
+    bool renamed_ = false;
+};
+
+} // namespace
+
+FileError::FileError(const std::string& failure, const std::string& path, int errorNumber)
+    : std::runtime_error(describe(failure, path, errorNumber))
+{
+}
+
+std::string readFile(const std::string& path)
+{
+    const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
+    if (!file.isOpen())
+        throw FileError("Cannot open the file", path, errno);
+
+    struct stat status = {};
+    const bool known = ::fstat(file.get(), &status) == 0 && status.st_size > 0;
+    std::string bytes(known ? static_cast<std::size_t>(status.st_size) + 1 : 4096, '\0'); // one more to meet the end
+    std::size_t length = 0;
+    for (;;) {
+        if (length == bytes.size())
+            bytes.resize(2 * bytes.size());
+        const ssize_t got = ::read(file.get(), bytes.data() + length, bytes.size() - length);
+        if (got < 0 && errno == EINTR)
+            continue;
+        if (got < 0)
+            throw FileError("Cannot read the file", path, errno);
+        if (got == 0)
+            break;
+        length += static_cast<std::size_t>(got);
+    }
+    bytes.resize(length);
+    return bytes;
+}
+
+std::vector<std::string_view> splitLines(std::string_view text)
+{
+    std::vector<std::string_view> lines;
+    std::size_t start = 0;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] != '\r' && text[i] != '\n')
+            continue;
+        lines.push_back(text.substr(start, i - start));
+        if (text[i] == '\r' && i + 1 < text.size() && text[i + 1] == '\n')
+            ++i;
+        start = i + 1;
+    }
+    if (start < text.size())
+        lines.push_back(text.substr(start));
+    return lines;
+}
+
+std::vector<std::string> readLines(const std::string& path)
+{
+    const std::string text = readFile(path);
+    const std::vector<std::string_view> lines = splitLines(text);
+    return {lines.begin(), lines.end()};
+}
+
+void replaceFile(const std::string& path, std::string_view bytes)
+{
+    const std::string target = followLinks(path);
+    struct stat old = {};
+    const bool exists = ::stat(target.c_str(), &old) == 0;
+    if (exists && !S_ISREG(old.st_mode))
+        throw FileError("Cannot replace the file", path, S_ISDIR(old.st_mode) ? EISDIR : EINVAL);
+    if (exists && ::access(target.c_str(), W_OK) != 0) // a rename would pass over the player's write protection
+        throw FileError("Cannot replace the file", path, errno);
+
+    TemporaryFile temporary(target);
+    if (exists)
+        temporary.takeRightsOf(old);
+    temporary.write(bytes);
+    temporary.renameOverTarget();
+
+    // The new file stands. That its name has reached the disk too is wished for, but its failure would not bring the
+    // old file back, so it is no error.
+    const Descriptor folder(::open(folderOf(target).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (folder.isOpen())
+        ::fsync(folder.get());
+}
+
+void replaceLines(const std::string& path, const std::vector<std::string>& lines)
+{
+    std::string bytes;
+    for (const std::string& line : lines) {
+        bytes += line;
+        bytes += "\r\n";
+    }
+    replaceFile(path, bytes);
+}
+
+void copyFile(const std::string& source, const std::string& target)
+{
+    replaceFile(target, readFile(source));
+}
+
+FileLock::FileLock(const std::string& path)
+    : descriptor_(::open((path + ".lock").c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666))
+{
+    if (descriptor_ < 0) // left behind by another user of the folder: reading it is enough for a lock
+        descriptor_ = ::open((path + ".lock").c_str(), O_RDONLY | O_CLOEXEC);
+    if (descriptor_ >= 0)
+        lockExclusively(descriptor_);
+}
+
+// The lock file stays: removing it would let a game that waits for it and one that comes anew lock two different files.
+FileLock::~FileLock()
+{
+    if (descriptor_ >= 0)
+        ::close(descriptor_);
+}
+
+} // namespace lexigrove
