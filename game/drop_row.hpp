@@ -1,0 +1,48 @@
+#pragma once
+
+#include "game/board.hpp"
+#include "game/letter_supply.hpp"
+#include "game/tile_look.hpp"
+#include "platform/screen.hpp"
+#include "settings/options_form.hpp"
+#include "settings/sound_cues.hpp"
+
+#include <vector>
+
+namespace lexigrove
+{
+
+/// Drops waiting letters from `TopDrop` into the empty top cells of a column.
+class DropRow
+{
+public:
+    DropRow(Board& board, LetterSupply& supply, const TileLook& look, SoundCues& sounds, Screen& screen,
+            const OptionsForm& options)
+        : board_(board), supply_(supply), look_(look), sounds_(sounds), screen_(screen), options_(options)
+    {
+    }
+
+    /// A mouse button released over the waiting tile of column 1 to 8, which is visible. Its letter lands lowest; the
+    /// waiting tiles beside it follow while the column has room, first those on the left, then those on the right, up
+    /// to the first gap in the drop row. A full column refuses with a sound. Refills the drop row.
+    void dropIntoColumn(int col);
+
+    /// The column over which a drop is under way, 0 when none is: a front end shows a guide line under it.
+    [[nodiscard]] int guideColumn() const { return guideColumn_; }
+
+private:
+    [[nodiscard]] std::vector<int> collect(int col, int wanted) const;
+    void animateWaitingTileDown(BoxControl& waiting, int top);
+    void slideWaitingTileOver(BoxControl& waiting, int left);
+    void land(BoxControl& waiting, BoxControl& target, int row, int col);
+
+    Board& board_;
+    LetterSupply& supply_;
+    const TileLook& look_;
+    SoundCues& sounds_;
+    Screen& screen_;
+    const OptionsForm& options_;
+    int guideColumn_ = 0;
+};
+
+} // namespace lexigrove

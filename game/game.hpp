@@ -1,0 +1,51 @@
+#pragma once
+
+#include "dictionary/dictionary.hpp"
+#include "game/board.hpp"
+#include "game/drop_row.hpp"
+#include "game/game_state.hpp"
+#include "game/letter_supply.hpp"
+#include "game/red_tiles.hpp"
+#include "game/selection.hpp"
+#include "game/tile_look.hpp"
+#include "game/tile_removal.hpp"
+#include "game/word_entry.hpp"
+#include "platform/ports.hpp"
+#include "settings/colour_scheme.hpp"
+#include "settings/options_form.hpp"
+#include "settings/sound_cues.hpp"
+
+namespace lexigrove
+{
+
+/// The board and everything that is played on it, put together. What it is given outlives it.
+struct Game {
+    Game(const Ports& outside, Dictionary& words, SoundCues& cues, ColourScheme& colours, OptionsForm& form)
+        : ports(outside), dictionary(words), sounds(cues), scheme(colours), options(form)
+    {
+        board.setScreen(&ports.screen);
+    }
+    Game(const Game&) = delete;
+    Game& operator=(const Game&) = delete;
+
+    const Ports ports;
+    Dictionary& dictionary;
+    SoundCues& sounds;
+    ColourScheme& scheme;
+    OptionsForm& options;
+
+    GameState state;
+    Board board;
+    TileLook look{scheme};
+    LetterSupply supply{state, board, dictionary.letters, options.settings, ports.random, ports.clock};
+    Selection selection{state, board, look, sounds};
+    TileRemoval removal{board, selection, look, sounds, ports.screen, options};
+    DropRow dropRow{board, supply, look, sounds, ports.screen, options};
+    WordEntry wordEntry{state, board, selection, removal, look, dictionary, sounds, ports};
+    RedTiles redTiles{state, board, selection, removal, dropRow, look, dictionary, ports};
+
+    /// Gives every tile the look of its multiplier, or of the path where it is part of it, in the current scheme.
+    void refreshLooks();
+};
+
+} // namespace lexigrove

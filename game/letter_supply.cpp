@@ -1,0 +1,127 @@
+#include "game/letter_supply.hpp"
+
+#include <utility>
+
+namespace lexigrove
+{
+
+namespace
+{
+
+constexpr int poolSize = LetterTables::poolSize;
+
+std::string letterText(char letter)
+{
+    return std::string(1, letter);
+}
+
+/// Character `place` (1-based) of a preset text as a letter; a text that is too short has none.
+std::string presetLetter(const std::string& preset, int place)
+{
+    const auto i = static_cast<std::size_t>(place - 1);
+    return i < preset.size() ? letterText(preset[i]) : std::string();
+}
+
+} // namespace
+
+void LetterSupply::shufflePool()
+{
+    for (std::size_t i = 1; i <= poolSize; ++i) {
+        const int j = placeFromDraw(random_.reseedAndDraw(clock_), poolSize);
+        std::swap(letters_.pool[i], letters_.pool[static_cast<std::size_t>(j)]);
+    }
+}
+
+void LetterSupply::dealLetters()
+{
+    shufflePool();
+    RandomLetters.clear();
+    for (std::size_t i = Board::tileCount + 1; i <= poolSize; ++i)
+        RandomLetters.push_back(letterText(letters_.pool[i]));
+    for (int tile = 1; tile <= Board::tileCount; ++tile) {
+        board_.tile(tile).Caption(letterText(letters_.pool[static_cast<std::size_t>(tile)]));
+        board_.tile(tile).MaskColor(multiplier::plain);
+        board_.tile(tile).Tag("");
+    }
+    const bool staggered = board_.arrangement() == Arrangement::Staggered;
+    if (staggered) {
+        for (const int hidden : {8, 24, 40, 56})
+            RandomLetters.push_back(board_.letter(hidden));
+    }
+
+    if (const std::string& preset = settings_.presetLetters; !preset.empty()) {
+        for (int tile = 1; tile <= Board::tileCount; ++tile)
+            board_.tile(tile).Caption(presetLetter(preset, tile));
+        RandomLetters.clear();
+        for (int place = Board::tileCount + 1; place <= poolSize; ++place)
+            RandomLetters.push_back(presetLetter(preset, place));
+    }
+
+    fillTopRow();
+    state_.TilesLeft.Caption = staggered ? "32" : "24";
+    state_.bonusTilesOnBoard = 0;
+    state_.redTilesOnBoard = 0;
+}
+
+/// Reading place k while the first entry goes, place after place, shows every second letter of the first sixteen: the
+/// letters over columns 5 to 8 stay in the queue as well, and four letters are dropped unseen.
+void LetterSupply::fillTopRow()
+{
+    for (int k = 0; k <= 7; ++k) {
+        const auto place = static_cast<std::size_t>(k);
+        waitAtHome(k + 1, place < RandomLetters.size() ? RandomLetters[place] : std::string());
+        if (!RandomLetters.empty())
+            RandomLetters.pop_front();
+    }
+}
+
+std::string LetterSupply::nextLetter()
+{
+    if (RandomLetters.empty())
+        return {};
+    std::string letter = std::move(RandomLetters.front());
+    RandomLetters.pop_front();
+    return letter;
+}
+
+void LetterSupply::refillTopRow()
+{
+    std::string pattern = "????????";
+    for (std::size_t k = 1; k <= Board::columns; ++k) {
+        const BoxControl& waiting = board_.TopDrop[k];
+        if (waiting.Visible()) {
+            const int column = (waiting.Left() - 30) / layout::cellSize + 1;
+            pattern[static_cast<std::size_t>(column - 1)] = waiting.Caption().empty() ? ' ' : waiting.Caption().front();
+        }
+    }
+
+    if (state_.TilesLeft.Caption != "NONE") {
+        for (int k = 1; k <= Board::columns; ++k) {
+            if (pattern[static_cast<std::size_t>(k - 1)] != '?')
+                continue;
+            const std::string letter = nextLetter();
+            if (letter.empty())
+                break;
+            state_.TilesLeft.Caption = std::to_string(numberOf(state_.TilesLeft.Caption) - 1);
+            waitAtHome(k, letter);
+        }
+    }
+
+    if (RandomLetters.size() < 8 && state_.computerGame) {
+        shufflePool();
+        for (std::size_t i = 1; i <= poolSize; ++i)
+            RandomLetters.push_back(letterText(letters_.pool[i]));
+    }
+}
+
+/// A waiting tile without a letter is hidden.
+void LetterSupply::waitAtHome(int col, const std::string& letter)
+{
+    BoxControl& waiting = board_.TopDrop[static_cast<std::size_t>(col)];
+    waiting.Caption(letter);
+    waiting.Left(board_.homeLeft(col));
+    waiting.Top(layout::dropRowTop);
+    waiting.Visible(!letter.empty());
+}
+
+} // namespace lexigrove

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "dictionary/letter_tables.hpp"
+#include "game/board.hpp"
+#include "game/game_state.hpp"
+#include "platform/clock.hpp"
+#include "platform/random.hpp"
+#include "settings/game_settings.hpp"
+
+#include <deque>
+#include <string>
+
+namespace lexigrove
+{
+
+/// Where the letters come from: the pool of 100, the queue of upcoming letters and the drop row `TopDrop`.
+class LetterSupply
+{
+public:
+    LetterSupply(GameState& state, Board& board, LetterTables& letters, const GameSettings& settings, Random& random,
+                 const Clock& clock)
+        : state_(state), board_(board), letters_(letters), settings_(settings), random_(random), clock_(clock)
+    {
+    }
+
+    /// Shuffles the pool in place: each of the 100 entries in turn changes places with any entry.
+    void shufflePool();
+
+    /// Deals the first 64 letters onto the tiles and the others into the queue, fills the drop row, and sets
+    /// `TilesLeft` to its start value. A preset letters text replaces the shuffled letters. Called once a game, after
+    /// the board is laid out.
+    void dealLetters();
+
+    /// Takes the first letter off the queue; the empty text when the queue is empty.
+    std::string nextLetter();
+
+    /// Puts a new letter on each empty place of the drop row and counts `TilesLeft` down. A game against the computer
+    /// never runs out of letters: its queue is topped up with the freshly shuffled pool.
+    void refillTopRow();
+
+    /// Upcoming letters, the next one first. A letter is one character; an empty text is a place without a letter.
+    std::deque<std::string> RandomLetters;
+
+private:
+    void fillTopRow();
+    void waitAtHome(int col, const std::string& letter);
+
+    GameState& state_;
+    Board& board_;
+    LetterTables& letters_;
+    const GameSettings& settings_;
+    Random& random_;
+    const Clock& clock_;
+};
+
+} // namespace lexigrove

@@ -1,0 +1,81 @@
+#pragma once
+
+#include "dictionary/dictionary.hpp"
+#include "game/board.hpp"
+#include "game/drop_row.hpp"
+#include "game/game_state.hpp"
+#include "game/selection.hpp"
+#include "game/tile_look.hpp"
+#include "game/tile_removal.hpp"
+#include "platform/ports.hpp"
+
+#include <cstdint>
+
+namespace lexigrove
+{
+
+/// The pressure of the solo game: red tiles at the tops of columns, and columns that are pushed down. Both do nothing
+/// in a game against the computer and under the hold flag.
+class RedTiles
+{
+public:
+    static constexpr int redTimerInterval = 1000;   ///< `UpdateRedTriggerTimer`, milliseconds
+    static constexpr int pushTimerInterval = 64000; ///< `MoveColDownTimer`, milliseconds
+    static constexpr int mostRedTiles = 4;
+
+    RedTiles(GameState& state, Board& board, Selection& selection, TileRemoval& removal, DropRow& dropRow,
+             const TileLook& look, Dictionary& dictionary, const Ports& ports)
+        : state_(state),
+          board_(board),
+          selection_(selection),
+          removal_(removal),
+          dropRow_(dropRow),
+          look_(look),
+          dictionary_(dictionary),
+          ports_(ports)
+    {
+    }
+
+    /// A tick of `UpdateRedTriggerTimer`: counts, computes the pressure, and makes a red tile when it has risen by the
+    /// red threshold since the last one.
+    void redTimerTick();
+
+    /// How far the game has come: words, weighted by their lengths, hints, red tiles used, and time.
+    [[nodiscard]] std::int32_t pressure() const;
+
+    /// Turns the topmost plain tile of a column, drawn at random, red. Nothing happens with four red tiles on the board
+    /// or without a plain tile. The next one needs a little less pressure.
+    void makeRedTile();
+
+    enum class Push {
+        Nothing, ///< held, or no special tile on the board
+        Pushed,
+        Lost, ///< the tile to be pushed out is red; the column stands as it did
+    };
+
+    struct PushResult {
+        Push what = Push::Nothing;
+        int col = 0; ///< the column drawn, 0 for Nothing
+    };
+
+    /// A tick of `MoveColDownTimer`: draws a special tile and pushes its column down by one cell; the waiting letter
+    /// falls in at the top.
+    PushResult pushTimerTick();
+
+    /// Shows the red tile at the bottom of a column leaving the board: the end of a lost game.
+    void pushOutRedTile(int col);
+
+private:
+    void pushColumn(int col);
+
+    GameState& state_;
+    Board& board_;
+    Selection& selection_;
+    TileRemoval& removal_;
+    DropRow& dropRow_;
+    const TileLook& look_;
+    Dictionary& dictionary_;
+    const Ports& ports_;
+};
+
+} // namespace lexigrove

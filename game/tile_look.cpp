@@ -1,0 +1,41 @@
+#include "game/tile_look.hpp"
+
+namespace lexigrove
+{
+
+namespace
+{
+
+void showEdges(BoxControl& tile, const ColourScheme& scheme)
+{
+    tile.BorderTop(scheme.entry(scheme_entry::tileTop));
+    tile.BorderLeft(scheme.entry(scheme_entry::tileLeft));
+    tile.BorderBottom(scheme.entry(scheme_entry::tileBottom));
+    tile.BorderRight(scheme.entry(scheme_entry::tileRight));
+}
+
+} // namespace
+
+void TileLook::showNormal(BoxControl& tile) const
+{
+    const int multiplier = static_cast<int>(tile.MaskColor());
+    showEdges(tile, scheme_);
+    tile.ForeColor(scheme_.tileLetter(multiplier));
+    tile.KeepUp();
+    tile.backcolor(scheme_.tileFace(multiplier));
+}
+
+void TileLook::showSelected(BoxControl& tile) const
+{
+    const int multiplier = static_cast<int>(tile.MaskColor());
+    tile.ForeColor(scheme_.selectedLetter(multiplier));
+    tile.backcolor(scheme_.selectedFace(multiplier));
+    tile.KeepDown(); // last: a redraw of a held tile would show its frame again
+}
+
+Colour TileLook::scoreGround(int bestMultiplier) const
+{
+    return bestMultiplier > 1 ? scheme_.tileFace(bestMultiplier) : system_colour::windowBackground;
+}
+
+} // namespace lexigrove

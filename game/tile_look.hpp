@@ -1,0 +1,28 @@
+#pragma once
+
+#include "controls/box_control.hpp"
+#include "settings/colour_scheme.hpp"
+
+namespace lexigrove
+{
+
+/// How tiles look in the colours of the current scheme.
+class TileLook
+{
+public:
+    explicit TileLook(const ColourScheme& scheme) : scheme_(scheme) {}
+
+    /// The look of its multiplier: face, letter and edges; raised.
+    void showNormal(BoxControl& tile) const;
+
+    /// Part of a path: face and letter exchange their colours, and the tile is held down.
+    void showSelected(BoxControl& tile) const;
+
+    /// Back colour of `CurrScore`: the colour of a double, triple or quadruple tile, else the normal one.
+    [[nodiscard]] Colour scoreGround(int bestMultiplier) const;
+
+private:
+    const ColourScheme& scheme_;
+};
+
+} // namespace lexigrove

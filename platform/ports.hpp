@@ -1,0 +1,23 @@
+#pragma once
+
+#include "platform/clock.hpp"
+#include "platform/dialogs.hpp"
+#include "platform/random.hpp"
+#include "platform/screen.hpp"
+#include "platform/sound_device.hpp"
+#include "platform/status_line.hpp"
+
+namespace lexigrove
+{
+
+/// The outside world as one front end gives it to the game, once. It outlives the game.
+struct Ports {
+    Dialogs& dialogs;
+    Screen& screen;
+    SoundDevice& sound;
+    const Clock& clock;
+    Random& random;
+    StatusLine& status;
+};
+
+} // namespace lexigrove
