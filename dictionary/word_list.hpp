@@ -36,7 +36,7 @@ public:
     [[nodiscard]] std::string_view entry(int index) const
     {
         const auto place = static_cast<std::size_t>(index);
-        if (place + 1 < words_->starts.size()) [[likely]]
+        if (place < words_->starts.size() - 1) [[likely]]
             return between(words_->starts[place], words_->starts[place + 1]);
         return unwrittenEntry(index);
     }
@@ -51,6 +51,14 @@ public:
 
     /// Says how many entries are words, 0 to 250,000. No entry changes.
     void setCount(int count);
+
+    /// Whether the other list holds the same words because it is a copy of this one, or this one of it. What was made
+    /// from a list can keep a copy of it and see whether the list has changed since. Never true of a list that was
+    /// written anew.
+    [[nodiscard]] bool isCopyOf(const WordList& other) const
+    {
+        return words_ == other.words_ && count_ == other.count_;
+    }
 
     /// Bytes that the list holds in memory.
     [[nodiscard]] std::size_t memory() const;
