@@ -57,7 +57,7 @@ public:
     [[nodiscard]] Colour entry(std::size_t index) const { return entries_.at(index); }
 
     /// An entry as a plain colour: a system colour is looked up in `palette`.
-    [[nodiscard]] Colour plain(std::size_t index) const { return palette.resolve(entries_.at(index)); }
+    [[nodiscard]] Colour plain(std::size_t index) const { return palette.resolve(entries_.at(index)) & 0xFFFFFFU; }
 
     /// The face of a tile by its multiplier (1 plain; 2, 3, 4 bonus; 9 red) and the letter on it, as plain colours: the
     /// scheme's letter on a plain tile, black or white on a coloured one, whichever reads better.

@@ -19,7 +19,6 @@ struct ConfigurationContext {
     Dc& Dc1; ///< the main window's clock
     ColourScheme& scheme;
     Dictionary& dictionary;
-    SoundCues& sounds;
     std::string folder; ///< the program folder with its closing separator
 };
 
@@ -45,8 +44,8 @@ public:
 
 private:
     bool read(Colour windowBackground, Colour list1Background);
+    void readCustomDictionary(const std::string& line);
     void setDefaults();
-    void applySound();
 
     ConfigurationContext context_;
     std::string path_;

@@ -53,10 +53,6 @@ public:
 
     /// The mouse button was released over the control: runs its handler, if it has one.
     void mouseReleased(Choice& choice);
-    void check1Released();
-
-    /// Check box "YES" of "Play with the Computer".
-    void setCheck1(bool checked) { Check1.Value = checked; }
 
     /// `GetUserDictName` was released: asks for a file; a cancelled dialog changes nothing.
     void browseUserDictionary();
@@ -92,6 +88,12 @@ public:
 
     /// ApplyDictionaryChoice with the choice and the file name of this dialog. No choice selected: the old one stays.
     void applyDictionaryChoice();
+
+    /// Enables or disables `UsrDictName` and `GetUserDictName`.
+    void enableUserDictionary(bool enabled);
+
+    /// Sets the sound flag and the caption of `SoundOnOff` from "On" and "Off"; with neither selected they stay.
+    void setSound();
 
     [[nodiscard]] bool isSquare() const { return s8x8.Value; }
     [[nodiscard]] bool isComputerGame() const { return Check1.Value; }
@@ -139,9 +141,7 @@ public:
     PushButton Exitx{"Exit", "End this game"};
 
 private:
-    void enableUserDictionary(bool enabled);
     void colourSchemeBox();
-    void setSound();
     void setStrategy();
     void hide(Answer answer);
 

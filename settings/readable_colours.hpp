@@ -22,8 +22,8 @@ Colour readableText(Colour wanted, Colour ground, Colour otherGround);
 /// A text that stands back: mixed with its ground, yet with the least contrast where the text itself has it.
 Colour quietOn(Colour text, Colour ground);
 
-/// A face under the pointer: a little lifted in tone.
-Colour lifted(Colour face);
+/// A face under the pointer: a little lighter, or a little darker where that would not show or its text would suffer.
+Colour lifted(Colour face, Colour text);
 
 /// The same hue and saturation at the nearest lightness that reads on both grounds with the given contrast.
 Colour shadeFor(Colour colour, Colour ground, Colour otherGround, double contrast);

@@ -1,0 +1,143 @@
+#include "scores/score_file.hpp"
+
+#include "dictionary/field_cipher.hpp"
+#include "platform/text_file.hpp"
+
+#include <algorithm>
+#include <filesystem>
+#include <optional>
+#include <system_error>
+#include <utility>
+
+namespace lexigrove
+{
+
+namespace
+{
+
+constexpr std::size_t digits = 5;
+
+/// The lines of the default file, in the order in which it holds them.
+std::vector<std::string> defaultLines()
+{
+    std::vector<std::string> lines;
+    for (int i = 1; i <= ScoreFile::lineCount; ++i)
+        lines.push_back(scoreLine(20 - i, "Yelka"));
+    return lines;
+}
+
+bool isScoreLine(const std::string& line)
+{
+    return line.size() > digits + 1 && line[digits] == '\t' &&
+           std::all_of(line.begin(), line.begin() + digits, [](char c) { return c >= '0' && c <= '9'; });
+}
+
+/// The score lines of the file in ascending order; nothing when the file is there but cannot be read.
+std::optional<std::vector<std::string>> readScoreLines(const std::string& path)
+{
+    std::error_code noFile;
+    if (!std::filesystem::exists(path, noFile))
+        return std::vector<std::string>{};
+    try {
+        std::vector<std::string> lines;
+        for (const std::string& cipher : readLines(path)) {
+            std::string line = decipher(cipher, scoreFileKey);
+            if (isScoreLine(line))
+                lines.push_back(std::move(line));
+        }
+        std::sort(lines.begin(), lines.end());
+        return lines;
+    } catch (const FileError&) {
+        return std::nullopt;
+    }
+}
+
+/// Ten lines out of any number in ascending order: the best ten, or all of them and the default lines that they lack.
+std::vector<std::string> bestTen(std::vector<std::string> lines)
+{
+    constexpr std::size_t wanted = ScoreFile::lineCount;
+    for (const std::string& line : defaultLines()) {
+        if (lines.size() < wanted && std::find(lines.begin(), lines.end(), line) == lines.end())
+            lines.push_back(line);
+    }
+    std::sort(lines.begin(), lines.end());
+    if (lines.size() > wanted)
+        lines.erase(lines.begin(), lines.end() - static_cast<std::ptrdiff_t>(wanted));
+    return lines;
+}
+
+bool writeScoreLines(const std::string& path, const std::vector<std::string>& lines)
+{
+    std::vector<std::string> ciphers;
+    for (const std::string& line : lines)
+        ciphers.push_back(encipher(line, scoreFileKey));
+    try {
+        replaceLines(path, ciphers);
+        return true;
+    } catch (const FileError&) {
+        return false;
+    }
+}
+
+bool isMissingOrEmpty(const std::string& path)
+{
+    std::error_code failure;
+    const auto size = std::filesystem::file_size(path, failure);
+    return failure ? !std::filesystem::exists(path, failure) : size == 0;
+}
+
+} // namespace
+
+ScoreFile::ScoreFile(std::string folder, Dialogs& dialogs)
+    : path_(std::move(folder) + "LexigroveScores.txt"), dialogs_(dialogs)
+{
+}
+
+void ScoreFile::ensure()
+{
+    if (!isMissingOrEmpty(path_))
+        return;
+    dialogs_.message("Scores File not found - will create a new one");
+    const FileLock lock(path_);
+    if (isMissingOrEmpty(path_)) // another game may have made it while the message stood
+        writeScoreLines(path_, defaultLines());
+}
+
+std::vector<std::string> ScoreFile::load()
+{
+    ensure();
+    return bestTen(readScoreLines(path_).value_or(std::vector<std::string>{}));
+}
+
+int ScoreFile::lowest()
+{
+    return scoreOf(load().front());
+}
+
+bool ScoreFile::record(int score, const std::string& name)
+{
+    const FileLock lock(path_);
+    const auto readable = readScoreLines(path_);
+    if (!readable)
+        return false; // the scores in it are not to be written over unseen
+    std::vector<std::string> list = bestTen(*readable);
+    const std::string line = scoreLine(score, name);
+    if (scoreOf(list.front()) >= scoreOf(line))
+        return false;
+    list.erase(list.begin());
+    list.insert(std::upper_bound(list.begin(), list.end(), line), line);
+    return writeScoreLines(path_, list);
+}
+
+std::string scoreLine(int score, const std::string& name)
+{
+    const std::string number = std::to_string(std::clamp(score, 0, ScoreFile::highestScore));
+    return std::string(digits - number.size(), '0') + number + "\t" + name;
+}
+
+int scoreOf(const std::string& line)
+{
+    return std::stoi(line.substr(0, digits));
+}
+
+} // namespace lexigrove

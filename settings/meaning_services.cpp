@@ -1,0 +1,99 @@
+#include "settings/meaning_services.hpp"
+
+#include "platform/text_file.hpp"
+
+#include <algorithm>
+#include <vector>
+
+namespace lexigrove
+{
+
+namespace
+{
+
+struct ServiceAddress {
+    const char* host; ///< where the player's file names no other
+    const char* path;
+    const char* afterWord;
+};
+
+constexpr std::array<ServiceAddress, MeaningServices::serviceCount> addresses{{
+    {"https://www.dictionary.com", "/cgi-bin/dict.pl?term=", ""},
+    {"https://www.thefreedictionary.com", "/", ""},
+    {"https://www.merriam-webster.com", "/cgi-bin/dictionary?book=Dictionary&va=", ""},
+    {"https://foldoc.org", "/foldoc/foldoc.cgi?query=", "&action=Search"},
+}};
+
+std::string_view withoutEnds(std::string_view line)
+{
+    while (!line.empty() && (line.front() == ' ' || line.front() == '\t'))
+        line.remove_prefix(1);
+    while (!line.empty() && (line.back() == ' ' || line.back() == '\t' || line.back() == '/'))
+        line.remove_suffix(1);
+    return line;
+}
+
+bool isDigit(char c)
+{
+    return c >= '0' && c <= '9';
+}
+
+bool isHostCharacter(char c)
+{
+    return isDigit(c) || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '-' || c == '.';
+}
+
+bool isPort(std::string_view text)
+{
+    return !text.empty() && text.size() <= 5 && std::all_of(text.begin(), text.end(), isDigit);
+}
+
+} // namespace
+
+MeaningServices::MeaningServices(std::string folder)
+{
+    std::vector<std::string> lines;
+    try {
+        lines = readLines(folder + "MeaningServices.txt");
+    } catch (const FileError&) {
+        // the built-in addresses do
+    }
+    for (std::size_t i = 0; i < serviceCount; ++i) {
+        const std::string_view line = i < lines.size() ? withoutEnds(lines[i]) : std::string_view{};
+        hosts_[i] = isServiceAddress(line) ? std::string(line) : addresses[i].host;
+    }
+}
+
+void MeaningServices::choose(const OptionsForm& options)
+{
+    if (options.Option6.Value)
+        chosen_ = Online;
+    if (options.Option7.Value)
+        chosen_ = Free;
+    if (options.Option8.Value)
+        chosen_ = MerriamWebster;
+    if (options.Option9.Value)
+        chosen_ = Computing;
+}
+
+std::string MeaningServices::addressOf(std::string_view word) const
+{
+    return hosts_[chosen_] + addresses[chosen_].path + std::string(word) + addresses[chosen_].afterWord;
+}
+
+bool isServiceAddress(std::string_view text)
+{
+    const bool plain = text.starts_with("http://");
+    if (!plain && !text.starts_with("https://"))
+        return false;
+    text.remove_prefix(plain ? 7 : 8);
+    const std::size_t colon = text.find(':');
+    if (colon != std::string_view::npos && !isPort(text.substr(colon + 1)))
+        return false;
+    const std::string_view host = text.substr(0, colon);
+    if (host.empty() || !std::all_of(host.begin(), host.end(), isHostCharacter))
+        return false;
+    return !plain || host == "localhost" || host == "127.0.0.1";
+}
+
+} // namespace lexigrove

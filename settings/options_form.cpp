@@ -1,0 +1,229 @@
+#include "settings/options_form.hpp"
+
+#include "settings/preset_board.hpp"
+
+#include <algorithm>
+#include <filesystem>
+#include <system_error>
+
+namespace lexigrove
+{
+
+namespace
+{
+
+/// Returns to the working folder that was current before a file dialog, which may change it.
+class WorkingFolder
+{
+public:
+    WorkingFolder() : folder_(std::filesystem::current_path(failure_)) {}
+    ~WorkingFolder()
+    {
+        if (!failure_)
+            std::filesystem::current_path(folder_, failure_);
+    }
+    WorkingFolder(const WorkingFolder&) = delete;
+    WorkingFolder& operator=(const WorkingFolder&) = delete;
+
+private:
+    std::error_code failure_;
+    std::filesystem::path folder_;
+};
+
+} // namespace
+
+OptionsForm::OptionsForm(const OptionsContext& context) : context_(context)
+{
+    for (Choice* choice : {&Option15, &s7x8, &Option11, &Option7, &Option4, &Option12})
+        select(*choice);
+    StrategyFrame.Enabled = Check1.Value;
+
+    Combo1.Text = "Default";
+    UsrDictName.Text = "UsrDict.txt";
+    GetUserDictName.Caption("...");
+    GetUserDictName.ToolTipText("Browse for a user dictionary");
+    enableUserDictionary(false);
+}
+
+std::vector<ChoiceFrame*> OptionsForm::choiceFrames()
+{
+    return {&SoundFrame, &ArrangementFrame, &DropFrame, &MeaningsFrame, &DictionaryFrame, &StrategyFrame};
+}
+
+Choice* OptionsForm::find(const std::string& name)
+{
+    if (name == Check1.name)
+        return &Check1;
+    for (const ChoiceFrame* frame : choiceFrames()) {
+        for (Choice* choice : frame->choices) {
+            if (choice->name == name)
+                return choice;
+        }
+    }
+    return nullptr;
+}
+
+void OptionsForm::setValue(Choice& choice, bool value)
+{
+    choice.Value = value;
+    if (!value || &choice == &Check1)
+        return;
+    for (const ChoiceFrame* frame : choiceFrames()) {
+        const auto& group = frame->choices;
+        if (std::find(group.begin(), group.end(), &choice) == group.end())
+            continue;
+        for (Choice* other : group)
+            other->Value = other == &choice;
+    }
+}
+
+void OptionsForm::mouseReleased(Choice& choice)
+{
+    if (&choice == &Check1) {
+        StrategyFrame.Enabled = Check1.Value;
+    } else if (&choice == &Option15 || &choice == &Option16) {
+        if (choice.Value)
+            context_.sounds.setOn(&choice == &Option15);
+    } else if (&choice == &Option11) {
+        if (Option11.Value)
+            settings.dropDelay = 0;
+    } else if (&choice == &Option10) {
+        if (!Option10.Value) // a selected one leaves the delay to whatever set it last
+            settings.dropDelay = 0;
+    } else if (&choice == &Option12 || &choice == &Option13 || &choice == &Option14) {
+        if (choice.Value)
+            setStrategy();
+    } else if (&choice == &Option2) {
+        enableUserDictionary(Option2.Value);
+        applyDictionaryChoice();
+    } else if (&choice == &Option3 || &choice == &Option4 || &choice == &Option5) {
+        if (choice.Value)
+            enableUserDictionary(false);
+        applyDictionaryChoice();
+    }
+}
+
+void OptionsForm::browseUserDictionary()
+{
+    const std::string patterns = "*.txt;*.dat;*.dic";
+    OpenFileRequest request;
+    request.title = "Select User Dictionary file to open";
+    request.filter = "Text Files (" + patterns + ")" + '\0' + patterns + '\0';
+    request.initialFolder = context_.folder;
+
+    std::string file;
+    {
+        const WorkingFolder back;
+        file = context_.dialogs.openFile(request);
+    }
+    if (file.empty())
+        return;
+    UsrDictName.Text = file;
+    UsrDictName.ToolTipText = file;
+    applyDictionaryChoice();
+}
+
+void OptionsForm::typeUserDictName(const std::string& text)
+{
+    UsrDictName.Text = text;
+    applyDictionaryChoice();
+}
+
+void OptionsForm::presetBoard()
+{
+    settings.boardTileCount = 64;
+    const std::string letters = askForPresetLetters(context_.dialogs, GameSettings::presetLength);
+    if (letters.empty())
+        return;
+    settings.presetLetters = letters;
+    context_.dialogs.message("Tiles preset, press Start to commence game");
+}
+
+void OptionsForm::chooseScheme(const std::string& name)
+{
+    const BusyPointer busy(context_.screen);
+    Combo1.Text = name;
+    context_.scheme.load(name);
+    colourSchemeBox();
+}
+
+void OptionsForm::loadSchemes()
+{
+    context_.scheme.load(context_.scheme.currentName);
+    Combo1.list = context_.scheme.filesInFolder();
+    Combo1.Text = context_.scheme.currentName;
+    colourSchemeBox();
+}
+
+void OptionsForm::soundButton()
+{
+    if (context_.sounds.isOn()) {
+        context_.sounds.setOn(false);
+        select(Option16);
+    } else {
+        context_.sounds.setOn(true);
+        context_.sounds.play(cue::soundOn);
+        select(Option15);
+    }
+}
+
+void OptionsForm::open()
+{
+    answer_ = Answer::None;
+    visible_ = true;
+}
+
+void OptionsForm::hide(Answer answer)
+{
+    answer_ = answer;
+    visible_ = false;
+}
+
+void OptionsForm::takeChoices()
+{
+    setSound();
+    if (Option11.Value)
+        settings.dropDelay = 0;
+    setStrategy();
+    applyDictionaryChoice();
+}
+
+void OptionsForm::setSound()
+{
+    if (Option15.Value)
+        context_.sounds.setOn(true);
+    if (Option16.Value)
+        context_.sounds.setOn(false);
+}
+
+void OptionsForm::setStrategy()
+{
+    if (!Option12.Value && !Option13.Value && !Option14.Value)
+        return;
+    settings.highestScoreMode = Option12.Value;
+    settings.longestWordMode = Option13.Value;
+    settings.anyWordMode = Option14.Value;
+}
+
+void OptionsForm::applyDictionaryChoice()
+{
+    const Choice* const choices[] = {&Option2, &Option3, &Option4, &Option5};
+    for (int level = 0; level <= 3; ++level) {
+        if (choices[level]->Value)
+            context_.dictionary.applyChoice(level, UsrDictName.Text);
+    }
+}
+
+void OptionsForm::enableUserDictionary(bool enabled)
+{
+    UsrDictName.Enabled = enabled;
+    GetUserDictName.Enabled(enabled);
+}
+
+void OptionsForm::colourSchemeBox()
+{
+    Combo1.backColor = context_.scheme.entry(scheme_entry::wordList);
+    SchemeFrame.backColor = context_.scheme.entry(scheme_entry::ground);
+}
+
+} // namespace lexigrove

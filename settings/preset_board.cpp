@@ -1,0 +1,53 @@
+#include "settings/preset_board.hpp"
+
+#include <algorithm>
+
+namespace lexigrove
+{
+
+namespace
+{
+
+std::string upperCased(std::string text)
+{
+    for (char& c : text) {
+        if (c >= 'a' && c <= 'z')
+            c = static_cast<char>(c - 'a' + 'A');
+    }
+    return text;
+}
+
+bool isUpperCaseLetter(char c)
+{
+    return c >= 'A' && c <= 'Z';
+}
+
+} // namespace
+
+std::string askForPresetLetters(Dialogs& dialogs, std::size_t count)
+{
+    const std::string prompt = "Enter " + std::to_string(count) + " letters A to Z in any sequence";
+    std::string defaultAnswer;
+    for (;;) {
+        const std::string typed = dialogs.input("Preset Letters", prompt, defaultAnswer);
+        if (typed.empty())
+            return {};
+        if (typed.find(' ') != std::string::npos)
+            continue;
+        std::string letters = upperCased(typed);
+        if (letters.size() < count) {
+            dialogs.message("enter " + std::to_string(count - letters.size()) + " more letters");
+            defaultAnswer = typed;
+            continue;
+        }
+        if (letters.size() > count) {
+            dialogs.message("last " + std::to_string(letters.size() - count) + " too many, will be discarded");
+            letters.resize(count);
+        }
+        if (std::all_of(letters.begin(), letters.end(), isUpperCaseLetter))
+            return letters;
+        dialogs.message("Only A-Z allowed, please re-enter");
+    }
+}
+
+} // namespace lexigrove

@@ -1,0 +1,118 @@
+#include "settings/readable_colours.hpp"
+
+#include <algorithm>
+#include <cmath>
+
+namespace lexigrove
+{
+
+namespace
+{
+
+constexpr Colour black = rgb(0, 0, 0);
+constexpr Colour white = rgb(255, 255, 255);
+constexpr int steps = 50; // a fiftieth of the way is finer than the eye tells apart
+
+double worseContrast(Colour text, Colour ground, Colour otherGround)
+{
+    return std::min(contrastRatio(text, ground), contrastRatio(text, otherGround));
+}
+
+/// Hue in sixths of the circle, saturation and lightness 0 to 1.
+struct Hsl {
+    double hue, saturation, lightness;
+};
+
+Hsl hslOf(Colour colour)
+{
+    const double r = redOf(colour) / 255.0;
+    const double g = greenOf(colour) / 255.0;
+    const double b = blueOf(colour) / 255.0;
+    const double high = std::max({r, g, b});
+    const double low = std::min({r, g, b});
+    const double range = high - low;
+    Hsl hsl{0, 0, (high + low) / 2};
+    if (range == 0)
+        return hsl;
+    hsl.saturation = range / (1 - std::abs(high + low - 1));
+    if (high == r)
+        hsl.hue = (g - b) / range + (g < b ? 6 : 0);
+    else
+        hsl.hue = high == g ? (b - r) / range + 2 : (r - g) / range + 4;
+    return hsl;
+}
+
+Colour colourOf(const Hsl& hsl)
+{
+    const double chroma = (1 - std::abs(2 * hsl.lightness - 1)) * hsl.saturation;
+    const auto channel = [&](double place) { // its distance from the channel's own hue decides how full it is
+        const double distance = std::abs(std::remainder(hsl.hue - place, 6.0));
+        const double full = std::clamp(2 - distance, 0.0, 1.0);
+        return static_cast<unsigned>(std::lround(255 * (hsl.lightness - chroma / 2 + chroma * full)));
+    };
+    return rgb(channel(0), channel(2), channel(4));
+}
+
+} // namespace
+
+Colour mixed(Colour a, Colour b, double share)
+{
+    const auto mix = [share](unsigned x, unsigned y) {
+        return static_cast<unsigned>(std::lround(x + (static_cast<double>(y) - x) * share));
+    };
+    return rgb(mix(redOf(a), redOf(b)), mix(greenOf(a), greenOf(b)), mix(blueOf(a), blueOf(b)));
+}
+
+Colour readableText(Colour wanted, Colour ground)
+{
+    return readableText(wanted, ground, ground);
+}
+
+Colour readableText(Colour wanted, Colour ground, Colour otherGround)
+{
+    const bool darker = worseContrast(black, ground, otherGround) >= worseContrast(white, ground, otherGround);
+    const Colour end = darker ? black : white;
+    for (int i = 0; i < steps; ++i) {
+        const Colour text = mixed(wanted, end, static_cast<double>(i) / steps);
+        if (worseContrast(text, ground, otherGround) >= leastContrast)
+            return text;
+    }
+    return end;
+}
+
+Colour quietOn(Colour text, Colour ground)
+{
+    constexpr double quietest = 0.35;
+    for (int i = 0; i < steps; ++i) {
+        const Colour quiet = mixed(text, ground, quietest * (steps - i) / steps);
+        if (contrastRatio(quiet, ground) >= leastContrast)
+            return quiet;
+    }
+    return text;
+}
+
+Colour lifted(Colour face, Colour text)
+{
+    constexpr double visibly = 1.06;
+    const Colour lighter = mixed(face, white, 0.10);
+    if (contrastRatio(lighter, face) >= visibly && contrastRatio(text, lighter) >= leastContrast)
+        return lighter;
+    return mixed(face, black, 0.07);
+}
+
+Colour shadeFor(Colour colour, Colour ground, Colour otherGround, double contrast)
+{
+    const bool darker = worseContrast(black, ground, otherGround) >= worseContrast(white, ground, otherGround);
+    Hsl hsl = hslOf(colour);
+    const double end = darker ? 0 : 1;
+    const double start = hsl.lightness;
+    for (int i = 0; i <= steps; ++i) {
+        hsl.lightness = start + (end - start) * i / steps;
+        const Colour shade = colourOf(hsl);
+        if (worseContrast(shade, ground, otherGround) >= contrast)
+            return shade;
+    }
+    return darker ? black : white;
+}
+
+} // namespace lexigrove
