@@ -1,1 +1,73 @@
 #include "dictionary/field_cipher.hpp"
+
+#include "dictionary/word_text.hpp"
+
+#include <stdexcept>
+
+namespace lexigrove
+{
+
+namespace
+{
+
+constexpr std::string_view hexDigits = "0123456789ABCDEF";
+
+/// The codes of a key's characters, one after the other and over again.
+class KeyCodes
+{
+public:
+    explicit KeyCodes(std::string_view key) : key_(key) {}
+
+    unsigned next()
+    {
+        if (key_.empty())
+            throw std::invalid_argument("The key of a field is empty");
+        const auto code = static_cast<unsigned char>(key_[position_]);
+        position_ = (position_ + 1) % key_.size();
+        return code;
+    }
+
+private:
+    std::string_view key_;
+    std::size_t position_ = 0;
+};
+
+/// The number that a cell's leading hexadecimal digits give, 0 without any.
+unsigned cellValue(std::string_view cell)
+{
+    unsigned value = 0;
+    for (const char character : trimBlanks(cell)) {
+        const auto digit = hexDigits.find(static_cast<char>(upperCase(static_cast<unsigned char>(character))));
+        if (digit == std::string_view::npos)
+            break;
+        value = value * 16 + static_cast<unsigned>(digit);
+    }
+    return value;
+}
+
+} // namespace
+
+std::string encipher(std::string_view text, std::string_view key)
+{
+    KeyCodes keyCodes(key);
+    std::string cipher;
+    cipher.reserve(text.size() * 2);
+    for (const char character : text) {
+        const unsigned code = static_cast<unsigned char>(character) ^ keyCodes.next();
+        cipher += code < 16 ? ' ' : hexDigits[code / 16];
+        cipher += hexDigits[code % 16];
+    }
+    return cipher;
+}
+
+std::string decipher(std::string_view cipher, std::string_view key)
+{
+    KeyCodes keyCodes(key);
+    std::string text;
+    text.reserve((cipher.size() + 1) / 2);
+    for (std::size_t i = 0; i < cipher.size(); i += 2)
+        text += static_cast<char>(keyCodes.next() ^ cellValue(cipher.substr(i, 2)));
+    return text;
+}
+
+} // namespace lexigrove

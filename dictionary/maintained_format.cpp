@@ -1,1 +1,164 @@
 #include "dictionary/maintained_format.hpp"
+
+#include "dictionary/field_cipher.hpp"
+#include "dictionary/word_text.hpp"
+#include "platform/text_file.hpp"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <limits>
+
+namespace lexigrove
+{
+
+namespace
+{
+
+constexpr int olderCodingBase = 64;
+constexpr int largestCodingBase = std::numeric_limits<std::int16_t>::max();
+constexpr std::size_t largestWordsSize = std::size_t{64} << 20;
+
+/// The number at the start of a text, 0 without one.
+double leadingNumber(std::string_view text)
+{
+    const std::string_view trimmed = trimBlanks(text);
+    double number = 0;
+    const auto result = std::from_chars(trimmed.data(), trimmed.data() + trimmed.size(), number);
+    return result.ec == std::errc::result_out_of_range ? HUGE_VAL : number;
+}
+
+std::size_t sharedLetters(std::string_view previous, std::string_view word)
+{
+    const auto differing = std::mismatch(previous.begin(), previous.end(), word.begin(), word.end());
+    return static_cast<std::size_t>(differing.first - previous.begin());
+}
+
+void refuseLineEnds(std::string_view word)
+{
+    if (word.find_first_of("\r\n") != std::string_view::npos)
+        throw FormatError("A word holds a line end");
+}
+
+/// The first letters of the word before, as many as marker - `unshared`, and the rest of the line.
+std::string expand(std::string_view previous, std::string_view line, int unshared)
+{
+    if (line.empty())
+        throw FormatError("A line has no marker");
+    const int shared = static_cast<unsigned char>(line.front()) - unshared;
+    if (shared < 0 || static_cast<std::size_t>(shared) > previous.size())
+        throw FormatError("A marker shares letters that the word before does not have");
+    std::string word(previous.substr(0, static_cast<std::size_t>(shared)));
+    return word += line.substr(1);
+}
+
+} // namespace
+
+MaintainedHeader splitHeaderLine(std::string_view line)
+{
+    const auto tab = line.find('\t');
+    if (tab == std::string_view::npos)
+        throw FormatError("The first line is no header of the maintained format");
+    const double base = std::nearbyint(leadingNumber(decipher(line.substr(0, tab), KESTR)));
+    if (!(std::abs(base) <= largestCodingBase)) // also refuses what is not a number
+        throw FormatError("The coding base leaves 16 bits");
+    const std::string_view rest = line.substr(tab + 1);
+    return {static_cast<int>(base), decipher(rest.substr(0, rest.find('\t')), KESTR)};
+}
+
+bool isMaintainedHeader(std::string_view line)
+{
+    const auto tab = line.find('\t');
+    if (tab == std::string_view::npos)
+        return false;
+    const std::string base = decipher(line.substr(0, tab), KESTR);
+    int number = 0;
+    const auto result = std::from_chars(base.data(), base.data() + base.size(), number);
+    return result.ec == std::errc() && result.ptr == base.data() + base.size() && number >= 1 &&
+           number <= largestCodingBase;
+}
+
+std::string headerLine(std::string_view firstWord, std::string_view date, std::string_view time)
+{
+    std::string line = encipher(std::to_string(writtenCodingBase), KESTR);
+    line += '\t';
+    line += encipher(firstWord, KESTR);
+    line += '\t';
+    line += date;
+    line += ' ';
+    line += time;
+    return line;
+}
+
+void appendCodedLine(std::string& text, std::string_view previous, std::string_view word)
+{
+    refuseLineEnds(word);
+    const std::size_t shared = sharedLetters(previous, word);
+    const std::size_t unshared = previous.size() - shared;
+    if (unshared > writtenCodingBase)
+        throw FormatError("A word of more than 129 letters cannot be coded: " + std::string(previous));
+    const auto marker = static_cast<char>(writtenCodingBase - static_cast<int>(unshared));
+    if (marker == '\r' || marker == '\n')
+        throw FormatError("The marker behind this word would be a line end: " + std::string(previous));
+    text += marker;
+    text += word.substr(shared);
+    text += "\r\n";
+}
+
+std::string codedLines(const WordList& words)
+{
+    refuseLineEnds(words.entry(1));
+    std::string text;
+    for (int i = 2; i <= words.count(); ++i)
+        appendCodedLine(text, words.entry(i - 1), words.entry(i));
+    return text;
+}
+
+std::string expandLine(std::string_view previous, std::string_view line, int codingBase)
+{
+    return expand(previous, line, codingBase - static_cast<int>(previous.size()));
+}
+
+std::string expandOldLine(std::string_view previous, std::string_view line)
+{
+    return expand(previous, line, olderCodingBase);
+}
+
+const std::string& LineDecoder::read(std::string_view line)
+{
+    if (coding_ == Coding::Plain) {
+        word_ = line;
+    } else if (atStart_) {
+        MaintainedHeader header = splitHeaderLine(line);
+        codingBase_ = header.codingBase;
+        word_ = std::move(header.firstWord);
+    } else {
+        word_ = coding_ == Coding::OldMaintained ? expandOldLine(word_, line) : expandLine(word_, line, codingBase_);
+    }
+    atStart_ = false;
+    return word_;
+}
+
+MaintainedWords decodeMaintained(std::string_view text, Coding coding)
+{
+    const std::vector<std::string_view> lines = splitLines(text);
+    if (lines.empty())
+        throw FormatError("The file is empty");
+    if (lines.size() > static_cast<std::size_t>(WordList::capacity))
+        throw FormatError("The file holds more than 250,000 lines");
+
+    LineDecoder decoder(coding);
+    MaintainedWords decoded;
+    decoded.words.reserve(lines.size());
+    std::size_t size = 0;
+    for (const std::string_view line : lines) {
+        decoded.words.push_back(decoder.read(line));
+        size += decoder.word().size();
+        if (size > largestWordsSize)
+            throw FormatError("The words fill more than 64 MiB");
+    }
+    decoded.codingBase = decoder.codingBase();
+    return decoded;
+}
+
+} // namespace lexigrove

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <span>
+#include "dictionary/word_list.hpp"
+
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -41,9 +42,9 @@ std::string headerLine(std::string_view firstWord, std::string_view date, std::s
 /// share), and when the word itself holds a line end.
 void appendCodedLine(std::string& text, std::string_view previous, std::string_view word);
 
-/// Every line behind the first of a maintained file of these words, each with its line end. Throws as
-/// `appendCodedLine`, also when the first word holds a line end.
-std::string codedLines(std::span<const std::string_view> words);
+/// Every line behind the first of a maintained file of entries 1 to the count, each with its line end. Throws as
+/// `appendCodedLine`, also when entry 1 holds a line end.
+std::string codedLines(const WordList& words);
 
 /// The word that a line codes against the word before it. Throws FormatError when the line has no marker, or one that
 /// shares fewer than 0 letters or more than the word before has.
@@ -52,16 +53,39 @@ std::string expandLine(std::string_view previous, std::string_view line, int cod
 /// ExpandOldLine: the same for the older coding, whose marker is 64 + the number of shared letters.
 std::string expandOldLine(std::string_view previous, std::string_view line);
 
+/// How the words of a file are written: in the maintained format, in its older form, or one a line as they stand.
+enum class Coding { Maintained, OldMaintained, Plain };
+
+/// Reads the lines of a dictionary file one after the other.
+class LineDecoder
+{
+public:
+    explicit LineDecoder(Coding coding) : coding_(coding) {}
+
+    /// Reads the next line's word. Throws FormatError as the functions above do; the word read last then stays.
+    const std::string& read(std::string_view line);
+
+    /// The word read last, empty before the first.
+    [[nodiscard]] const std::string& word() const { return word_; }
+
+    /// The coding base that the first line gave, 0 before it and in a plain list.
+    [[nodiscard]] int codingBase() const { return codingBase_; }
+
+private:
+    Coding coding_;
+    bool atStart_ = true;
+    int codingBase_ = 0;
+    std::string word_;
+};
+
 /// The words of a whole maintained file.
 struct MaintainedWords {
     int codingBase = 0;
     std::vector<std::string> words;
 };
 
-enum class Coding { Current, Older };
-
 /// Decodes a whole file. Any bytes decode or throw FormatError, also above 250,000 lines, or when the words would fill
 /// more than 64 MiB (a file of a few hundred kilobytes could otherwise fill any memory).
-MaintainedWords decodeMaintained(std::string_view text, Coding coding = Coding::Current);
+MaintainedWords decodeMaintained(std::string_view text, Coding coding = Coding::Maintained);
 
 } // namespace lexigrove

@@ -1,1 +1,397 @@
 #include "dictionary/maintenance.hpp"
+
+#include "dictionary/sorting_list.hpp"
+#include "dictionary/word_text.hpp"
+#include "platform/text_file.hpp"
+
+#include <exception>
+#include <utility>
+#include <vector>
+
+namespace lexigrove
+{
+
+namespace
+{
+
+constexpr const char* userDictionaryRefused = "Cannot add words to user dictionary through this option";
+
+/// A number with its sign: a blank before a positive one.
+std::string signedNumber(int number)
+{
+    return (number < 0 ? "" : " ") + std::to_string(number);
+}
+
+std::string_view firstLine(std::string_view text)
+{
+    return text.substr(0, text.find_first_of("\r\n"));
+}
+
+/// Makes the file what it was, unless it is. Returns what stood in the way, one line end before it, or the empty text.
+std::string putBack(const std::string& path, const std::string& oldText)
+{
+    try {
+        if (readFile(path) == oldText)
+            return {};
+    } catch (const FileError&) {
+        // What cannot be read is written anew.
+    }
+    try {
+        replaceFile(path, oldText);
+        return {};
+    } catch (const FileError& error) {
+        return std::string("\n") + error.what();
+    }
+}
+
+} // namespace
+
+DictionaryMaintenance::DictionaryMaintenance(Dictionary& dictionary, Dialogs& dialogs, Screen& screen,
+                                             const Clock& clock)
+    : dictionary_(dictionary), dialogs_(dialogs), screen_(screen), clock_(clock)
+{
+}
+
+bool DictionaryMaintenance::open(const std::string& selectedWord, StatusLine& status)
+{
+    if (selectedWord.empty() || selectedWord == "Your move") {
+        status.show("Select a word first");
+        return false;
+    }
+    if (dictionary_.level() == 0) {
+        status.show(userDictionaryRefused);
+        return false;
+    }
+    word = selectedWord;
+    return true;
+}
+
+void DictionaryMaintenance::reset()
+{
+    List1.Clear();
+    changed_ = false;
+}
+
+void DictionaryMaintenance::activate()
+{
+    int level = 0;
+    for (Option* const option : options()) {
+        ++level;
+        option->Value = level == dictionary_.level();
+        option->Enabled = level == dictionary_.loadedLevel();
+    }
+    Text1 = word;
+}
+
+void DictionaryMaintenance::chooseOption(int level)
+{
+    if (level < 1 || level > 3 || !options()[static_cast<std::size_t>(level) - 1]->Enabled)
+        return;
+    int optionLevel = 0;
+    for (Option* const option : options())
+        option->Value = ++optionLevel == level;
+}
+
+void DictionaryMaintenance::clickRow(int row)
+{
+    if (row >= 0 && row < List1.rowCount())
+        Text1 = List1.row(row);
+}
+
+void DictionaryMaintenance::showDictionary()
+{
+    const BusyPointer busy(screen_);
+    List1.fill(dictionary_.words, dictionary_.words.count());
+}
+
+void DictionaryMaintenance::spellCheck()
+{
+    if (List1.ListCount() == 0) {
+        dialogs_.message("Load Dictionary first");
+        return;
+    }
+    const std::string sought = upperCase(trimBlanks(Text1));
+    const bool found = dictionary_.words.findWord(sought) != -1;
+    dialogs_.message(sought + (found ? " found" : " NOT found"));
+}
+
+void DictionaryMaintenance::addWord()
+{
+    const std::optional<LevelFiles> files = filesToChange();
+    if (!files)
+        return;
+    const std::string sought = upperCase(trimBlanks(Text1));
+    const std::string added = upperCase(Text1); // its blanks go in with it
+    const WordList before = dictionary_.words;
+    if (before.findWord(sought) != -1) {
+        dialogs_.message(sought + " already exists");
+        return;
+    }
+    if (before.count() == fullCount) {
+        dialogs_.message("Dictionary is full");
+        return;
+    }
+    dialogs_.message("Add new word and sort");
+
+    Rewrite rewrite{.coding = Coding::Maintained,
+                    .toWrite = "compress file " + files->name,
+                    .written = "File compressed,",
+                    .done = "Word " + added + " added to " + files->name,
+                    .restored = "File restored ",
+                    .words = {},
+                    .lines = {}};
+    SortingList ListBoy1;
+    {
+        const BusyPointer busy(screen_);
+        for (int i = 1; i <= before.count(); ++i)
+            ListBoy1.Additem(before.entry(i));
+        ListBoy1.Additem(added);
+        ListBoy1.SortAscending();
+    }
+    if (!changeWords(ListBoy1.items(), before.count() + 1, rewrite, *files))
+        return;
+    dialogs_.message("Word " + added + " added and dictionary sorted, now backup old dictionary");
+    rewriteFile(*files, rewrite);
+}
+
+void DictionaryMaintenance::removeWord()
+{
+    const std::optional<LevelFiles> files = filesToChange();
+    if (!files)
+        return;
+    const std::string removed = upperCase(trimBlanks(Text1));
+    const WordList before = dictionary_.words;
+    if (removed.empty() || before.findWord(removed) == -1) {
+        dialogs_.message(removed + " does not exist in dictionary");
+        return;
+    }
+    dialogs_.message("Remove word and sort");
+
+    Rewrite rewrite{.coding = Coding::Maintained,
+                    .toWrite = "compress file" + files->name, // no blank here
+                    .written = "File compressed,",
+                    .done = "Word " + removed + " removed from " + files->name,
+                    .restored = "file restored ", // lower case here
+                    .words = {},
+                    .lines = {}};
+    SortingList ListBoy1;
+    {
+        const BusyPointer busy(screen_);
+        for (int i = 1; i <= before.count(); ++i)
+            if (before.entry(i) != removed)
+                ListBoy1.Additem(before.entry(i));
+        ListBoy1.SortAscending();
+    }
+    // One less, however many entries were equal: where a word stood twice, old entries follow the sorted ones.
+    if (!changeWords(ListBoy1.items(), before.count() - 1, rewrite, *files))
+        return;
+    dialogs_.message("Word " + removed + " removed and dictionary sorted, now backup old dictionary");
+    rewriteFile(*files, rewrite);
+}
+
+void DictionaryMaintenance::writePlainList()
+{
+    const std::optional<LevelFiles> files = chosenFiles();
+    if (!files)
+        return;
+    Rewrite rewrite{.coding = Coding::Plain,
+                    .toWrite = "write plain word list " + files->name,
+                    .written = "Plain word list written,",
+                    .done = "Level " + std::to_string(files->level) + " is a plain word list: " + files->name,
+                    .restored = "File restored ",
+                    .words = {},
+                    .lines = {}};
+    if (!readAsPlainList(*files, rewrite) || !rewriteFile(*files, rewrite))
+        return;
+    if (dictionary_.holdsCodedLines())
+        dictionary_.replaceCodedLines(rewrite.words);
+}
+
+void DictionaryMaintenance::exit()
+{
+    if (!std::exchange(changed_, false))
+        return;
+    const std::optional<LevelFiles> files = chosenFiles();
+    if (!files)
+        return;
+    try {
+        if (!isMaintainedHeader(firstLine(readFile(files->path))))
+            return;
+    } catch (const FileError&) {
+        return; // nothing to write, and nothing to ask
+    }
+    if (dialogs_.confirm(std::string(maintenance_text::plainListQuestion)))
+        writePlainList();
+}
+
+/// The files of the option that is set; none, after a message, when no level is loaded whose words could be written.
+std::optional<DictionaryMaintenance::LevelFiles> DictionaryMaintenance::chosenFiles()
+{
+    int level = 0;
+    for (const Option* const option : options()) {
+        ++level;
+        if (!option->Value)
+            continue;
+        if (level != dictionary_.loadedLevel()) {
+            dialogs_.message("Level " + std::to_string(level) + " is not loaded, start a game with it first");
+            return {};
+        }
+        return LevelFiles{level, dictionary_.fileTable[static_cast<std::size_t>(level)], dictionary_.path(level),
+                          dictionary_.prefix() + "SysDik" + std::to_string(level) + "Backup.txt"};
+    }
+    dialogs_.message(userDictionaryRefused);
+    return {};
+}
+
+/// The same for an operation on words, which coded lines are not: it would sort and write garbage.
+std::optional<DictionaryMaintenance::LevelFiles> DictionaryMaintenance::filesToChange()
+{
+    std::optional<LevelFiles> files = chosenFiles();
+    if (files && dictionary_.holdsCodedLines()) {
+        dialogs_.message(dictionary_.codedLinesNotice());
+        return {};
+    }
+    return files;
+}
+
+/// Copies the sorted items into the word array, unless the file could not hold the words that it then has: that is
+/// found before anything changes.
+bool DictionaryMaintenance::changeWords(std::span<const std::string_view> items, int count, Rewrite& rewrite,
+                                        const LevelFiles& files)
+{
+    try {
+        const BusyPointer busy(screen_);
+        rewrite.words = dictionary_.words;
+        rewrite.words.overwrite(items);
+        rewrite.words.setCount(count);
+        rewrite.lines = codedLines(rewrite.words);
+    } catch (const std::exception& error) {
+        dialogs_.message(FileError(error.what(), files.path, 0).what());
+        return false;
+    }
+    dictionary_.words = rewrite.words;
+    changed_ = true;
+    return true;
+}
+
+/// Decodes the level's file. The words are sorted: where one that stood twice was removed they are not, and FindWord
+/// would miss some.
+bool DictionaryMaintenance::readAsPlainList(const LevelFiles& files, Rewrite& rewrite)
+{
+    try {
+        const BusyPointer busy(screen_);
+        const std::string text = readFile(files.path);
+        if (!isMaintainedHeader(firstLine(text)))
+            throw FormatError("The file already is a plain word list");
+        const MaintainedWords decoded = decodeMaintained(text);
+        SortingList ListBoy1;
+        for (const std::string& item : decoded.words)
+            ListBoy1.Additem(item);
+        ListBoy1.SortAscending();
+        rewrite.words = WordList::of(ListBoy1.items());
+        for (const std::string_view item : ListBoy1.items())
+            rewrite.lines.append(item).append("\r\n");
+        return true;
+    } catch (const FileError& error) {
+        dialogs_.message(error.what());
+    } catch (const FormatError& error) {
+        dialogs_.message(FileError(error.what(), files.path, 0).what());
+    }
+    return false;
+}
+
+/// Backs the file up, writes it and verifies it. True when it stands as written.
+bool DictionaryMaintenance::rewriteFile(const LevelFiles& files, const Rewrite& rewrite)
+{
+    std::string oldText;
+    try {
+        const BusyPointer busy(screen_);
+        oldText = readFile(files.path);
+        replaceFile(files.backup, oldText);
+    } catch (const FileError& error) {
+        dialogs_.message(error.what());
+        return false;
+    }
+    dialogs_.message("File " + files.backup + " backed up, now " + rewrite.toWrite);
+    try {
+        const BusyPointer busy(screen_);
+        std::string text;
+        if (rewrite.coding == Coding::Maintained) {
+            text = headerLine(rewrite.words.entry(1), clock_.shortDate(), clock_.shortTime()) + "\r\n";
+            dictionary_.codingBase = writtenCodingBase;
+        }
+        replaceFile(files.path, text += rewrite.lines);
+    } catch (const FileError& error) {
+        dialogs_.message(error.what() + putBack(files.path, oldText));
+        return false;
+    }
+    dialogs_.message(rewrite.written + " now read and verify " + files.name);
+    return readBack(files, rewrite, oldText);
+}
+
+bool DictionaryMaintenance::readBack(const LevelFiles& files, const Rewrite& rewrite, const std::string& oldText)
+{
+    std::optional<Difference> difference;
+    try {
+        const BusyPointer busy(screen_);
+        difference = verify(files, rewrite);
+    } catch (const FileError& error) {
+        dialogs_.message(error.what() + putBack(files.path, oldText));
+        return false;
+    }
+    if (!difference) {
+        dialogs_.message(rewrite.done);
+        return true;
+    }
+    std::string text = "Error" + signedNumber(difference->index);
+    dialogs_.message(text.append(rewrite.words.entry(difference->index)) + difference->read);
+    restore(files, rewrite, oldText);
+    return false;
+}
+
+/// Compares the file with the words, up to the first difference; `List1` holds the words that are the same. A line that
+/// cannot be decoded and an end before the last word are differences too.
+std::optional<DictionaryMaintenance::Difference> DictionaryMaintenance::verify(const LevelFiles& files,
+                                                                               const Rewrite& rewrite)
+{
+    List1.Clear();
+    const std::string text = readFile(files.path);
+    const std::vector<std::string_view> lines = splitLines(text);
+    if (lines.size() > static_cast<std::size_t>(WordList::capacity))
+        throw FileError("The file holds more than 250,000 lines", files.path, 0);
+
+    LineDecoder decoder(rewrite.coding);
+    int same = 0;
+    try {
+        for (const std::string_view line : lines) {
+            if (decoder.read(line) != rewrite.words.entry(same + 1))
+                break;
+            ++same;
+        }
+    } catch (const FormatError&) {
+        // The line at which it stopped is the difference.
+    }
+    List1.fill(rewrite.words, same);
+    if (rewrite.coding == Coding::Maintained)
+        dictionary_.codingBase = decoder.codingBase();
+    if (!lines.empty() && same == static_cast<int>(lines.size()) && same >= rewrite.words.count())
+        return {};
+    return Difference{same + 1, decoder.word()};
+}
+
+/// Copies the backup back over the file; where that fails, what was read before the file was written.
+void DictionaryMaintenance::restore(const LevelFiles& files, const Rewrite& rewrite, const std::string& oldText)
+{
+    try {
+        copyFile(files.backup, files.path);
+    } catch (const FileError& error) {
+        const std::string failure = putBack(files.path, oldText);
+        if (!failure.empty()) {
+            dialogs_.message(error.what() + failure);
+            return;
+        }
+    }
+    dialogs_.message(rewrite.restored + files.name);
+}
+
+} // namespace lexigrove

@@ -1,14 +1,15 @@
 #pragma once
 
 #include "dictionary/dictionary.hpp"
+#include "dictionary/maintained_format.hpp"
 #include "dictionary/word_view.hpp"
 #include "platform/clock.hpp"
 #include "platform/dialogs.hpp"
 #include "platform/screen.hpp"
 #include "platform/status_line.hpp"
-#include "platform/text_file.hpp"
 
 #include <array>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -105,26 +106,37 @@ private:
     /// The files of the option that is set.
     struct LevelFiles {
         int level = 0;
-        std::string name; ///< as the file table gives it, for messages
-        std::string path;
+        std::string name;   ///< as the file table gives it, for messages
+        std::string path;   ///< where it lies
         std::string backup; ///< with its folder
     };
 
-    /// What AddWord and RemoveWord do alike after their checks, and the texts in which they differ.
-    struct Change {
-        int countAfter = 0;
-        std::string sorted;      ///< message: the words are sorted
-        std::string backedUpEnd; ///< end of the message that names the backup, before the file's name
-        std::string done;        ///< message: the file is verified
-        std::string restored;    ///< start of the message after a difference
+    /// What a level file is to become, and the messages of its stages that differ.
+    struct Rewrite {
+        Coding coding;
+        std::string toWrite;  ///< behind "File ", the backup's name and " backed up, now "
+        std::string written;  ///< before " now read and verify " and the file's name
+        std::string done;     ///< when it reads back the same
+        std::string restored; ///< when it does not, before the file's name
+        WordList words;
+        std::string lines; ///< the file's text; of the maintained format, what stands behind its first line
     };
 
-    [[nodiscard]] Option& option(int level);
-    [[nodiscard]] bool mayChange(LevelFiles& files);
-    [[nodiscard]] LevelFiles chosenFiles() const;
-    void rewrite(const LevelFiles& files, std::span<const std::string_view> items, const Change& change);
-    bool verify(const LevelFiles& files);
-    void restore(const LevelFiles& files, std::string_view oldBytes);
+    /// The first entry, from 1 up, at which a file read back differs, and the word read there.
+    struct Difference {
+        int index;
+        std::string read;
+    };
+
+    [[nodiscard]] std::array<Option*, 3> options() { return {&Option1, &Option2, &Option3}; }
+    [[nodiscard]] std::optional<LevelFiles> chosenFiles();
+    [[nodiscard]] std::optional<LevelFiles> filesToChange();
+    bool changeWords(std::span<const std::string_view> items, int count, Rewrite& rewrite, const LevelFiles& files);
+    bool readAsPlainList(const LevelFiles& files, Rewrite& rewrite);
+    bool rewriteFile(const LevelFiles& files, const Rewrite& rewrite);
+    bool readBack(const LevelFiles& files, const Rewrite& rewrite, const std::string& oldText);
+    [[nodiscard]] std::optional<Difference> verify(const LevelFiles& files, const Rewrite& rewrite);
+    void restore(const LevelFiles& files, const Rewrite& rewrite, const std::string& oldText);
 
     Dictionary& dictionary_;
     Dialogs& dialogs_;

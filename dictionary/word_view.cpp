@@ -1,1 +1,78 @@
 #include "dictionary/word_view.hpp"
+
+#include "dictionary/word_text.hpp"
+
+#include <algorithm>
+#include <array>
+#include <stdexcept>
+
+namespace lexigrove
+{
+
+namespace
+{
+
+std::array<unsigned char, 256> upperCaseTable()
+{
+    std::array<unsigned char, 256> table{};
+    for (unsigned code = 0; code < 256; ++code)
+        table[code] = upperCase(static_cast<unsigned char>(code));
+    return table;
+}
+
+} // namespace
+
+void WordView::Clear()
+{
+    fill(WordList(), 0);
+}
+
+void WordView::fill(const WordList& words, int count)
+{
+    words_ = words;
+    count_ = count;
+    applySearch();
+}
+
+std::string_view WordView::list(int position) const
+{
+    if (position < 0 || position >= count_)
+        throw std::out_of_range("The list has no such position");
+    return words_.entry(position + 1);
+}
+
+void WordView::setSearch(std::string_view text)
+{
+    search_ = upperCase(text);
+    applySearch();
+}
+
+int WordView::rowCount() const
+{
+    return search_.empty() ? count_ : static_cast<int>(found_.size());
+}
+
+std::string_view WordView::row(int row) const
+{
+    if (row < 0 || row >= rowCount())
+        throw std::out_of_range("The list has no such row");
+    return words_.entry(search_.empty() ? row + 1 : found_[static_cast<std::size_t>(row)]);
+}
+
+void WordView::applySearch()
+{
+    found_.clear();
+    if (search_.empty())
+        return;
+    const std::array<unsigned char, 256> upper = upperCaseTable();
+    const auto same = [&upper](char letter, char sought) {
+        return upper[static_cast<unsigned char>(letter)] == static_cast<unsigned char>(sought);
+    };
+    for (int i = 1; i <= count_; ++i) {
+        const std::string_view word = words_.entry(i);
+        if (std::search(word.begin(), word.end(), search_.begin(), search_.end(), same) != word.end())
+            found_.push_back(i);
+    }
+}
+
+} // namespace lexigrove
