@@ -1,0 +1,260 @@
+#include "controls/dc.hpp"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <string>
+#include <tuple>
+
+namespace lexigrove
+{
+namespace
+{
+
+using testing::ElementsAre;
+
+constexpr double noTime = 0; // a countdown does not look at the time of day
+
+double timeOf(int hours, int minutes, double seconds)
+{
+    return 3600 * hours + 60 * minutes + seconds;
+}
+
+/// The four digits with the dots between them: l lit, d dim, h hidden, upper first.
+std::string face(const Dc& clock)
+{
+    std::string text;
+    for (int digit = 0; digit < 4; ++digit)
+        text += clock.shownDigit(digit) < 0 ? "?" : std::to_string(clock.shownDigit(digit));
+    std::string dots;
+    for (const int dot : {Dc::upperDot, Dc::lowerDot})
+        dots += !clock.lin2(dot).visible ? 'h' : clock.lit(dot) ? 'l' : 'd';
+    return text.insert(2, dots);
+}
+
+int litSegments(const Dc& clock)
+{
+    int count = 0;
+    for (int digit = 0; digit < 4; ++digit)
+        for (int segment = 0; segment < 7; ++segment)
+            count += clock.lit(10 * digit + segment) ? 1 : 0;
+    return count;
+}
+
+// Guards the segment table: a swapped pair of segments still "works", and shows wrong figures.
+TEST(Dc, figuresLightTheirSegments)
+{
+    Dc clock;
+    EXPECT_EQ(face(clock), "00ll00");
+    clock.ClockStartValue(300);
+    EXPECT_EQ(face(clock), "05ll00");
+    clock.ClockStartValue(299);
+    EXPECT_EQ(face(clock), "04dd59");
+    // Seven lights the top and both right verticals; four the middle, upper left and both right ones.
+    clock.ClockStartValue(74 * 60);
+    const auto litOf = [&](int digit) {
+        std::vector<int> segments;
+        for (int segment = 0; segment < 7; ++segment)
+            if (clock.lin2(10 * digit + segment).colour == rgb(0, 244, 0))
+                segments.push_back(segment);
+        return segments;
+    };
+    EXPECT_THAT(litOf(0), ElementsAre(0, 4, 6));
+    EXPECT_THAT(litOf(1), ElementsAre(1, 3, 4, 6));
+    EXPECT_THAT(litOf(2), ElementsAre(0, 2, 3, 4, 5, 6));
+    constexpr std::array<int, 10> lightsOf{6, 2, 5, 5, 4, 5, 6, 3, 7, 6};
+    for (std::int16_t figure = 0; figure < 10; ++figure) {
+        clock.ClockStartValue(figure);
+        EXPECT_EQ(clock.shownDigit(3), figure);
+        EXPECT_EQ(litSegments(clock), 18 + lightsOf[static_cast<std::size_t>(figure)]);
+    }
+}
+
+// Guards the one-tick distance between 00:00 and the expiry, and its repetition until the clock is stopped.
+TEST(Dc, aCountdownExpiresOneTickAfterItShowsZero)
+{
+    Dc clock;
+    clock.ClockIncrement(-1);
+    clock.ClockStartValue(3);
+    EXPECT_FALSE(clock.tick(noTime));
+    EXPECT_EQ(clock.currentValue(), 3) << "a stopped clock does not step";
+
+    clock.StartCountdown();
+    for (const char* shown : {"00ll02", "00dd01", "00ll00"}) {
+        EXPECT_FALSE(clock.tick(noTime));
+        EXPECT_EQ(face(clock), shown);
+    }
+    EXPECT_TRUE(clock.tick(noTime));
+    EXPECT_TRUE(clock.tick(noTime));
+    clock.SuspendCountDown();
+    EXPECT_FALSE(clock.tick(noTime));
+    clock.ClockStartValue(2);
+    clock.ResumeCountDown();
+    EXPECT_FALSE(clock.tick(noTime));
+    EXPECT_EQ(clock.currentValue(), 1);
+
+    clock.ClockIncrement(0);
+    for (int i = 0; i < 100; ++i)
+        ASSERT_FALSE(clock.tick(noTime)) << "a still clock never expires";
+    EXPECT_TRUE(clock.gotFocus());
+
+    clock.ClockStartValue(-5); // expires at once, and the face stays
+    const std::string before = face(clock);
+    EXPECT_TRUE(clock.tick(noTime));
+    EXPECT_EQ(face(clock), before);
+}
+
+// Guards against a look-up beyond the figures, and against a counter that wraps round.
+TEST(Dc, valuesBeyondTheFaceDoNoHarm)
+{
+    Dc clock;
+    clock.StartCountdown();
+    for (const std::int16_t value : std::initializer_list<std::int16_t>{5999, 6000, 32767, -1, -32768}) {
+        clock.ClockStartValue(value);
+        EXPECT_EQ(clock.shownDigit(0), value == 5999 ? 9 : -1) << value;
+    }
+    clock.ClockIncrement(10);
+    clock.ClockStartValue(32765);
+    EXPECT_FALSE(clock.tick(noTime));
+    EXPECT_EQ(clock.currentValue(), 32767);
+    EXPECT_THROW(static_cast<void>(clock.lin2(7)), std::out_of_range);
+    EXPECT_THROW(static_cast<void>(clock.lin2(42)), std::out_of_range);
+    EXPECT_THROW(static_cast<void>(clock.lin2(-1)), std::out_of_range);
+}
+
+// Guards the halves of the minute, midnight, and the mode's change that waits for a tick.
+TEST(Dc, theTimeOfDayHasOneDotUpperInTheFirstHalfMinute)
+{
+    Dc clock;
+    clock.ClockStartValue(600);
+    clock.ShowTimeOnly(true);
+    clock.StartCountdown();
+    EXPECT_EQ(face(clock), "10ll00");
+    EXPECT_FALSE(clock.tick(timeOf(12, 34, 29.999)));
+    EXPECT_EQ(face(clock), "12lh34");
+    EXPECT_FALSE(clock.tick(timeOf(12, 34, 30)));
+    EXPECT_EQ(face(clock), "12hl34");
+    EXPECT_FALSE(clock.tick(timeOf(23, 59, 59.9999)));
+    EXPECT_EQ(face(clock), "23hl59");
+    EXPECT_FALSE(clock.tick(86400));
+    EXPECT_EQ(face(clock), "00lh00");
+
+    clock.ShowTimeOnly(false); // a countdown again: the dots stay hidden until it is started
+    clock.ClockStartValue(600);
+    EXPECT_EQ(face(clock), "10lh00");
+    clock.StartCountdown();
+    EXPECT_EQ(face(clock), "10ll00");
+}
+
+// Guards the themes' asymmetry: they change what is drawn, not the two digit properties.
+TEST(Dc, themesColourTheFaceAndLeaveTheProperties)
+{
+    Dc clock;
+    EXPECT_EQ(clock.ClockColor(), "Green");
+    EXPECT_EQ(clock.Shapet().fill, 0U) << "the first name is kept without applying it";
+    clock.DigitDim(11);
+    clock.DigitHighlight(22);
+    clock.ClockStartValue(88 * 60 + 28);
+    EXPECT_EQ(clock.lin2(0).colour, 22U);
+
+    clock.ClockColor("red");
+    EXPECT_EQ(clock.ClockColor(), "red");
+    EXPECT_EQ(clock.ClockBackground(), rgb(50, 0, 0));
+    EXPECT_EQ(clock.Shapet().border, rgb(50, 0, 0));
+    EXPECT_EQ(clock.DigitDim(), 11U);
+    EXPECT_EQ(clock.DigitHighlight(), 22U);
+    EXPECT_EQ(litSegments(clock), 0) << "dark until the next value";
+    EXPECT_EQ(clock.lin2(13).colour, rgb(100, 0, 0));
+    EXPECT_EQ(clock.lin2(Dc::lowerDot).colour, rgb(244, 0, 0));
+
+    clock.ClockStartValue(60);
+    const std::string shown = face(clock);
+    clock.ClockColor("DEFAULT");
+    EXPECT_EQ(face(clock), shown) << "no repaint";
+    EXPECT_EQ(clock.lin2(Dc::upperDot).colour, rgb(244, 0, 0));
+    clock.ClockColor("Mauve");
+    EXPECT_EQ(litSegments(clock), 0);
+    EXPECT_EQ(clock.lin2(Dc::upperDot).colour, rgb(244, 0, 0));
+    clock.ClockColor("Blue");
+    EXPECT_EQ(clock.lin2(0).colour, rgb(0, 0, 100));
+}
+
+// Guards the drawn face: exact places, the middle bars' shift, and one thickness for all thirty lines.
+TEST(Dc, linesStandInTheirPlaces)
+{
+    Dc clock;
+    clock.DigitWidth(5);
+    const auto place = [&](int index) {
+        const ClockLine line = clock.lin2(index);
+        EXPECT_EQ(line.thickness, 5) << index;
+        return std::tuple(line.from.x, line.from.y, line.to.x, line.to.y);
+    };
+    constexpr std::array<int, 4> left{90, 450, 930, 1290};
+    for (int d = 0; d < 4; ++d) {
+        const int l = left[static_cast<std::size_t>(d)];
+        const int shift = d == 0 || d == 2 ? 15 : 0;
+        EXPECT_EQ(place(10 * d), std::tuple(l + 60, 90, l + 180, 90));
+        EXPECT_EQ(place(10 * d + 1), std::tuple(l + 60 - shift, 285, l + 180 - shift, 285));
+        EXPECT_EQ(place(10 * d + 2), std::tuple(l + 60, 495, l + 180, 495));
+        EXPECT_EQ(place(10 * d + 3), std::tuple(l, 135, l, 255));
+        EXPECT_EQ(place(10 * d + 4), std::tuple(l + 240, 135, l + 240, 255));
+        EXPECT_EQ(place(10 * d + 5), std::tuple(l, 315, l, 435));
+        EXPECT_EQ(place(10 * d + 6), std::tuple(l + 240, 315, l + 240, 435));
+    }
+    EXPECT_EQ(place(Dc::upperDot), std::tuple(810, 210, 825, 225));
+    EXPECT_EQ(place(Dc::lowerDot), std::tuple(810, 405, 825, 420));
+    EXPECT_EQ(clock.Shapet().size, (Size{1650, 580}));
+}
+
+// Guards the frame's clicks: the wrap of the thickness and the round of the themes.
+TEST(Dc, clicksOnItsFrameChangeItsLook)
+{
+    Dc clock;
+    clock.DigitWidth(5);
+    frame10Released(clock, leftButton);
+    EXPECT_EQ(clock.DigitWidth(), 6);
+    frame10Released(clock, leftButton);
+    EXPECT_EQ(clock.DigitWidth(), 2);
+    clock.DigitWidth(32767);
+    frame10Released(clock, leftButton);
+    EXPECT_EQ(clock.DigitWidth(), 2);
+
+    clock.ClockColor("DEFAULT");
+    for (const char* next : {"GREEN", "BLUE", "RED", "GREEN"}) {
+        frame10Released(clock, rightButton);
+        EXPECT_EQ(clock.ClockColor(), next);
+    }
+    frame10Released(clock, 4);
+    EXPECT_EQ(clock.ClockColor(), "GREEN");
+    EXPECT_EQ(clock.DigitWidth(), 2);
+}
+
+// Guards restoring: what was saved comes back, and no setter's effect reaches the face.
+TEST(Dc, savedPropertiesComeBackWithoutEffects)
+{
+    Dc clock;
+    clock.ClockBackground(1);
+    clock.DigitHighlight(2);
+    clock.DigitDim(3);
+    clock.ClockStartValue(600);
+    clock.ClockIncrement(-1);
+    clock.DigitWidth(4);
+    clock.ShowTimeOnly(true);
+    clock.ClockColor("DEFAULT");
+    EXPECT_TRUE(clock.changed());
+    PropertyBag bag;
+    clock.writeProperties(bag);
+    EXPECT_FALSE(clock.changed());
+    EXPECT_EQ(bag.values.size(), 8U);
+
+    Dc restored;
+    restored.readProperties(bag);
+    EXPECT_EQ(face(restored), "00ll00");
+    EXPECT_EQ(restored.lin2(0).thickness, Dc().lin2(0).thickness);
+    EXPECT_EQ(restored.lin2(0).colour, rgb(0, 244, 0));
+    PropertyBag again;
+    restored.writeProperties(again);
+    EXPECT_EQ(again.values, bag.values);
+}
+
+} // namespace
+} // namespace lexigrove
