@@ -1,0 +1,222 @@
+#include "platform/text_file.hpp"
+
+#include <cerrno>
+#include <csignal>
+#include <filesystem>
+#include <functional>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <random>
+#include <sys/mount.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <thread>
+#include <unistd.h>
+
+namespace lexigrove
+{
+namespace
+{
+
+namespace fs = std::filesystem;
+using testing::ElementsAre;
+using testing::EndsWith;
+
+class TextFile : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        std::string name = (fs::temp_directory_path() / "text_file_XXXXXX").string();
+        ASSERT_NE(::mkdtemp(name.data()), nullptr);
+        folder_ = name;
+    }
+    void TearDown() override { fs::remove_all(folder_); }
+
+    [[nodiscard]] std::string path(const std::string& name) const { return (folder_ / name).string(); }
+
+    [[nodiscard]] std::vector<std::string> names() const
+    {
+        std::vector<std::string> found;
+        for (const auto& entry : fs::directory_iterator(folder_))
+            found.push_back(entry.path().filename().string());
+        return found;
+    }
+
+    fs::path folder_;
+};
+
+/// The error's text; empty when nothing failed.
+std::string errorOf(const std::function<void()>& action)
+{
+    try {
+        action();
+    } catch (const FileError& error) {
+        return error.what();
+    }
+    return {};
+}
+
+pid_t inChild(const std::function<void()>& action)
+{
+    const pid_t child = ::fork();
+    if (child == 0) {
+        action();
+        ::_exit(0);
+    }
+    return child;
+}
+
+// Guards files from other systems, and a last line that is lost or doubled.
+TEST_F(TextFile, anyLineEndEndsALine)
+{
+    EXPECT_THAT(splitLines("a\r\nb\nc\rd"), ElementsAre("a", "b", "c", "d"));
+    EXPECT_THAT(splitLines("a\r\n\r\nb\n\n\r\r"), ElementsAre("a", "", "b", "", "", ""));
+    EXPECT_THAT(splitLines("\n\r\n"), ElementsAre("", ""));
+    EXPECT_TRUE(splitLines("").empty());
+
+    replaceLines(path("lines"), {"one", "", std::string("t\0\xFF", 3)});
+    EXPECT_EQ(readFile(path("lines")), std::string("one\r\n\r\nt\0\xFF\r\n", 12));
+    EXPECT_THAT(readLines(path("lines")), ElementsAre("one", "", std::string("t\0\xFF", 3)));
+    copyFile(path("lines"), path("copy"));
+    EXPECT_EQ(readFile(path("copy")), readFile(path("lines")));
+    EXPECT_FALSE(readFile("/proc/self/status").empty()) << "a file that does not tell its size";
+}
+
+// Guards the player's own arrangements: rights, links, write protection; and special files that a rename would destroy.
+TEST_F(TextFile, aReplacedFileKeepsItsPlaceAndRights)
+{
+    replaceFile(path("real"), "old");
+    ASSERT_EQ(::chmod(path("real").c_str(), 0640), 0);
+    fs::create_symlink("real", path("link"));
+    fs::create_symlink("link", path("chain"));
+    replaceFile(path("chain"), "new");
+    EXPECT_TRUE(fs::is_symlink(path("chain")));
+    EXPECT_TRUE(fs::is_symlink(path("link")));
+    EXPECT_EQ(readFile(path("real")), "new");
+    EXPECT_EQ(fs::status(path("real")).permissions(), fs::perms(0640));
+
+    fs::create_symlink("unborn", path("dangling"));
+    replaceFile(path("dangling"), "born");
+    EXPECT_EQ(readFile(path("unborn")), "born");
+
+    fs::create_symlink("loop", path("loop"));
+    EXPECT_NE(errorOf([&] { replaceFile(path("loop"), "x"); }), "");
+    fs::create_directory(path("folder"));
+    EXPECT_THAT(errorOf([&] { replaceFile(path("folder"), "x"); }), EndsWith("folder\nIs a directory"));
+    ASSERT_EQ(::mkfifo(path("fifo").c_str(), 0600), 0);
+    EXPECT_NE(errorOf([&] { replaceFile(path("fifo"), "x"); }), "");
+    EXPECT_TRUE(fs::is_fifo(path("fifo")));
+    EXPECT_EQ(errorOf([&] { static_cast<void>(readFile(path("none"))); }),
+              "Cannot open the file\n" + path("none") + "\nNo such file or directory");
+    EXPECT_EQ(std::string(FileError("Not a score file", "x", 0).what()), "Not a score file\nx");
+}
+
+// Guards the old file, and the folder from litter, when a write breaks off in its middle.
+TEST_F(TextFile, aFailedWriteLosesNothing)
+{
+    const std::string old(3000, 'o');
+    replaceFile(path("file"), old);
+    const pid_t child = inChild([&] { // a limit on the file size stands for every failure in mid-write
+        std::signal(SIGXFSZ, SIG_IGN);
+        const rlimit limit{20000, 20000};
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+        const std::string error = errorOf([&] { replaceFile(path("file"), std::string(50000, 'n')); });
+        ::_exit(error == "Cannot write the file\n" + path("file") + "\nFile too large" ? 0 : 1);
+    });
+    int status = 0;
+    ASSERT_EQ(::waitpid(child, &status, 0), child);
+    EXPECT_EQ(status, 0) << "no error, or another text";
+    EXPECT_EQ(readFile(path("file")), old);
+    EXPECT_THAT(names(), ElementsAre("file"));
+}
+
+// Guards the same on a disk that is really full and on one that is really read-only.
+TEST_F(TextFile, fullAndReadOnlyDisksLoseNothing)
+{
+    if (::mount("none", folder_.c_str(), "tmpfs", 0, "size=64k") != 0)
+        GTEST_SKIP() << "needs the right to mount a small disk";
+    const std::string old(20000, 'o');
+    replaceFile(path("file"), old);
+    EXPECT_EQ(errorOf([&] { replaceFile(path("file"), std::string(60000, 'n')); }),
+              "Cannot write the file\n" + path("file") + "\nNo space left on device");
+    EXPECT_EQ(readFile(path("file")), old);
+    EXPECT_THAT(names(), ElementsAre("file"));
+
+    EXPECT_EQ(::mount("none", folder_.c_str(), "tmpfs", MS_REMOUNT | MS_RDONLY, "size=64k"), 0);
+    EXPECT_THAT(errorOf([&] { replaceFile(path("file"), "n"); }), EndsWith("file\nRead-only file system"));
+    EXPECT_THAT(errorOf([&] { replaceFile(path("other"), "n"); }), EndsWith("other\nRead-only file system"));
+    EXPECT_EQ(readFile(path("file")), old);
+    {
+        const FileLock lock(path("file")); // holds nothing, and says nothing
+    }
+    EXPECT_EQ(::umount(folder_.c_str()), 0);
+}
+
+// Guards against a file that is half old and half new, and against litter that grows with every crash.
+TEST_F(TextFile, killedAtAnyMomentItIsTheOldFileOrTheNew)
+{
+    const unsigned seed = std::random_device{}();
+    std::mt19937 random(seed);
+    const std::string a(300000, 'a');
+    const std::string b(400000, 'b');
+    replaceFile(path("file"), a);
+    int seenB = 0;
+    for (int round = 0; round < 100; ++round) {
+        const pid_t child = inChild([&] {
+            for (;;) {
+                replaceFile(path("file"), b);
+                replaceFile(path("file"), a);
+            }
+        });
+        std::this_thread::sleep_for(std::chrono::microseconds(random() % 5000));
+        ::kill(child, SIGKILL);
+        ASSERT_EQ(::waitpid(child, nullptr, 0), child);
+        const std::string found = readFile(path("file"));
+        ASSERT_TRUE(found == a || found == b) << "seed " << seed << ", round " << round;
+        ASSERT_LE(names().size(), 2U);
+        seenB += found == b ? 1 : 0;
+    }
+    EXPECT_GT(seenB, 0) << "no child came to write: seed " << seed;
+    replaceFile(path("file"), "after");
+    EXPECT_EQ(readFile(path("file")), "after");
+    EXPECT_THAT(names(), ElementsAre("file"));
+}
+
+// Guards two running games: no addition is lost under the lock, a lock file left behind is no hindrance, and writers
+// that use no lock never mix their bytes.
+TEST_F(TextFile, twoProcessesDoNotDisturbEachOther)
+{
+    replaceFile(path("count"), "0");
+    ASSERT_EQ(::kill(inChild([&] { // a game killed while it holds the lock
+                         const FileLock lock(path("count"));
+                         ::raise(SIGKILL);
+                     }),
+                     0),
+              0);
+    ASSERT_GT(::wait(nullptr), 0);
+    std::vector<pid_t> children;
+    for (const char mark : {'x', 'y', 'z'})
+        children.push_back(inChild([&, mark] {
+            for (int i = 0; i < 100; ++i) {
+                {
+                    const FileLock lock(path("count"));
+                    replaceFile(path("count"), std::to_string(std::stoi(readFile(path("count"))) + 1));
+                }
+                replaceFile(path("mixed"), std::string(5000, mark));
+                const std::string found = readFile(path("mixed"));
+                if (found != std::string(5000, found[0]))
+                    ::_exit(1);
+            }
+        }));
+    for (const pid_t child : children) {
+        int status = 0;
+        ASSERT_EQ(::waitpid(child, &status, 0), child);
+        EXPECT_EQ(status, 0) << "a mixed file, or an error";
+    }
+    EXPECT_EQ(readFile(path("count")), "300");
+}
+
+} // namespace
+} // namespace lexigrove
