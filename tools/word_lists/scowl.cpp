@@ -1,0 +1,111 @@
+#include "tools/word_lists/scowl.hpp"
+
+#include <algorithm>
+#include <array>
+#include <cctype>
+#include <filesystem>
+#include <fstream>
+#include <stdexcept>
+
+namespace lexigrove::tools
+{
+
+namespace
+{
+
+namespace fs = std::filesystem;
+
+/// Names beyond this class are so rare that they make no word suspect.
+constexpr int largestNameClass = 50;
+
+/// One file of SCOWL: "<spelling>-<kind>.<class>".
+struct ListFile {
+    fs::path path;
+    std::string spelling;
+    std::string kind;
+    int size = 0;
+};
+
+bool isNumber(std::string_view text)
+{
+    return !text.empty() && text.size() < 4 &&
+           std::all_of(text.begin(), text.end(), [](unsigned char c) { return std::isdigit(c) != 0; });
+}
+
+ListFile listFile(const fs::path& path)
+{
+    const std::string name = path.filename().string();
+    const std::size_t dash = name.find('-');
+    const std::size_t dot = name.rfind('.');
+    if (dash == std::string::npos || dot == std::string::npos || dot < dash || !isNumber(name.substr(dot + 1)))
+        return {};
+    return {path, name.substr(0, dash), name.substr(dash + 1, dot - dash - 1), std::stoi(name.substr(dot + 1))};
+}
+
+bool isOurSpelling(const std::string& spelling)
+{
+    return spelling == "english" || spelling == "american" || spelling == "british";
+}
+
+std::string lettersInLowerCase(std::string_view text)
+{
+    std::string letters;
+    for (const char c : text) {
+        if (c != '\'')
+            letters += static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+    }
+    return letters;
+}
+
+void readList(const ListFile& list, Scowl& scowl)
+{
+    std::ifstream file(list.path);
+    for (std::string line; std::getline(file, line);) {
+        if (list.kind == "words" && isPlainWord(line)) {
+            const auto [entry, isNew] = scowl.classes.emplace(line, list.size);
+            entry->second = std::min(entry->second, list.size);
+        } else if (list.kind == "contractions") {
+            scowl.bareContractions.insert(lettersInLowerCase(line));
+        } else if ((list.kind == "upper" || list.kind == "proper-names") && list.size <= largestNameClass) {
+            if (line.find('\'') == std::string::npos)
+                scowl.names.insert(lettersInLowerCase(line));
+        }
+    }
+    if (file.bad())
+        throw std::runtime_error("The word list " + list.path.string() + " cannot be read.");
+}
+
+void requireLists(const std::string& folder)
+{
+    for (const char* spelling : {"english", "american", "british"}) {
+        for (const int size : {10, 20, 35, 40, 50, 55, 60, 70, 80}) {
+            const fs::path list = fs::path(folder) / (std::string(spelling) + "-words." + std::to_string(size));
+            if (!fs::is_regular_file(list))
+                throw std::runtime_error(
+                    "The word list " + list.string() +
+                    " is missing. Install Debian's package scowl, or name the folder of another copy "
+                    "with -DLEXIGROVE_WORDS_DIR.");
+        }
+    }
+}
+
+} // namespace
+
+bool isPlainWord(std::string_view text)
+{
+    return text.size() >= 2 && std::all_of(text.begin(), text.end(), [](char c) { return c >= 'a' && c <= 'z'; });
+}
+
+Scowl readScowl(const std::string& folder)
+{
+    requireLists(folder);
+    Scowl scowl;
+    for (const fs::directory_entry& entry : fs::directory_iterator(folder)) {
+        const ListFile list = listFile(entry.path());
+        if (isOurSpelling(list.spelling) && list.size <= largestClass)
+            readList(list, scowl);
+    }
+    return scowl;
+}
+
+} // namespace lexigrove::tools
