@@ -29,10 +29,10 @@ ProgramFolderRequest programFolderRequest(std::optional<std::string> folderOptio
 /// The folder in which every file of the game lies, absolute, with its closing "/". The first of these that applies:
 /// - the folder that the player named, as it stands; it must exist, and nothing is put into it;
 /// - the executable's own folder, where it holds "L1Ascii.txt" and can be written (a build tree, a portable copy);
-/// - "lexigrove" in the user's data folder, which is made, and filled from the installed data: "../share/lexigrove" beside
-///   the executable's folder, else `installedData`. A missing file is put back and one that the user has left as it was
-///   follows a changed installed one; a file that the user has changed or brought is never touched. What was installed is
-///   noted in ".installed" there.
+/// - "lexigrove" in the user's data folder, which is made, and filled from the installed data ("../share/lexigrove" as
+///   seen from the executable's folder, else `installedData`). A missing file is put back, and one that the user has
+///   left as it was follows a changed installed one; a file that the user has changed or brought is never touched. What
+///   was installed is noted in ".installed" there.
 /// Throws ProgramFolderError.
 std::string programFolder(const ProgramFolderRequest& request);
 
