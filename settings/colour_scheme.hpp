@@ -64,9 +64,9 @@ public:
     [[nodiscard]] Colour tileFace(int multiplier) const;
     [[nodiscard]] Colour tileLetter(int multiplier) const;
 
-    /// A tile in the path exchanges face and letter.
-    [[nodiscard]] Colour selectedFace(int multiplier) const { return tileLetter(multiplier); }
-    [[nodiscard]] Colour selectedLetter(int multiplier) const { return tileFace(multiplier); }
+    /// A tile in the path, whatever its multiplier: the plain tile's face and letter exchange their colours.
+    [[nodiscard]] Colour selectedFace() const { return tileLetter(1); }
+    [[nodiscard]] Colour selectedLetter() const { return tileFace(1); }
 
     /// The fore colour on the computer's back colour.
     [[nodiscard]] Colour computerFore() const { return readableOn(plain(scheme_entry::computer)); }

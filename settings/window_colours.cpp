@@ -1,26 +1,20 @@
 #include "settings/window_colours.hpp"
 
-#include <algorithm>
-
 namespace lexigrove
 {
 
 namespace
 {
 
-/// The first of the candidates that tells from the tiles and the ground that the link crosses, or the one that does
-/// best.
-Colour linkColour(const ColourScheme& scheme, Colour ground, Colour accent)
+/// The bonus colour that shows best on the tiles that it joins; the accent where none does well.
+Colour linkColour(const ColourScheme& scheme, Colour accent)
 {
-    const auto leastDifference = [&](Colour link) {
-        return std::min({contrastRatio(link, ground), contrastRatio(link, scheme.selectedFace(1)),
-                         contrastRatio(link, scheme.tileFace(1))});
-    };
-    const Colour triple = scheme.tileFace(3);
-    const double enough = 1.25;
-    if (leastDifference(triple) >= enough)
-        return triple;
-    return leastDifference(accent) > leastDifference(triple) ? accent : triple;
+    constexpr double plainToSee = 2.5;
+    for (const int multiplier : {3, 2, 4}) {
+        if (contrastRatio(scheme.tileFace(multiplier), scheme.selectedFace()) >= plainToSee)
+            return scheme.tileFace(multiplier);
+    }
+    return readableText(accent, scheme.selectedFace());
 }
 
 } // namespace
@@ -30,6 +24,8 @@ WindowColours deriveWindowColours(const ColourScheme& scheme)
     // Shares of the text's colour in the ground, as the eye liked them in a light and in a dark window.
     constexpr double stripShare = 0.06;
     constexpr double lineShare = 0.20;
+    constexpr double strongLineShare = 0.55; // for a scheme of the strongest contrast, which asks for lines to match
+    constexpr double strongestContrast = 18;
     constexpr double rowShare = 0.12;
     constexpr double disabledShare = 0.55;
     constexpr double accentContrast = 5.5;
@@ -45,7 +41,8 @@ WindowColours deriveWindowColours(const ColourScheme& scheme)
     colours.strip = mixed(colours.ground, onGround, stripShare);
     colours.text = readableText(letter, colours.ground, colours.strip);
     colours.quietText = readableText(quietOn(colours.text, colours.ground), colours.ground, colours.strip);
-    colours.line = mixed(colours.ground, colours.text, lineShare);
+    const bool strong = contrastRatio(colours.text, colours.ground) >= strongestContrast;
+    colours.line = mixed(colours.ground, colours.text, strong ? strongLineShare : lineShare);
 
     colours.cardText = readableText(letter, colours.card);
     colours.cardQuietText = quietOn(colours.cardText, colours.card);
@@ -68,7 +65,7 @@ WindowColours deriveWindowColours(const ColourScheme& scheme)
     colours.tileLeft = scheme.plain(scheme_entry::tileLeft);
     colours.tileBottom = scheme.plain(scheme_entry::tileBottom);
     colours.tileRight = scheme.plain(scheme_entry::tileRight);
-    colours.link = linkColour(scheme, colours.ground, colours.accent);
+    colours.link = linkColour(scheme, colours.accent);
     return colours;
 }
 

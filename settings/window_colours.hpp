@@ -36,7 +36,7 @@ struct WindowColours {
     Colour computerText; ///< the computer's colour as a text on the card: its score, headings
 
     Colour tileTop, tileLeft, tileBottom, tileRight; ///< edge lines
-    Colour link; ///< between the tiles of the path; tells from the ground, the face and the selected face
+    Colour link;                                     ///< between the tiles of the path; shows on a selected tile
 
     bool dark; ///< the ground is nearer to black
 };
