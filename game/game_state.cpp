@@ -7,8 +7,8 @@ namespace lexigrove
 
 void GameState::resetForNewGame()
 {
-    WordTried.Caption.clear();
-    CurrScore.Caption.clear();
+    WordTried = {"", ownBack, ownFore};
+    CurrScore = {"", ownBack, ownFore};
     YourScore.Caption = "0";
     CompScore.Caption = "0";
     TilesLeft.Caption.clear();

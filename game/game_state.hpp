@@ -14,13 +14,17 @@ namespace lexigrove
 /// What the windows and the rules of one game share. Numbers shown in labels live in the labels' captions and are read
 /// back from there.
 struct GameState {
+    /// The colours of a label that no rule has coloured: the window's own.
+    static constexpr Colour ownBack = system_colour::windowBackground;
+    static constexpr Colour ownFore = system_colour::windowText;
+
     // The main window's controls
-    Label WordTried;      ///< the word being built, "Your move" or "Computer move..."
-    Label CurrScore;      ///< its score
-    Label YourScore{"0"}; ///< the player's score
-    Label CompScore{"0"}; ///< the computer's score
-    Label TilesLeft;      ///< letters still to come; "NONE": no further letters are drawn
-    Label Label4;         ///< the developer description of the tile under the pointer
+    Label WordTried{"", ownBack, ownFore}; ///< the word being built, "Your move" or "Computer move..."
+    Label CurrScore{"", ownBack, ownFore}; ///< its score
+    Label YourScore{"0"};                  ///< the player's score
+    Label CompScore{"0"};                  ///< the computer's score
+    Label TilesLeft;                       ///< letters still to come; "NONE": no further letters are drawn
+    Label Label4;                          ///< the developer description of the tile under the pointer
     Label EnterWord{"Enter Word"};
     Label Frame3;   ///< the buttons of the player's actions
     Label Picture1; ///< the board panel

@@ -1,5 +1,7 @@
 #include "game/tile_look.hpp"
 
+#include "game/game_state.hpp"
+
 namespace lexigrove
 {
 
@@ -27,15 +29,14 @@ void TileLook::showNormal(BoxControl& tile) const
 
 void TileLook::showSelected(BoxControl& tile) const
 {
-    const int multiplier = static_cast<int>(tile.MaskColor());
-    tile.ForeColor(scheme_.selectedLetter(multiplier));
-    tile.backcolor(scheme_.selectedFace(multiplier));
+    tile.ForeColor(scheme_.selectedLetter());
+    tile.backcolor(scheme_.selectedFace());
     tile.KeepDown(); // last: a redraw of a held tile would show its frame again
 }
 
 Colour TileLook::scoreGround(int bestMultiplier) const
 {
-    return bestMultiplier > 1 ? scheme_.tileFace(bestMultiplier) : system_colour::windowBackground;
+    return bestMultiplier > 1 ? scheme_.tileFace(bestMultiplier) : GameState::ownBack;
 }
 
 } // namespace lexigrove

@@ -1,0 +1,517 @@
+#include "flow/game_flow.hpp"
+
+#include "opponent/spelling.hpp"
+#include "platform/leaving.hpp"
+#include "settings/window_colours.hpp"
+
+#include <algorithm>
+#include <limits>
+
+namespace lexigrove
+{
+
+GameFlow::GameFlow(const Ports& ports, const Windows& windows, const std::string& folder)
+    : ports_(ports),
+      windows_(windows),
+      folder_(folder),
+      dictionary(folder),
+      scheme(folder, ports.dialogs),
+      sounds(ports.sound, folder),
+      options({ports.dialogs, ports.screen, dictionary, scheme, sounds, folder}),
+      game(ports, dictionary, sounds, scheme, options),
+      services(folder),
+      scoreFile(folder, ports.dialogs),
+      scoreForm(scoreFile, ports.dialogs),
+      maintenance(dictionary, ports.dialogs, ports.screen, ports.clock),
+      meanings(game.state, ports.status, sounds, services, windows.meaning),
+      hints(game, search, wordRound, hintsForm, windows.hints),
+      configuration({ports.dialogs, ports.clock, options, Dc1, scheme, dictionary, folder})
+{
+}
+
+/// One input from its beginning to its end. Whoever closes the window on the way unwinds the input to here, and the
+/// leaving sequence follows.
+template <std::invocable Action>
+void GameFlow::perform(Action action)
+{
+    if (busy_ || ended_)
+        return;
+    busy_ = true;
+    try {
+        try {
+            action();
+        } catch (const Leaving&) {
+            leave();
+        }
+    } catch (const ProgramEnd&) {
+        ended_ = true;
+    }
+    busy_ = false;
+}
+
+/// An action of the game: refused without a game and while it is paused.
+template <std::invocable Action>
+void GameFlow::performInGame(Action action)
+{
+    if (inGame_ && !paused_)
+        perform(action);
+}
+
+// ---- The program's course
+
+void GameFlow::startUp()
+{
+    perform([this] {
+        setUpClock();
+        const WindowColours before = deriveWindowColours(scheme);
+        configuration.load(before.ground, before.card);
+        options.applyDictionaryChoice();
+        options.loadSchemes();
+        if (Dc1.ClockColor() == "DEFAULT") { // the colours that the configuration gave it were those before the scheme
+            const WindowColours colours = deriveWindowColours(scheme);
+            Dc1.ClockBackground(colours.ground);
+            Dc1.DigitHighlight(colours.card);
+        }
+        game.refreshLooks();
+    });
+}
+
+void GameFlow::setUpClock()
+{
+    Dc1.ClockColor("BLUE");
+    Dc1.DigitWidth(3);
+    Dc1.ClockStartValue(0);
+    Dc1.ClockIncrement(-1);
+    Dc1.ShowTimeOnly(true);
+    Dc1.StartCountdown();
+}
+
+void GameFlow::openOptionsAndStart()
+{
+    perform([this] {
+        showOptions();
+        beginGame();
+    });
+}
+
+void GameFlow::startGame()
+{
+    perform([this] {
+        clearGame();
+        beginGame();
+    });
+}
+
+void GameFlow::showOptions()
+{
+    inGame_ = false;
+    options.open();
+    windows_.options.show(options);
+    if (options.answer() == OptionsForm::Answer::Exit)
+        leave();
+}
+
+void GameFlow::clearGame()
+{
+    resume();
+    letterSwap.cancel();
+    game.selection.clear();
+    game.state.resetForNewGame();
+}
+
+void GameFlow::beginGame()
+{
+    options.takeChoices(); // applies the dictionary choice again, so that the red threshold starts from its table
+    services.choose(options);
+    game.state.resetForNewGame();
+    game.state.computerGame = options.isComputerGame();
+    game.state.redTileHold = false;
+    maintenance.reset();
+    dictionary.read(ports_.dialogs, ports_.status, ports_.random, ports_.clock);
+    game.board.layOut(options.isSquare() ? Arrangement::Square : Arrangement::Staggered);
+    game.supply.dealLetters();
+    game.refreshLooks();
+    if (game.state.computerGame)
+        options.settings.presetLetters = "x";
+    startClock();
+    inGame_ = true;
+}
+
+void GameFlow::startClock()
+{
+    Dc1.ShowTimeOnly(!game.state.computerGame);
+    Dc1.ClockStartValue(game.state.computerGame ? gameSeconds : 0);
+    Dc1.StartCountdown();
+}
+
+void GameFlow::menuNewGame()
+{
+    if (paused_)
+        return;
+    perform([this] {
+        letterSwap.cancel();
+        sounds.play(cue::menu);
+        if (game.state.wordsMade > 0) {
+            if (!ports_.dialogs.confirm("Do you wish to reset?"))
+                return;
+            if (isNormalGame() && offerScore() == "NOMORE") {
+                options.settings.presetLetters = "x"; // offered: leaving does not record it again
+                leave();
+            }
+        }
+        anotherGame();
+    });
+}
+
+/// The board and everything that is counted per game are cleared, the player chooses, and a game starts.
+void GameFlow::anotherGame()
+{
+    options.settings.presetLetters.clear();
+    clearGame();
+    showOptions();
+    beginGame();
+}
+
+/// Shows the top-ten window when the score enters the list. Its answer, empty otherwise.
+std::string GameFlow::offerScore()
+{
+    const int score = numberOf(game.state.YourScore.Caption);
+    if (score <= scoreFile.lowest())
+        return {};
+    return lexigrove::showTopTen(scoreForm, windows_.scores, std::to_string(score));
+}
+
+void GameFlow::loseGame(int col)
+{
+    game.redTiles.pushOutRedTile(col);
+    ports_.status.show("A red tile was pushed out. Game over.");
+    ports_.screen.yield();
+    endOfGame();
+}
+
+void GameFlow::endOfGame()
+{
+    sounds.play(cue::menu);
+    std::string& presetLetters = options.settings.presetLetters;
+    if (isNormalGame()) {
+        game.state.statistics.setHintsUsed(game.state.hintsUsed);
+        presetLetters = "x"; // offered once: leaving does not record the score a second time
+        const std::string answer = offerScore();
+        if (answer == "NOMORE")
+            leave();
+        if (answer != "NOGAME") {
+            if (!ports_.dialogs.confirm("Another game?"))
+                leave();
+            lexigrove::showTopTen(scoreForm, windows_.scores, ScoreForm::showOnly);
+        }
+    } else if (!ports_.dialogs.confirm("Another game?")) {
+        leave();
+    }
+    game.state.redTileHold = true;
+    anotherGame();
+}
+
+void GameFlow::clockExpired()
+{
+    if (!inGame_ || !game.state.computerGame)
+        return;
+    Dc1.SuspendCountDown(); // told once
+    letterSwap.cancel();
+    ports_.dialogs.message("Game over\r\n5 minutes have elapsed");
+    tellWinner();
+    endOfGame();
+}
+
+void GameFlow::tellWinner()
+{
+    const int lead = numberOf(game.state.YourScore.Caption) - numberOf(game.state.CompScore.Caption);
+    if (lead > 0)
+        ports_.status.show("You won by " + std::to_string(lead) + (lead == 1 ? " point" : " points"));
+    else if (lead < 0)
+        ports_.status.show("The computer won by " + std::to_string(-lead) + (lead == -1 ? " point" : " points"));
+    else
+        ports_.status.show("A draw: you and the computer have the same score");
+}
+
+void GameFlow::exit()
+{
+    perform([this] { leave(); });
+}
+
+/// Leaving goes on whatever happens to its questions: one that is closed counts as declined.
+void GameFlow::leave()
+{
+    const auto despiteLeaving = [](auto step) {
+        try {
+            step();
+        } catch (const Leaving&) {
+            return;
+        }
+    };
+    despiteLeaving([this] {
+        if (isNormalGame())
+            offerScore();
+    });
+    despiteLeaving([this] { configuration.save(); });
+    sounds.play(cue::thanks);
+    throw ProgramEnd();
+}
+
+// ---- The player's inputs
+
+void GameFlow::clickTile(int tile, MouseButton button, bool shift)
+{
+    performInGame([=, this] {
+        if (!game.board.isVisible(tile) || !game.state.Picture1.Enabled)
+            return;
+        const bool again = letterSwap.isPending() && letterSwap.tile() == tile;
+        if (shift || again) {
+            letterSwap.request(tile);
+            return;
+        }
+        letterSwap.cancel();
+        if (button == MouseButton::Right && game.selection.entryPending) {
+            game.selection.entryPending = false;
+            wordRound.enterWord();
+        } else {
+            game.selection.tileClicked(tile, button);
+        }
+    });
+}
+
+void GameFlow::hoverTile(int tile)
+{
+    if (!inGame_ || busy_ || paused_ || letterSwap.isPending() || !game.board.isVisible(tile))
+        return;
+    ports_.status.Warn = false;
+    ports_.status.write(game.board.hoverCaption(tile));
+    game.state.Label4.Caption = game.board.description(tile);
+}
+
+void GameFlow::enterWord()
+{
+    performInGame([this] {
+        letterSwap.cancel();
+        wordRound.enterWord();
+    });
+}
+
+void GameFlow::drop(int col)
+{
+    performInGame([=, this] {
+        if (letterSwap.isPending())
+            letterSwap.exchange(col);
+        else if (game.board.TopDrop[static_cast<std::size_t>(col)].Visible())
+            game.dropRow.dropIntoColumn(col);
+    });
+}
+
+void GameFlow::getHint()
+{
+    performInGame([this] {
+        letterSwap.cancel();
+        hints.getHint();
+    });
+}
+
+void GameFlow::checkSpelling()
+{
+    performInGame([this] {
+        letterSwap.cancel();
+        lexigrove::checkSpelling(game.state, dictionary, sounds, ports_.status);
+    });
+}
+
+void GameFlow::showMeaning()
+{
+    performInGame([this] {
+        letterSwap.cancel();
+        meanings.showOfCurrentRow();
+    });
+}
+
+void GameFlow::addWord()
+{
+    performInGame([this] {
+        letterSwap.cancel();
+        if (maintenance.open(game.state.WordTried.Caption, ports_.status))
+            windows_.maintenance.show(maintenance);
+    });
+}
+
+void GameFlow::soundButton()
+{
+    perform([this] { options.soundButton(); });
+}
+
+void GameFlow::pause()
+{
+    if (!inGame_)
+        return;
+    perform([this] {
+        if (paused_) {
+            resume();
+            return;
+        }
+        letterSwap.cancel();
+        paused_ = true;
+        pauseCaptionShown_ = true;
+        clockRanBeforePause_ = Dc1.running();
+        Dc1.SuspendCountDown();
+    });
+}
+
+void GameFlow::resume()
+{
+    if (!paused_)
+        return;
+    paused_ = false;
+    if (clockRanBeforePause_)
+        Dc1.ResumeCountDown();
+}
+
+void GameFlow::escape()
+{
+    performInGame([this] {
+        if (letterSwap.isPending())
+            letterSwap.cancel();
+        else
+            game.selection.clear();
+    });
+}
+
+void GameFlow::releaseClockFrame(MouseButton button)
+{
+    perform([=, this] {
+        if (button == MouseButton::Left)
+            frame10Released(Dc1, leftButton);
+        else if (button == MouseButton::Right)
+            frame10Released(Dc1, rightButton);
+    });
+}
+
+void GameFlow::sortWordsMade(int x)
+{
+    perform([=, this] { game.state.WordsMade.headingClicked(x); });
+}
+
+/// What every action does that opens a window from the main one: a sound, and no pressure until the next word.
+void GameFlow::openingWindow()
+{
+    letterSwap.cancel();
+    game.state.redTileHold = true;
+    sounds.play(cue::menu);
+}
+
+void GameFlow::showTopTen()
+{
+    perform([this] {
+        openingWindow();
+        lexigrove::showTopTen(scoreForm, windows_.scores, ScoreForm::showOnly);
+    });
+}
+
+void GameFlow::showStatistics()
+{
+    performInGame([this] {
+        openingWindow();
+        game.state.statistics.setHintsUsed(game.state.hintsUsed);
+        statisticsForm.activate(game.state.computerGame, dictionary.letters.letterCounts);
+        windows_.statistics.show(statisticsForm);
+    });
+}
+
+void GameFlow::showHelp()
+{
+    perform([this] {
+        openingWindow();
+        helpForm.Tag = helpAddress(folder_);
+        windows_.help.show(helpForm);
+    });
+}
+
+void GameFlow::showAbout()
+{
+    perform([this] {
+        openingWindow();
+        windows_.about.show(aboutForm);
+    });
+}
+
+void GameFlow::askDeveloperPassword()
+{
+    perform([this] {
+        game.state.developerMode = false;
+        if (ports_.dialogs.input("LexiGrove", "Enter password", "") == "718kestr")
+            game.state.developerMode = true;
+    });
+}
+
+void GameFlow::releaseDeveloperKey(DeveloperKey key)
+{
+    if (!game.state.developerMode)
+        return;
+    int& delay = options.settings.dropDelay;
+    constexpr int step = 10;
+    constexpr int highest = std::numeric_limits<std::int16_t>::max();
+    switch (key) {
+    case DeveloperKey::End:
+        delay = 0;
+        break;
+    case DeveloperKey::NumpadMinus:
+        delay = std::min(delay + step, highest);
+        break;
+    case DeveloperKey::NumpadPlus:
+        delay = std::max(delay - step, 0);
+        break;
+    case DeveloperKey::Home:
+        delay = GameSettings::startDelay;
+        break;
+    }
+}
+
+void GameFlow::exportWords()
+{
+    perform([this] { (void)dictionary.exportWords(ports_.dialogs, ports_.random, ports_.clock); });
+}
+
+// ---- The timers
+
+void GameFlow::redTimerTick()
+{
+    performInGame([this] { game.redTiles.redTimerTick(); });
+}
+
+void GameFlow::pushTimerTick()
+{
+    performInGame([this] {
+        const RedTiles::PushResult push = game.redTiles.pushTimerTick();
+        if (push.what == RedTiles::Push::Pushed)
+            letterSwap.cancel();
+        if (push.what == RedTiles::Push::Lost)
+            loseGame(push.col);
+    });
+}
+
+/// The clock goes on while a window is open; an expiry that meets one is told when it has closed, for it is raised
+/// again at every tick.
+void GameFlow::clockTimerTick()
+{
+    const bool expired = Dc1.tick(ports_.clock.secondsSinceMidnight());
+    if (expired)
+        perform([this] { clockExpired(); });
+}
+
+void GameFlow::pauseTimerTick()
+{
+    if (paused_)
+        pauseCaptionShown_ = !pauseCaptionShown_;
+}
+
+void GameFlow::clockGotFocus()
+{
+    if (Dc1.gotFocus())
+        perform([this] { clockExpired(); });
+}
+
+} // namespace lexigrove

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "game/game.hpp"
+
+namespace lexigrove
+{
+
+/// Exchanges the letter of a board tile with a waiting one, for ten points.
+class LetterSwap
+{
+public:
+    static constexpr int price = 10;
+
+    explicit LetterSwap(Game& game) : game_(game) {}
+
+    /// Asks for a swap of this tile: clears the path and marks the tile, or says that the score is too low. Asked again
+    /// for the marked tile, it cancels.
+    void request(int tile);
+
+    /// Exchanges the marked tile's letter with the one waiting over a column, takes the price and plays the sound. The
+    /// tile keeps its multiplier. An empty place refuses with a sound, and the tile stays marked.
+    void exchange(int col);
+
+    /// Takes the mark back, at no cost.
+    void cancel();
+
+    [[nodiscard]] bool isPending() const { return tile_ != 0; }
+    /// The marked tile, 0 for none.
+    [[nodiscard]] int tile() const { return tile_; }
+
+private:
+    Game& game_;
+    int tile_ = 0;
+};
+
+} // namespace lexigrove

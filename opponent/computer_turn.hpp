@@ -1,0 +1,35 @@
+#pragma once
+
+#include "controls/dc.hpp"
+#include "game/game.hpp"
+#include "opponent/board_search.hpp"
+
+namespace lexigrove
+{
+
+/// The computer's turn: it finds every word on the board, picks one by the strategy of the options, shows it as a
+/// player's selection would look, waits for the player to acknowledge it, and plays it. Its words are scored from their
+/// letters alone.
+class ComputerTurn
+{
+public:
+    ComputerTurn(Game& game, BoardSearch& search, Dc& Dc1) : game_(game), search_(search), Dc1_(Dc1) {}
+
+    /// One whole turn; returns at once while a turn is in progress.
+    void take();
+
+private:
+    void begin();
+    [[nodiscard]] int choosePosition(const CandidateList& candidates) const;
+    void showSelected(const CandidateList& candidates, int position);
+    void play();
+    void listWord(const std::string& word, int score);
+    void refillBoard();
+    void end();
+
+    Game& game_;
+    BoardSearch& search_;
+    Dc& Dc1_;
+};
+
+} // namespace lexigrove

@@ -1,0 +1,63 @@
+#include "opponent/hints.hpp"
+
+#include "opponent/board_snapshot.hpp"
+
+#include <algorithm>
+
+namespace lexigrove
+{
+
+int hintPrice(int level)
+{
+    switch (level) {
+    case 1:
+        return 10;
+    case 3:
+        return 20;
+    default:
+        return 15;
+    }
+}
+
+void Hints::getHint()
+{
+    GameState& state = game_.state;
+    if (state.computerTurnInProgress || !pay())
+        return;
+
+    game_.ports.screen.setBusyPointer(true);
+    const CandidateList& candidates = search_.sweep(snapshotOf(game_.board), game_.dictionary.words);
+    game_.ports.screen.setBusyPointer(false);
+    if (candidates.count() == 0) {
+        game_.ports.status.show("There are no valid hints"); // the pressure waits for the next word
+        return;
+    }
+
+    game_.selection.clear();
+    ++state.hintsUsed;
+    form_.activate(candidates);
+    window_.show(form_);
+    if (!form_.result().empty())
+        round_.enterWord();
+    game_.refreshLooks();
+    state.redTileHold = false;
+}
+
+/// False when the score is too low; nothing has happened then but the message.
+bool Hints::pay()
+{
+    const int price = hintPrice(game_.dictionary.level());
+    Label& YourScore = game_.state.YourScore;
+    const int score = numberOf(YourScore.Caption);
+    if (score < price && !game_.state.developerMode) {
+        game_.sounds.play(cue::error);
+        game_.ports.status.show("your score must be at least" + std::to_string(price) + " to get a hint");
+        return false;
+    }
+    game_.sounds.play(cue::menu);
+    game_.state.redTileHold = true;
+    YourScore.Caption = std::to_string(std::max(0, score - price));
+    return true;
+}
+
+} // namespace lexigrove

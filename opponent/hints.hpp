@@ -1,0 +1,36 @@
+#pragma once
+
+#include "game/game.hpp"
+#include "opponent/board_search.hpp"
+#include "opponent/hints_form.hpp"
+#include "opponent/word_round.hpp"
+
+namespace lexigrove
+{
+
+/// What a hint costs: 10, 15 and 20 points at levels 1 to 3, 15 with a user dictionary (level 0).
+int hintPrice(int level);
+
+/// `Hintx`: sells the player a look at every word on the board.
+class Hints
+{
+public:
+    Hints(Game& game, BoardSearch& search, WordRound& round, HintsForm& form, HintsWindow& window)
+        : game_(game), search_(search), round_(round), form_(form), window_(window)
+    {
+    }
+
+    /// Takes the price, which is not given back when there is no word; shows the hints; enters the word taken.
+    void getHint();
+
+private:
+    [[nodiscard]] bool pay();
+
+    Game& game_;
+    BoardSearch& search_;
+    WordRound& round_;
+    HintsForm& form_;
+    HintsWindow& window_;
+};
+
+} // namespace lexigrove

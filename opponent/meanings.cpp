@@ -1,0 +1,29 @@
+#include "opponent/meanings.hpp"
+
+namespace lexigrove
+{
+
+void Meanings::showOfCurrentRow()
+{
+    if (state_.computerTurnInProgress)
+        return;
+    const std::string word = currentWord(state_.WordsMade);
+    if (word.empty()) {
+        status_.show("Select a word first");
+        return;
+    }
+    showMeaning(word);
+}
+
+void Meanings::showMeaning(const std::string& word)
+{
+    sounds_.play(cue::menu);
+    window_.show(MeaningForm{word, services_.addressOf(word)});
+}
+
+std::string currentWord(const WordsGrid& grid)
+{
+    return grid.Row() > 0 ? grid.text(grid.Row(), WordsGrid::wordColumn) : std::string();
+}
+
+} // namespace lexigrove
