@@ -198,11 +198,10 @@ void Dc::showTimeOfDay(double secondsSinceMidnight)
 /// A figure that has no pattern (a hundred minutes and more, or less than none) leaves its digit dark.
 void Dc::showDigit(int digit, int figure)
 {
-    for (int segment = 0; segment < segmentCount; ++segment) {
-        const bool on = figure >= 0 && figure <= 9 &&
-                        patterns[static_cast<std::size_t>(figure)][static_cast<std::size_t>(segment)] == '1';
-        lit_.at(static_cast<std::size_t>(10 * digit + segment)) = on;
-    }
+    const bool known = figure >= 0 && figure <= 9;
+    const std::string_view pattern = known ? patterns[static_cast<std::size_t>(figure)] : "0000000";
+    const std::ptrdiff_t first = 10 * static_cast<std::ptrdiff_t>(digit);
+    std::transform(pattern.begin(), pattern.end(), lit_.begin() + first, [](char c) { return c == '1'; });
 }
 
 void Dc::repaint()

@@ -82,7 +82,7 @@ std::string followLinks(const std::string& path)
         if (length < 0)
             return file;
         link.resize(static_cast<std::size_t>(length));
-        file = link.starts_with('/') ? link : folderOf(file) + "/" + link;
+        file = link.starts_with('/') ? link : (folderOf(file) + '/').append(link);
     }
     throw FileError("Cannot write the file", path, ELOOP);
 }

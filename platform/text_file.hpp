@@ -26,8 +26,8 @@ std::vector<std::string_view> splitLines(std::string_view text);
 /// `readFile` and `splitLines` in one, with owned lines.
 std::vector<std::string> readLines(const std::string& path);
 
-/// Replaces the file whole or not at all: writes a temporary file beside it, flushes it to the disk and renames it over the
-/// target. After a failure (FileError) or a crash at any moment the old file stands as it was.
+/// Replaces the file whole or not at all: writes a temporary file beside it, flushes it to the disk and renames it over
+/// the target. After a failure (FileError) or a crash at any moment the old file stands as it was.
 void replaceFile(const std::string& path, std::string_view bytes);
 
 /// `replaceFile` of the lines, each ended by CR LF.
@@ -36,8 +36,9 @@ void replaceLines(const std::string& path, const std::vector<std::string>& lines
 /// Replaces `target` by a copy of `source`, whole or not at all.
 void copyFile(const std::string& source, const std::string& target);
 
-/// Holds an exclusive lock for a file's readers and writers among running games, on "<path>.lock" beside it, until the end of
-/// the scope. Where the folder cannot be written it holds nothing, and says nothing.
+/// Holds an exclusive lock for a file's readers and writers among running games, on "<path>.lock" beside it, until the
+/// end of the scope. Where the folder cannot be written it holds nothing, and says nothing. A second lock on the same
+/// file within one process would wait for the first for ever.
 class FileLock
 {
 public:

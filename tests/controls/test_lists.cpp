@@ -16,6 +16,7 @@ using testing::ElementsAre;
 std::vector<std::string> itemsOf(const ItemList& list)
 {
     std::vector<std::string> items;
+    items.reserve(static_cast<std::size_t>(list.ListCount()));
     for (int i = 0; i < list.ListCount(); ++i)
         items.emplace_back(list.list(i));
     return items;
