@@ -1,0 +1,58 @@
+#pragma once
+
+#include "dictionary/word_list.hpp"
+#include "opponent/candidate_list.hpp"
+#include "opponent/search_board.hpp"
+#include "opponent/spelling_board.hpp"
+#include "opponent/word_trie.hpp"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace lexigrove
+{
+
+/// One word traced on a board.
+struct TracedWord {
+    /// The letters of the longest beginning of the word that the board spells; 0 when no tile shows its first letter.
+    int matchedLength = 0;
+    /// Every path of that beginning as its path item ("051213CAT"), in the order found; none below two letters.
+    std::vector<std::string> items;
+};
+
+/// Finds the words of a list that chains of touching tiles spell, no tile used twice.
+///
+/// The answers are those of tracing the words of the list one after the other, each breadth-first with every partial
+/// path kept. What words have in common with the word before is traced once: the words are a tree, and each node of it
+/// has the frontier of the paths that spell it.
+class BoardSearch
+{
+public:
+    /// Traces one word, which is taken in upper case. It need not be in any list.
+    TracedWord traceWord(const SearchBoard& board, std::string_view word);
+
+    /// Looks for every word of two letters and more and reports those that can be traced, in the list's order, each
+    /// with its letter score and its first path. The list stands until the next sweep.
+    ///
+    /// The first sweep over a list prepares its words, in a few milliseconds for 200,000; after that no sweep allocates
+    /// unless it needs more room than any before.
+    const CandidateList& sweep(const SearchBoard& board, const WordList& words);
+
+    /// List 3: what the last sweep found.
+    [[nodiscard]] const CandidateList& candidates() const { return candidates_; }
+
+    /// What the search keeps beside the words, in bytes.
+    [[nodiscard]] std::size_t memory() const { return trie_.memory(); }
+
+private:
+    void visitChildren(WordTrie::Node parent, const Frontier& paths, int length, int score);
+
+    WordList words_; ///< the list that the tree was made from
+    WordTrie trie_;
+    SpellingBoard board_;
+    CandidateList candidates_;
+};
+
+} // namespace lexigrove
