@@ -76,7 +76,7 @@ void writeNote(const std::string& path, const Note& note)
 /// Brings one file. Returns what is to be noted of it.
 Original follow(const fs::path& installed, const fs::path& target, const Original& noted)
 {
-    const Original now{stampOf(installed), checksum(installed.string())};
+    Original now{stampOf(installed), checksum(installed.string())};
     if (!fs::exists(target)) {
         copyFile(installed.string(), target.string());
         return now;

@@ -50,7 +50,7 @@ std::string namedFolder(const std::string& name)
 fs::path installedData(const ProgramFolderRequest& request)
 {
     if (!request.executable.empty()) {
-        const fs::path beside = fs::path(request.executable).parent_path().parent_path() / "share" / gameFolder;
+        fs::path beside = fs::path(request.executable).parent_path().parent_path() / "share" / gameFolder;
         if (holdsData(beside))
             return beside;
     }
@@ -105,7 +105,7 @@ std::string environment(const char* name)
 
 std::string homeFolder()
 {
-    const std::string home = environment("HOME");
+    std::string home = environment("HOME");
     if (!home.empty())
         return home;
     const passwd* user = getpwuid(getuid());

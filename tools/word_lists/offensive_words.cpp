@@ -80,7 +80,16 @@ Words offensiveUseOffsets(const std::string& folder)
     return offsets;
 }
 
-/// "offset word" for each word that the meaning is offensive of.
+/// The key of one meaning of one word.
+std::string meaningOf(const std::string& word, const std::string& offset)
+{
+    std::string key = word;
+    key += ' ';
+    key += offset;
+    return key;
+}
+
+/// The keys of the meanings that are offensive.
 Words offensiveMeanings(const std::string& folder, const std::string& part, const Words& uses)
 {
     Words found;
@@ -94,7 +103,7 @@ Words offensiveMeanings(const std::string& folder, const std::string& part, cons
                 continue;
             for (std::size_t word = 0; word < meaning.words.size(); ++word) {
                 if (number == 0 || number == word + 1)
-                    found.insert(meaning.offset + " " + meaning.words[word]);
+                    found.insert(meaningOf(meaning.words[word], meaning.offset));
             }
         }
     }
@@ -163,7 +172,7 @@ OffensiveWords readOffensiveWords(const std::string& folder)
     for (const char* part : partsOfSpeech) {
         const Words offensive = offensiveMeanings(folder, part, uses);
         forEachWord(folder, part, [&](const std::string& word, const std::string& meaning) {
-            if (offensive.contains(meaning + " " + word))
+            if (offensive.contains(meaningOf(word, meaning)))
                 words.insert(word);
         });
     }

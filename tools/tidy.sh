@@ -1,0 +1,45 @@
+#!/usr/bin/env bash
+# tidy.sh BUILD-FOLDER: runs clang-tidy over the C++ files below the window that have been built there. A file that passed
+# is left alone until it, a header that it includes, .clang-tidy or clang-tidy itself changes.
+set -euo pipefail
+root=$(dirname "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")")
+build=$(readlink -f "$1")
+passed=$root/build/tidy
+mkdir -p "$passed"
+if [ ! -f "$build/compile_commands.json" ]; then
+    echo "$build was not configured with -DCMAKE_EXPORT_COMPILE_COMMANDS=ON." >&2
+    exit 1
+fi
+cd "$root"
+
+# One line for each object file built: its source and the project's headers that it includes, from the root.
+dependencies() {
+    ninja -C "$build" -t deps | awk -v root="$root/" '
+        /^[^ ]/ { if (line != "") print line; line = ""; next }
+        NF == 1 {
+            path = $1
+            if (sub(/^(\.\.\/)+/, "", path) || index(path, root) == 1 && (path = substr(path, length(root) + 1)))
+                if (path !~ /^(build|usr)\//) line = line (line == "" ? "" : " ") path
+        }
+        END { if (line != "") print line }'
+}
+
+tidy_one() {
+    local files=($1) stamp log
+    stamp=$passed/$( (clang-tidy --version; cat .clang-tidy "${files[@]}") | sha256sum | cut -c 1-40)
+    [ ! -e "$stamp" ] || return 0
+    log=$(mktemp)
+    if clang-tidy -p "$build" --quiet "${files[0]}" >"$log" 2>&1; then
+        touch "$stamp"
+    else
+        cat "$log"
+        rm -f "$log"
+        return 1
+    fi
+    rm -f "$log"
+}
+export -f tidy_one
+export passed build
+
+dependencies | grep -E '^(platform|controls|dictionary|scores|settings|game|opponent|flow|console|tools)/[^ ]*\.cpp ' |
+    sort -u | tr '\n' '\0' | xargs -0 -r -n 1 -P "$(nproc)" bash -c 'tidy_one "$1"' tidy
