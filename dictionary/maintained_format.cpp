@@ -34,22 +34,28 @@ std::size_t sharedLetters(std::string_view previous, std::string_view word)
     return static_cast<std::size_t>(differing.first - previous.begin());
 }
 
-void refuseLineEnds(std::string_view word)
+void refuseLineEnds(std::string_view text)
 {
-    if (word.find_first_of("\r\n") != std::string_view::npos)
+    if (std::any_of(text.begin(), text.end(), [](char character) { return character == '\r' || character == '\n'; }))
         throw FormatError("A word holds a line end");
 }
 
-/// The first letters of the word before, as many as marker - `unshared`, and the rest of the line.
-std::string expand(std::string_view previous, std::string_view line, int unshared)
+/// Makes the word before into the word of the line: its first letters, as many as marker - `unshared`, and the rest of
+/// the line.
+void expand(std::string& word, std::string_view line, std::ptrdiff_t unshared)
 {
     if (line.empty())
         throw FormatError("A line has no marker");
-    const int shared = static_cast<unsigned char>(line.front()) - unshared;
-    if (shared < 0 || static_cast<std::size_t>(shared) > previous.size())
+    const std::ptrdiff_t shared = static_cast<unsigned char>(line.front()) - unshared;
+    if (shared < 0 || static_cast<std::size_t>(shared) > word.size())
         throw FormatError("A marker shares letters that the word before does not have");
-    std::string word(previous.substr(0, static_cast<std::size_t>(shared)));
-    return word += line.substr(1);
+    word.resize(static_cast<std::size_t>(shared));
+    word += line.substr(1);
+}
+
+std::ptrdiff_t unsharedLetters(int codingBase, std::string_view previous)
+{
+    return codingBase - std::ssize(previous);
 }
 
 } // namespace
@@ -92,8 +98,9 @@ std::string headerLine(std::string_view firstWord, std::string_view date, std::s
 
 void appendCodedLine(std::string& text, std::string_view previous, std::string_view word)
 {
-    refuseLineEnds(word);
     const std::size_t shared = sharedLetters(previous, word);
+    const std::string_view rest = word.substr(shared);
+    refuseLineEnds(rest);
     const std::size_t unshared = previous.size() - shared;
     if (unshared > writtenCodingBase)
         throw FormatError("A word of more than 129 letters cannot be coded: " + std::string(previous));
@@ -101,7 +108,7 @@ void appendCodedLine(std::string& text, std::string_view previous, std::string_v
     if (marker == '\r' || marker == '\n')
         throw FormatError("The marker behind this word would be a line end: " + std::string(previous));
     text += marker;
-    text += word.substr(shared);
+    text += rest;
     text += "\r\n";
 }
 
@@ -109,6 +116,7 @@ std::string codedLines(const WordList& words)
 {
     refuseLineEnds(words.entry(1));
     std::string text;
+    text.reserve(words.memory()); // more than the lines take
     for (int i = 2; i <= words.count(); ++i)
         appendCodedLine(text, words.entry(i - 1), words.entry(i));
     return text;
@@ -116,12 +124,16 @@ std::string codedLines(const WordList& words)
 
 std::string expandLine(std::string_view previous, std::string_view line, int codingBase)
 {
-    return expand(previous, line, codingBase - static_cast<int>(previous.size()));
+    std::string word(previous);
+    expand(word, line, unsharedLetters(codingBase, previous));
+    return word;
 }
 
 std::string expandOldLine(std::string_view previous, std::string_view line)
 {
-    return expand(previous, line, olderCodingBase);
+    std::string word(previous);
+    expand(word, line, olderCodingBase);
+    return word;
 }
 
 const std::string& LineDecoder::read(std::string_view line)
@@ -133,7 +145,7 @@ const std::string& LineDecoder::read(std::string_view line)
         codingBase_ = header.codingBase;
         word_ = std::move(header.firstWord);
     } else {
-        word_ = coding_ == Coding::OldMaintained ? expandOldLine(word_, line) : expandLine(word_, line, codingBase_);
+        expand(word_, line, coding_ == Coding::OldMaintained ? olderCodingBase : unsharedLetters(codingBase_, word_));
     }
     atStart_ = false;
     return word_;

@@ -16,12 +16,6 @@ namespace
 
 constexpr const char* userDictionaryRefused = "Cannot add words to user dictionary through this option";
 
-/// A number with its sign: a blank before a positive one.
-std::string signedNumber(int number)
-{
-    return (number < 0 ? "" : " ") + std::to_string(number);
-}
-
 std::string_view firstLine(std::string_view text)
 {
     return text.substr(0, text.find_first_of("\r\n"));
@@ -343,8 +337,10 @@ bool DictionaryMaintenance::readBack(const LevelFiles& files, const Rewrite& rew
         dialogs_.message(rewrite.done);
         return true;
     }
-    std::string text = "Error" + signedNumber(difference->index);
-    dialogs_.message(text.append(rewrite.words.entry(difference->index)) + difference->read);
+    std::string text = "Error "; // the blank is the sign of the number
+    text += std::to_string(difference->index);
+    text += rewrite.words.entry(difference->index);
+    dialogs_.message(text + difference->read);
     restore(files, rewrite, oldText);
     return false;
 }

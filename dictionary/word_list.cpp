@@ -1,5 +1,7 @@
 #include "dictionary/word_list.hpp"
 
+#include "platform/text_file.hpp"
+
 #include <algorithm>
 #include <limits>
 #include <stdexcept>
@@ -11,40 +13,84 @@ namespace
 {
 
 constexpr const char* tooManyWords = "The dictionary holds more than 250,000 words";
+constexpr const char* tooMuchText = "The dictionary is larger than 4 GiB";
 
 /// Half of a sum, rounded to the nearest whole number and from a half to the even one.
-constexpr std::size_t middleOf(std::size_t sum)
+constexpr int middleOf(int sum)
 {
     return sum / 2 + (sum & (sum / 2) & 1);
+}
+
+/// The line end characters of a text, and how many of them stand together as CR LF.
+struct LineEnds {
+    std::size_t returns = 0;
+    std::size_t feeds = 0;
+    std::size_t pairs = 0;
+};
+
+/// Counts in blocks whose counts fit a byte, so that the compiler compares many characters at once.
+LineEnds countLineEnds(std::string_view text)
+{
+    LineEnds ends;
+    for (std::size_t start = 0; start < text.size(); start += 255) {
+        const char* const block = text.data() + start;
+        const std::size_t size = std::min<std::size_t>(255, text.size() - start);
+        std::uint8_t returns = 0;
+        std::uint8_t feeds = 0;
+        std::uint8_t pairs = start > 0 && block[-1] == '\r' && block[0] == '\n' ? 1 : 0;
+        for (std::size_t i = 0; i < size; ++i) {
+            returns = static_cast<std::uint8_t>(returns + (block[i] == '\r'));
+            feeds = static_cast<std::uint8_t>(feeds + (block[i] == '\n'));
+        }
+        for (std::size_t i = 1; i < size; ++i)
+            pairs = static_cast<std::uint8_t>(pairs + ((block[i - 1] == '\r') & (block[i] == '\n')));
+        ends.returns += returns;
+        ends.feeds += feeds;
+        ends.pairs += pairs;
+    }
+    return ends;
+}
+
+/// The text with LF for every CR LF and every CR.
+std::string withLineFeeds(std::string_view text)
+{
+    std::string changed;
+    changed.reserve(text.size() + 1);
+    for (const std::string_view line : splitLines(text))
+        changed.append(line) += '\n';
+    return changed;
 }
 
 } // namespace
 
 WordList WordList::ofLines(std::string text)
 {
-    if (text.size() > std::numeric_limits<std::uint32_t>::max())
-        throw std::length_error("The dictionary is larger than 4 GiB");
+    if (text.size() >= std::numeric_limits<std::uint32_t>::max())
+        throw std::length_error(tooMuchText);
 
-    // The lines move together in their own buffer, over their line ends.
-    Words words;
-    words.starts.reserve(static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n')) + 3);
-    char* const begin = text.data();
-    const char* const end = begin + text.size();
-    char* to = begin;
-    for (const char* from = begin; from != end;) {
-        while (from != end && *from != '\r' && *from != '\n')
-            *to++ = *from++;
-        words.starts.push_back(static_cast<std::uint32_t>(to - begin));
-        if (from != end && *from++ == '\r' && from != end && *from == '\n')
-            ++from;
+    LineEnds ends = countLineEnds(text);
+    if (ends.returns != ends.pairs || (ends.pairs != 0 && ends.pairs != ends.feeds)) { // not all alike
+        text = withLineFeeds(text);
+        ends = countLineEnds(text);
     }
-    if (words.starts.size() > static_cast<std::size_t>(capacity) + 2)
+    Words words;
+    words.gap = ends.pairs == 0 ? 1 : 2;
+    if (!text.empty() && text.back() != '\n') {
+        text += ends.pairs == 0 ? "\n" : "\r\n";
+        text.shrink_to_fit();
+    }
+
+    words.starts.reserve(ends.feeds + 2);
+    for (std::size_t next = 0; next < text.size();) {
+        next = text.find('\n', next) + 1;
+        words.starts.push_back(static_cast<std::uint32_t>(next));
+    }
+    if (words.count() > static_cast<std::size_t>(capacity))
         throw std::length_error(tooManyWords);
-    text.resize(static_cast<std::size_t>(to - begin));
     words.text = std::move(text);
 
     WordList list;
-    list.count_ = static_cast<int>(words.starts.size()) - 2;
+    list.count_ = static_cast<int>(words.count());
     list.words_ = std::make_shared<const Words>(std::move(words));
     return list;
 }
@@ -59,26 +105,20 @@ WordList WordList::of(std::span<const std::string_view> words)
 
 int WordList::findWord(std::string_view word) const
 {
-    const std::uint32_t* const starts = words_->starts.data();
-    const char* const text = words_->text.data();
-    const std::size_t written = words_->starts.size() - 1;
-    std::size_t low = 0;
-    auto high = static_cast<std::size_t>(count_);
+    const Words& words = *words_;
+    int low = 0;
+    int high = count_;
     do {
-        const std::size_t middle = middleOf(low + high);
-        const std::string_view found =
-            middle < written ? std::string_view(text + starts[middle], starts[middle + 1] - starts[middle])
-                             : std::string_view();
+        const int middle = middleOf(low + high);
+        const auto place = static_cast<std::size_t>(middle) - 1; // entry 0 has no place, and is empty
+        const std::string_view found = place < words.count() ? words.word(place) : std::string_view();
         const int order = found.compare(word);
         if (order == 0)
-            return static_cast<int>(middle);
-        if (order < 0) {
+            return middle;
+        if (order < 0)
             low = middle + 1;
-        } else {
-            if (middle == 0)
-                break;
+        else
             high = middle - 1;
-        }
     } while (low <= high);
     return -1;
 }
@@ -88,27 +128,22 @@ void WordList::overwrite(std::span<const std::string_view> words)
     if (words.size() > static_cast<std::size_t>(capacity))
         throw std::length_error(tooManyWords);
 
-    const std::size_t written = words_->starts.size() - 2;
+    const std::size_t written = std::max(words.size(), words_->count());
+    const auto next = [&](std::size_t place) { return place < words.size() ? words[place] : words_->word(place); };
     std::size_t size = 0;
-    for (const std::string_view word : words)
-        size += word.size();
-    for (std::size_t i = words.size() + 1; i <= written; ++i)
-        size += entry(static_cast<int>(i)).size();
+    for (std::size_t place = 0; place < written; ++place)
+        size += next(place).size();
     if (size > std::numeric_limits<std::uint32_t>::max())
-        throw std::length_error("The dictionary is larger than 4 GiB");
+        throw std::length_error(tooMuchText);
 
-    Words next;
-    next.text.reserve(size);
-    next.starts.reserve(std::max(words.size(), written) + 2);
-    const auto append = [&next](std::string_view word) {
-        next.text += word;
-        next.starts.push_back(static_cast<std::uint32_t>(next.text.size()));
-    };
-    for (const std::string_view word : words)
-        append(word);
-    for (std::size_t i = words.size() + 1; i <= written; ++i)
-        append(entry(static_cast<int>(i)));
-    words_ = std::make_shared<const Words>(std::move(next));
+    Words changed;
+    changed.text.reserve(size);
+    changed.starts.reserve(written + 1);
+    for (std::size_t place = 0; place < written; ++place) {
+        changed.text += next(place);
+        changed.starts.push_back(static_cast<std::uint32_t>(changed.text.size()));
+    }
+    words_ = std::make_shared<const Words>(std::move(changed));
 }
 
 void WordList::setCount(int count)

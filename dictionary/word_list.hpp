@@ -35,9 +35,9 @@ public:
     /// Entry 0 to 250,000. Throws std::out_of_range outside.
     [[nodiscard]] std::string_view entry(int index) const
     {
-        const auto place = static_cast<std::size_t>(index);
-        if (place < words_->starts.size() - 1) [[likely]]
-            return between(words_->starts[place], words_->starts[place + 1]);
+        const auto place = static_cast<std::size_t>(index) - 1;
+        if (place < words_->count()) [[likely]]
+            return words_->word(place);
         return unwrittenEntry(index);
     }
 
@@ -66,13 +66,16 @@ public:
 private:
     struct Words {
         std::string text;
-        std::vector<std::uint32_t> starts{0, 0}; ///< of each entry, and the end of the last one
+        std::vector<std::uint32_t> starts{0}; ///< of entry 1 and so on, and the end of the text
+        std::uint32_t gap = 0;                ///< characters between the words: the line ends of a file
+
+        [[nodiscard]] std::size_t count() const { return starts.size() - 1; }
+        [[nodiscard]] std::string_view word(std::size_t place) const
+        {
+            return {text.data() + starts[place], starts[place + 1] - gap - starts[place]};
+        }
     };
 
-    [[nodiscard]] std::string_view between(std::uint32_t start, std::uint32_t end) const
-    {
-        return {words_->text.data() + start, end - start};
-    }
     static std::string_view unwrittenEntry(int index);
 
     std::shared_ptr<const Words> words_;

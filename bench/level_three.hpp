@@ -1,0 +1,133 @@
+#pragma once
+
+#include "platform/clock.hpp"
+#include "platform/dialogs.hpp"
+#include "platform/screen.hpp"
+#include "platform/text_file.hpp"
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <filesystem>
+#include <functional>
+#include <random>
+#include <set>
+#include <string>
+#include <vector>
+
+/// What the benchmarks of the dictionary share: a list of the size of level 3, and the medians of two actions.
+namespace lexigrove::bench
+{
+
+/// 194,000 made-up words in ascending order, of the lengths that English words have.
+inline std::string madeUpList()
+{
+    std::mt19937 random(718);
+    std::normal_distribution<double> length(8.5, 2.2);
+    std::set<std::string> words;
+    while (words.size() < 194'000) {
+        std::string word;
+        const auto letters = static_cast<std::size_t>(std::clamp(length(random), 2.0, 20.0));
+        while (word.size() < letters)
+            word += "ETAOINSHRDLUCMFWYPVBGKJQXZ"[std::min(random() % 26, random() % 26)];
+        words.insert(word);
+    }
+    std::string text;
+    for (const std::string& word : words)
+        text += word + "\r\n";
+    return text;
+}
+
+/// The text of the list named on the command line, else of the one in the build's bin folder, else of a made-up one.
+inline std::string levelThreeList(int argumentCount, char** arguments)
+{
+    const std::filesystem::path built = std::filesystem::path(arguments[0]).parent_path() / "../bin/L3Ascii.txt";
+    const std::string path = argumentCount > 1 ? arguments[1] : built.string();
+    if (argumentCount > 1 || std::filesystem::exists(path)) {
+        std::printf("List: %s\n", path.c_str());
+        return readFile(path);
+    }
+    std::printf("List: 194,000 made-up words\n");
+    return madeUpList();
+}
+
+/// A folder of its own for files, removed at the end of the scope. It lies beside the program: the temporary folder is
+/// no disk on many machines.
+class BenchFolder
+{
+public:
+    explicit BenchFolder(const char* program) : path_(std::filesystem::absolute(program).parent_path() / "bench_files")
+    {
+        std::filesystem::create_directories(path_);
+    }
+    ~BenchFolder() { std::filesystem::remove_all(path_); }
+    BenchFolder(const BenchFolder&) = delete;
+    BenchFolder& operator=(const BenchFolder&) = delete;
+
+    [[nodiscard]] std::string prefix() const { return path_.string() + "/"; }
+
+private:
+    std::filesystem::path path_;
+};
+
+/// Nobody to ask: a message, which would tell of a failure, is printed.
+class NoDialogs : public Dialogs
+{
+public:
+    void message(const std::string& text) override { std::printf("%s\n", text.c_str()); }
+    bool confirm(const std::string&) override { return false; }
+    std::string input(const std::string&, const std::string&, const std::string&) override { return {}; }
+    std::string openFile(const OpenFileRequest&) override { return {}; }
+};
+
+class NoScreen : public Screen
+{
+public:
+    void yield() override {}
+    void animationStep(int) override {}
+    void setBusyPointer(bool) override {}
+    void lockBoardUpdates(bool) override {}
+    void waitForAnyInput() override {}
+};
+
+/// A clock that stands.
+class NoonClock : public Clock
+{
+public:
+    [[nodiscard]] double secondsSinceMidnight() const override { return 43'200; }
+    [[nodiscard]] std::string shortDate() const override { return "1/1/2024"; }
+    [[nodiscard]] std::string shortTime() const override { return "12:00"; }
+};
+
+/// The median of a time in milliseconds over some rounds.
+struct Medians {
+    double subject;
+    double baseline;
+};
+
+/// Runs both by turns, so that what disturbs the machine disturbs both.
+inline Medians measure(int rounds, const std::function<void()>& subject, const std::function<void()>& baseline)
+{
+    const auto time = [](const std::function<void()>& action) {
+        const auto start = std::chrono::steady_clock::now();
+        action();
+        return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count();
+    };
+    std::vector<double> subjects;
+    std::vector<double> baselines;
+    for (int round = 0; round < rounds; ++round) {
+        subjects.push_back(time(subject));
+        baselines.push_back(time(baseline));
+    }
+    std::sort(subjects.begin(), subjects.end());
+    std::sort(baselines.begin(), baselines.end());
+    return {subjects[subjects.size() / 2], baselines[baselines.size() / 2]};
+}
+
+inline void print(const char* what, const char* baseline, const Medians& medians, double goal)
+{
+    std::printf("%s: %.2f ms; %s: %.2f ms; ratio %.2f (goal: at most %.1f)\n", what, medians.subject, baseline,
+                medians.baseline, medians.subject / medians.baseline, goal);
+}
+
+} // namespace lexigrove::bench
