@@ -1,0 +1,69 @@
+#pragma once
+
+#include "ui/browser_rules.hpp"
+
+#include <QStringList>
+#include <QUrl>
+#include <QWidget>
+#include <QtPlugin>
+
+#include <functional>
+#include <memory>
+
+namespace lexigrove
+{
+
+/// A page of the web engine. Destroying it tears the page down and forgets everything that it left.
+class BrowserPage
+{
+public:
+    virtual ~BrowserPage() = default;
+
+    /// What shows the page; it belongs to this object.
+    [[nodiscard]] virtual QWidget* widget() = 0;
+
+    virtual void navigate(const QUrl& address) = 0;
+    [[nodiscard]] virtual QUrl address() const = 0;
+    virtual void back() = 0;
+    virtual void forward() = 0;
+};
+
+struct BrowserPageSetup {
+    BrowserRules rules;
+    QColor ground;                    ///< under a page that is not painted yet
+    std::function<void(bool)> loaded; ///< a page was loaded, or could not be
+};
+
+/// The web engine. It comes from a module of its own, so that a game that shows no page loads none of it.
+class BrowserModule
+{
+public:
+    virtual ~BrowserModule() = default;
+
+    [[nodiscard]] virtual std::unique_ptr<BrowserPage> newPage(const BrowserPageSetup& setup) = 0;
+};
+
+/// Loads the module when it is asked for first.
+class BrowserLoader
+{
+public:
+    /// The places where the module is looked for, the first one first; by default beside the executables and where it
+    /// is installed.
+    explicit BrowserLoader(QStringList folders = moduleFolders());
+
+    /// The module, or null when it cannot be loaded; `failure` then says why.
+    [[nodiscard]] BrowserModule* module();
+    [[nodiscard]] const QString& failure() const { return failure_; }
+
+    static QStringList moduleFolders();
+
+private:
+    QStringList folders_;
+    QString failure_;
+    BrowserModule* module_ = nullptr;
+};
+
+} // namespace lexigrove
+
+#define LexiGroveBrowserModule_iid "lexigrove.BrowserModule/1"
+Q_DECLARE_INTERFACE(lexigrove::BrowserModule, LexiGroveBrowserModule_iid)

@@ -1,0 +1,71 @@
+#pragma once
+
+#include "settings/colour_scheme.hpp"
+#include "settings/window_colours.hpp"
+
+#include <QColor>
+#include <QFont>
+#include <QObject>
+#include <QRectF>
+
+class QPainter;
+
+namespace lexigrove
+{
+
+/// The looks that all windows share: colours derived from the current scheme, fonts, measures. It colours the whole
+/// application (palette and style sheet), so a window of ordinary widgets needs nothing else; a widget that paints
+/// itself takes its colours from here and repaints on `changed`.
+///
+/// What the style sheet knows by a dynamic property, set before the widget is shown: "primary" (true) on the one button
+/// that a window is for, "card" (true) on a QFrame that is a card, "quiet" (true) on a QLabel that stands back.
+class Theme : public QObject
+{
+    Q_OBJECT
+
+public:
+    // Measures in logical pixels.
+    static constexpr int grid = 8;           ///< every margin and gap is a multiple of it
+    static constexpr int margin = 3 * grid;  ///< around a window's content
+    static constexpr int gap = 2 * grid;     ///< between areas
+    static constexpr int spacing = grid;     ///< between widgets of one area
+    static constexpr int radius = 6;         ///< of cards and buttons
+    static constexpr int smallestText = 11;  ///< no text is smaller
+    static constexpr int quietTextSize = 12; ///< captions of cards, the status line
+
+    /// Reads the desktop's palette and shows the colours that the program is born with.
+    Theme();
+
+    /// The desktop's colours, for a scheme that names system colours.
+    [[nodiscard]] const SystemPalette& desktop() const { return desktop_; }
+
+    /// Colours the application after the scheme; nothing happens while its table stays the same.
+    void follow(const ColourScheme& scheme);
+
+    [[nodiscard]] const WindowColours& colours() const { return colours_; }
+
+    /// A plain colour, or a system colour as it stands in this family of windows (a window's background is the card).
+    [[nodiscard]] QColor colour(Colour colour) const;
+
+    /// The desktop's own font at a size in pixels, its figures in tables of equal width where the font has them.
+    [[nodiscard]] static QFont font(double pixelSize, bool bold = false);
+
+    /// A card: a rounded face in a thin line.
+    void paintCard(QPainter& painter, const QRectF& place, Colour face, Colour line, double lineWidth = 1) const;
+
+signals:
+    void changed();
+
+private:
+    void apply();
+
+    SystemPalette desktop_;
+    ColourTable shown_{};
+    WindowColours colours_{};
+    SystemPalette family_; ///< system colours as they stand in these windows
+};
+
+/// The colour as Qt knows it; `colour` is a plain one.
+QColor toQColor(Colour colour);
+
+} // namespace lexigrove
