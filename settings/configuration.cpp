@@ -29,11 +29,11 @@ std::string_view trimmed(std::string_view text)
     return text.substr(first, text.find_last_not_of(" \t") - first + 1);
 }
 
-std::int16_t wholeNumber(std::string_view line)
+std::int16_t wholeNumber(std::string text)
 {
-    std::string_view text = trimmed(line);
+    std::erase(text, ' '); // a number may be typed with blanks anywhere
     if (text.starts_with('+'))
-        text.remove_prefix(1);
+        text.erase(0, 1);
     std::int16_t number = 0;
     const auto [end, failure] = std::from_chars(text.data(), text.data() + text.size(), number);
     if (failure != std::errc{} || end != text.data() + text.size())

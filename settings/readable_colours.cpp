@@ -95,9 +95,12 @@ Colour lifted(Colour face, Colour text)
 {
     constexpr double visibly = 1.06;
     const Colour lighter = mixed(face, white, 0.10);
-    if (contrastRatio(lighter, face) >= visibly && contrastRatio(text, lighter) >= leastContrast)
+    const Colour darker = mixed(face, black, 0.07);
+    const bool lighterReads = contrastRatio(text, lighter) >= leastContrast;
+    const bool darkerReads = contrastRatio(text, darker) >= leastContrast;
+    if (lighterReads && (contrastRatio(lighter, face) >= visibly || !darkerReads))
         return lighter;
-    return mixed(face, black, 0.07);
+    return darker;
 }
 
 Colour shadeFor(Colour colour, Colour ground, Colour otherGround, double contrast)

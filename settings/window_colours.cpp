@@ -17,6 +17,15 @@ Colour linkColour(const ColourScheme& scheme, Colour accent)
     return readableText(accent, scheme.selectedFace());
 }
 
+/// A ground toned towards its text, or away from it where the text would suffer.
+Colour toned(Colour ground, Colour text, double share)
+{
+    const Colour towards = mixed(ground, text, share);
+    if (contrastRatio(readableOn(ground), towards) >= leastContrast)
+        return towards;
+    return mixed(ground, readableOn(ground) == rgb(0, 0, 0) ? rgb(255, 255, 255) : rgb(0, 0, 0), share);
+}
+
 } // namespace
 
 WindowColours deriveWindowColours(const ColourScheme& scheme)
@@ -38,7 +47,7 @@ WindowColours deriveWindowColours(const ColourScheme& scheme)
     colours.dark = readableOn(colours.ground) == rgb(255, 255, 255);
 
     const Colour onGround = readableText(letter, colours.ground);
-    colours.strip = mixed(colours.ground, onGround, stripShare);
+    colours.strip = toned(colours.ground, onGround, stripShare);
     colours.text = readableText(letter, colours.ground, colours.strip);
     colours.quietText = readableText(quietOn(colours.text, colours.ground), colours.ground, colours.strip);
     const bool strong = contrastRatio(colours.text, colours.ground) >= strongestContrast;
