@@ -9,12 +9,11 @@ SearchBoard snapshotOf(const Board& board)
     for (int tile = 1; tile <= Board::tileCount; ++tile) {
         const auto i = static_cast<std::size_t>(tile);
         const std::string& letter = board.letter(tile);
-        if (board.isVisible(tile) && !letter.empty() && letter != " ")
+        if (board.isVisible(tile) && !letter.empty())
             snapshot.letters[i] = letter.front();
-        const NeighbourList& list = board.neighbours(tile);
-        for (const std::uint8_t neighbour : list) {
+        for (const std::uint8_t neighbour : board.neighbours(tile)) {
             if (board.isVisible(neighbour))
-                snapshot.neighbours[i].tiles[snapshot.neighbours[i].count++] = neighbour;
+                snapshot.neighbours[i].append(neighbour);
         }
     }
     return snapshot;

@@ -1,7 +1,8 @@
 #pragma once
 
+#include "game/neighbours.hpp"
+
 #include <array>
-#include <cstdint>
 
 namespace lexigrove
 {
@@ -10,15 +11,11 @@ namespace lexigrove
 struct SearchBoard {
     static constexpr int tileCount = 64;
 
-    /// A tile's neighbour list: tile numbers 1 to 64, in the order of its `Neibors`, without hidden tiles.
-    struct Neighbours {
-        std::array<std::uint8_t, 8> tiles{};
-        std::uint8_t count = 0;
-    };
-
     /// Letters by tile number, any single byte; 0 for a tile that is hidden or shows no letter.
     std::array<char, tileCount + 1> letters{};
-    std::array<Neighbours, tileCount + 1> neighbours{};
+
+    /// The `Neibors` lists, without hidden tiles.
+    NeighbourTable neighbours{};
 };
 
 } // namespace lexigrove

@@ -46,7 +46,7 @@ void SpellingBoard::prepare(const SearchBoard& board)
     }
 
     for (std::size_t tile = 1; tile < around_.size(); ++tile) {
-        const SearchBoard::Neighbours& neighbours = board.neighbours[tile];
+        const NeighbourList& neighbours = board.neighbours[tile];
         Surroundings& around = around_[tile];
         around = {};
         for (std::size_t slot = 0; slot < neighbours.count; ++slot) {

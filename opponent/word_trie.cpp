@@ -9,49 +9,63 @@ namespace lexigrove
 namespace
 {
 
-/// Calls `visit(word, shared)` for every word that the tree takes in, in order; `shared` letters have their nodes from
-/// the word before.
-template <typename Visit>
-void forEachWord(const WordList& words, Visit visit)
+bool isTakenIn(std::string_view word)
 {
-    std::string_view previous;
-    for (int i = 1; i <= words.count(); ++i) {
-        const std::string_view word = words.entry(i);
-        if (word.size() < WordTrie::minLength || word.size() > WordTrie::maxLength)
-            continue;
-        const std::size_t limit = std::min(word.size() - 1, previous.size());
-        std::size_t shared = 0;
-        while (shared < limit && word[shared] == previous[shared])
-            ++shared;
-        visit(word, shared);
-        previous = word;
-    }
+    return word.size() >= WordTrie::minLength && word.size() <= WordTrie::maxLength;
+}
+
+/// How many letters of a word have their nodes from the word before. The last one never has: it ends the word, and the
+/// word comes after that one.
+std::size_t sharedLetters(std::string_view word, std::string_view previous)
+{
+    const std::size_t limit = std::min(word.size() - 1, previous.size());
+    std::size_t shared = 0;
+    while (shared < limit && word[shared] == previous[shared])
+        ++shared;
+    return shared;
 }
 
 } // namespace
 
 void WordTrie::build(const WordList& words)
 {
-    // The place of the next node of each level; level 0 holds the first letters.
-    std::array<Node, maxLength + 2> next{};
-    forEachWord(words, [&](std::string_view word, std::size_t shared) {
-        for (std::size_t level = shared; level < word.size(); ++level)
-            ++next[level + 1];
-    });
-    for (std::size_t level = 0; level <= maxLength; ++level)
-        next[level + 1] += next[level];
+    // How much larger a level is than the level above it; level 0 holds the first letters.
+    std::array<Node, maxLength + 1> growth{};
+    std::vector<std::uint8_t> shared(static_cast<std::size_t>(words.count()) + 1);
+    std::string_view previous;
+    for (int i = 1; i <= words.count(); ++i) {
+        const std::string_view word = words.entry(i);
+        if (!isTakenIn(word))
+            continue;
+        const std::size_t level = sharedLetters(word, previous);
+        shared[static_cast<std::size_t>(i)] = static_cast<std::uint8_t>(level);
+        ++growth[level];
+        --growth[word.size()];
+        previous = word;
+    }
+
+    std::array<Node, maxLength + 1> next{}; // the place of the next node of each level
+    Node levelSize = 0;
+    for (std::size_t level = 0; level < maxLength; ++level) {
+        levelSize += growth[level];
+        next[level + 1] = next[level] + levelSize;
+    }
     firstLetters_ = next[1];
     const Node count = next[maxLength];
     letters_.assign(count, 0);
-    children_.assign(count + 1, count);
-    forEachWord(words, [&](std::string_view word, std::size_t shared) {
-        for (std::size_t level = shared; level < word.size(); ++level) {
+    children_.assign(count + std::size_t{1}, count);
+
+    for (int i = 1; i <= words.count(); ++i) {
+        const std::string_view word = words.entry(i);
+        if (!isTakenIn(word))
+            continue;
+        for (std::size_t level = shared[static_cast<std::size_t>(i)]; level < word.size(); ++level) {
             const Node node = next[level]++;
             letters_[node] = word[level];
             children_[node] = next[level + 1];
         }
         children_[next[word.size() - 1] - 1] |= wordMark;
-    });
+    }
 }
 
 } // namespace lexigrove
