@@ -15,7 +15,7 @@ class BoxButton : public QAbstractButton
     Q_OBJECT
 
 public:
-    /// `control` and `theme` outlive the button. A control without a size takes the button's.
+    /// `control` and `theme` outlive the button. The control takes the size of the button.
     BoxButton(BoxControl& control, const Theme& theme, QWidget* parent = nullptr);
 
     /// Shows what the model says now.

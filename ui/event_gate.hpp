@@ -31,6 +31,9 @@ public:
     /// Throws what a slot threw, or `Leaving` if it was requested; either is then no longer pending.
     void checkpoint();
 
+    /// For an input that has ended without a checkpoint: whether leaving was requested; it is then no longer pending.
+    [[nodiscard]] bool takeRequest();
+
     /// Runs the dialog modally, then checks. Returns QDialog::Accepted, QDialog::Rejected or what `done` was given.
     /// Does not show the dialog when leaving was requested before.
     int exec(QDialog& dialog);

@@ -8,8 +8,8 @@
 namespace lexigrove
 {
 
-/// The game's text is Windows-1252, the toolkit's is Unicode. A byte without a character there becomes the replacement
-/// character.
+/// The game's text is Windows-1252, the toolkit's is Unicode. A byte without a character there becomes the control
+/// character of the same number, so that every text comes back as it was.
 QString toQString(std::string_view text);
 
 /// What Windows-1252 does not hold becomes "?".

@@ -33,7 +33,7 @@ public:
     static constexpr int smallestText = 11;  ///< no text is smaller
     static constexpr int quietTextSize = 12; ///< captions of cards, the status line
 
-    /// Reads the desktop's palette and shows the colours that the program is born with.
+    /// Reads the desktop's palette. Colours come with the first scheme.
     Theme();
 
     /// The desktop's colours, for a scheme that names system colours.
@@ -47,19 +47,18 @@ public:
     /// A plain colour, or a system colour as it stands in this family of windows (a window's background is the card).
     [[nodiscard]] QColor colour(Colour colour) const;
 
-    /// The desktop's own font at a size in pixels, its figures in tables of equal width where the font has them.
+    /// The desktop's own font at a size in pixels, never below the smallest.
     [[nodiscard]] static QFont font(double pixelSize, bool bold = false);
 
     /// A card: a rounded face in a thin line.
-    void paintCard(QPainter& painter, const QRectF& place, Colour face, Colour line, double lineWidth = 1) const;
+    static void paintCard(QPainter& painter, const QRectF& place, Colour face, Colour line, double lineWidth = 1);
 
 signals:
     void changed();
 
 private:
-    void apply();
-
     SystemPalette desktop_;
+    bool applied_ = false;
     ColourTable shown_{};
     WindowColours colours_{};
     SystemPalette family_; ///< system colours as they stand in these windows

@@ -36,6 +36,9 @@ public:
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
 
+    /// Whether Enter on a row activates it; otherwise the key goes on to the window.
+    bool activatesOnEnter = true;
+
 signals:
     /// The headings were clicked at a horizontal position in the grid's units.
     void headingClicked(int x);
