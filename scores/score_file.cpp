@@ -69,6 +69,7 @@ std::vector<std::string> bestTen(std::vector<std::string> lines)
 bool writeScoreLines(const std::string& path, const std::vector<std::string>& lines)
 {
     std::vector<std::string> ciphers;
+    ciphers.reserve(lines.size());
     for (const std::string& line : lines)
         ciphers.push_back(encipher(line, scoreFileKey));
     try {

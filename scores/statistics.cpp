@@ -16,8 +16,8 @@ void Statistics::recordWord(std::string_view word, int base)
     if (length >= 2) // shorter ones, from a player's own list, have no row of their own
         addOne(base + std::min(length, fiveOrMoreLetters));
     if (length >= number(base + longestLength)) {
-        table_.at(static_cast<std::size_t>(base + longestLength)) = std::to_string(length);
-        table_.at(static_cast<std::size_t>(base + longestWord)) = std::string(word) + " ";
+        at(base + longestLength) = std::to_string(length);
+        at(base + longestWord) = std::string(word) + " ";
     }
     for (const char letter : word) {
         if (const int index = letterIndex(letter))
@@ -27,7 +27,7 @@ void Statistics::recordWord(std::string_view word, int base)
 
 void Statistics::setHintsUsed(int count)
 {
-    table_.at(playerBase + hintsUsed) = count == 0 ? "" : std::to_string(count);
+    at(playerBase + hintsUsed) = count == 0 ? "" : std::to_string(count);
 }
 
 void Statistics::reset()
@@ -48,7 +48,7 @@ int Statistics::totalLettersUsed()
 
 void Statistics::addOne(int index)
 {
-    table_.at(static_cast<std::size_t>(index)) = std::to_string(number(index) + 1);
+    at(index) = std::to_string(number(index) + 1);
 }
 
 } // namespace lexigrove

@@ -45,6 +45,7 @@ public:
     int totalLettersUsed();
 
 private:
+    std::string& at(int index) { return table_.at(static_cast<std::size_t>(index)); }
     void addOne(int index);
 
     std::array<std::string, entryCount> table_;

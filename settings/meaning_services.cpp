@@ -50,7 +50,7 @@ bool isPort(std::string_view text)
 
 } // namespace
 
-MeaningServices::MeaningServices(std::string folder)
+MeaningServices::MeaningServices(const std::string& folder)
 {
     std::vector<std::string> lines;
     try {

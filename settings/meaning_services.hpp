@@ -20,7 +20,7 @@ public:
     static constexpr std::size_t serviceCount = 4;
 
     /// `folder` ends with its separator.
-    explicit MeaningServices(std::string folder);
+    explicit MeaningServices(const std::string& folder);
 
     /// Chooses the service at a game's start from the frame "Word Meanings from". The options are tested in the order
     /// of the services and the last one set wins; with none set the old choice stands.

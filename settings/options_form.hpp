@@ -95,6 +95,10 @@ public:
     /// Sets the sound flag and the caption of `SoundOnOff` from "On" and "Off"; with neither selected they stay.
     void setSound();
 
+    /// The scheme that `Combo1` chose, and the folder in which the files of its list lie.
+    [[nodiscard]] const ColourScheme& scheme() const { return context_.scheme; }
+    [[nodiscard]] const std::string& folder() const { return context_.folder; }
+
     [[nodiscard]] bool isSquare() const { return s8x8.Value; }
     [[nodiscard]] bool isComputerGame() const { return Check1.Value; }
 

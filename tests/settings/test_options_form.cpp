@@ -24,24 +24,6 @@ std::vector<std::string> selectedIn(const ChoiceFrame& frame)
 
 } // namespace
 
-// Guards against a dialog that opens with another game than a fresh installation plays.
-TEST_F(OptionsFormTest, DesignValues)
-{
-    std::vector<std::string> selected;
-    for (const ChoiceFrame* frame : form.choiceFrames())
-        EXPECT_EQ(selectedIn(*frame).size(), 1U) << frame->Caption;
-    for (const char* name : {"Option15", "s7x8", "Option11", "Option7", "Option4", "Option12"}) {
-        ASSERT_NE(form.find(name), nullptr) << name;
-        EXPECT_TRUE(form.find(name)->Value) << name;
-    }
-    EXPECT_EQ(form.find("Option1"), nullptr);
-    EXPECT_FALSE(form.StrategyFrame.Enabled);
-    EXPECT_FALSE(form.UsrDictName.Enabled);
-    EXPECT_FALSE(form.GetUserDictName.Enabled());
-    EXPECT_EQ(form.UsrDictName.Text, "UsrDict.txt");
-    EXPECT_EQ(form.Combo1.Text, "Default");
-}
-
 // Guards against choices of a frame that stand together, or choices of another frame that go out.
 TEST_F(OptionsFormTest, ChoicesExcludeEachOtherWithinTheirFrame)
 {
@@ -224,19 +206,6 @@ TEST_F(OptionsFormTest, SoundCuesAndTheirButton)
     EXPECT_THAT(device.commands,
                 ElementsAre("play " + folder.path() + "beep3.wav", "play " + folder.path() + "Night.sch",
                             "play " + folder.path() + "cnqendgm.wav"));
-}
-
-// Guards against an answer of the last showing that the next one takes for its own.
-TEST_F(OptionsFormTest, AnswerIsOfThisShowing)
-{
-    form.open();
-    form.pressExit();
-    EXPECT_EQ(form.answer(), OptionsForm::Answer::Exit);
-    EXPECT_FALSE(form.isVisible());
-    form.open();
-    EXPECT_EQ(form.answer(), OptionsForm::Answer::None);
-    form.pressStart();
-    EXPECT_EQ(form.answer(), OptionsForm::Answer::Start);
 }
 
 } // namespace lexigrove

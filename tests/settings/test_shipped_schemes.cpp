@@ -113,7 +113,7 @@ TEST(WindowColours, AnySchemeReads)
     TemporaryFolder folder;
     ScriptedDialogs dialogs;
     ColourScheme scheme(folder.path(), dialogs);
-    for (unsigned seed = 1; seed <= 3000; ++seed) {
+    for (unsigned seed = 1; seed <= 1000; ++seed) {
         SCOPED_TRACE("seed " + std::to_string(seed));
         std::mt19937 random(seed);
         std::string text;

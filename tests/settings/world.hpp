@@ -62,7 +62,7 @@ public:
         questions.push_back({title, prompt, defaultAnswer});
         if (answers.empty())
             throw Leaving{};
-        const std::string answer = answers.front();
+        std::string answer = answers.front();
         answers.pop_front();
         return answer;
     }
