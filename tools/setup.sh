@@ -23,7 +23,9 @@ needed_packages() {
 # Prints which of the named packages are not installed.
 missing_packages() {
     local installed
-    installed=$(dpkg-query -W -f '${Package} ${db:Status-Status}\n' "$@" 2>/dev/null | awk '$2 == "installed" { print $1 }')
+    # dpkg-query fails when it has never heard of one of them.
+    installed=$( (dpkg-query -W -f '${Package} ${db:Status-Status}\n' "$@" 2>/dev/null || true) |
+        awk '$2 == "installed" { print $1 }')
     comm -23 <(printf '%s\n' "$@" | sort -u) <(printf '%s\n' "$installed" | sort -u)
 }
 
