@@ -97,6 +97,8 @@ void GameFlow::openOptionsAndStart()
 void GameFlow::startGame()
 {
     perform([this] {
+        if (options.settings.presetLetters == presetInPlay_)
+            options.settings.presetLetters.clear(); // it was for the game before
         clearGame();
         beginGame();
     });
@@ -133,6 +135,7 @@ void GameFlow::beginGame()
     game.refreshLooks();
     if (game.state.computerGame)
         options.settings.presetLetters = "x";
+    presetInPlay_ = options.settings.presetLetters;
     startClock();
     inGame_ = true;
 }

@@ -181,6 +181,7 @@ private:
     bool paused_ = false;
     bool pauseCaptionShown_ = false;
     bool clockRanBeforePause_ = false;
+    std::string presetInPlay_; ///< the preset letters text that the running game began with
 };
 
 } // namespace lexigrove

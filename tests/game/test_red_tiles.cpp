@@ -122,6 +122,51 @@ TEST(RedTiles, APushTakesTheBottomLetterAndDropsTheWaitingOne)
     }
 }
 
+/// The seconds of a day at which red tiles appear, for a player who makes a four-letter word every `secondsPerWord`
+/// seconds (0: an idle one) and uses no red tile.
+std::vector<int> redSeconds(int level, int secondsPerWord)
+{
+    PlayedGame played(words);
+    OptionsForm& options = played.flow.options;
+    Choice* const levels[] = {&options.Option2, &options.Option3, &options.Option4, &options.Option5};
+    options.select(*levels[level]);
+    played.start(Arrangement::Square);
+    std::vector<int> seconds;
+    for (int second = 1; second <= 86'400; ++second) {
+        if (secondsPerWord > 0 && second % secondsPerWord == 0)
+            played.state().statistics.recordWord("WORD", Statistics::playerBase);
+        const int before = played.state().redTilesOnBoard;
+        played.flow.redTimerTick();
+        if (played.state().redTilesOnBoard > before)
+            seconds.push_back(second);
+    }
+    return seconds;
+}
+
+/// Guards against a pressure that counts too often, a threshold that does not fall, and a fifth red tile, in the course
+/// of a day. An idle player's red tiles come at t, t + (t - 1), ...; each word of four letters counts as three seconds
+/// more.
+TEST(RedTiles, ADayOfTicks)
+{
+    const int thresholds[] = {500, 1000, 500, 300};
+    for (const int level : {1, 2, 3}) {
+        for (const int secondsPerWord : {0, 20}) {
+            std::vector<int> expected;
+            int due = 0;
+            for (int tile = 0; tile < RedTiles::mostRedTiles; ++tile) {
+                const int last = expected.empty() ? 0 : expected.back();
+                const auto pressureAt = [&](int t) { return t + (secondsPerWord > 0 ? 3 * (t / secondsPerWord) : 0); };
+                due = pressureAt(last) + thresholds[level] - tile;
+                int second = last;
+                while (pressureAt(second) < due)
+                    ++second;
+                expected.push_back(second);
+            }
+            EXPECT_EQ(redSeconds(level, secondsPerWord), expected) << "level " << level;
+        }
+    }
+}
+
 /// Guards against a push that draws columns instead of special tiles.
 TEST(RedTiles, AColumnIsDrawnForEachOfItsSpecialTiles)
 {
