@@ -1,0 +1,31 @@
+#pragma once
+
+#include <optional>
+#include <span>
+#include <stdexcept>
+#include <string>
+
+namespace lexigrove
+{
+
+/// An option of the command line that there is not, or with a value that it cannot have. `what()` says which.
+class BadOption : public std::runtime_error
+{
+public:
+    using std::runtime_error::runtime_error;
+};
+
+struct CommandLine {
+    std::optional<std::string> folder;
+    std::optional<double> timeOfDay; ///< seconds since midnight, 0 up to 86,400, without the latter
+    bool help = false;
+    bool version = false;
+};
+
+/// Reads the arguments behind the program's name. Throws BadOption.
+CommandLine readCommandLine(std::span<const char* const> arguments);
+
+/// What `--help` prints.
+extern const char* const helpText;
+
+} // namespace lexigrove

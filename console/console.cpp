@@ -1,0 +1,96 @@
+#include "console/console.hpp"
+
+#include <algorithm>
+#include <cstdint>
+#include <random>
+
+namespace lexigrove
+{
+
+namespace
+{
+
+std::unique_ptr<const Clock> makeClock(std::optional<double> timeOfDay)
+{
+    if (timeOfDay)
+        return std::make_unique<FrozenClock>(*timeOfDay);
+    return std::make_unique<SystemClock>();
+}
+
+std::uint64_t machineSeed()
+{
+    std::random_device device;
+    return (std::uint64_t{device()} << 32) | device();
+}
+
+/// Takes the number that a line begins with off the line; the empty text where there is none.
+std::string_view takeId(std::string_view& line)
+{
+    const std::size_t end = std::min(line.find(' '), line.size());
+    const std::string_view id = line.substr(0, end);
+    if (id.empty() || !std::all_of(id.begin(), id.end(), [](char c) { return c >= '0' && c <= '9'; }))
+        return {};
+    line.remove_prefix(end);
+    return id;
+}
+
+} // namespace
+
+Console::Console(const std::string& folder, std::optional<double> timeOfDay, std::istream& in, std::ostream& out)
+    : channel_(in, out),
+      clock_(makeClock(timeOfDay)),
+      random_(timeOfDay ? 0 : machineSeed()),
+      sound_(channel_, folder),
+      flow_({dialogs_, screen_, sound_, *clock_, random_, status_}, windows_.windows(), folder)
+{
+}
+
+void Console::run()
+{
+    flow_.startUp();
+    while (!flow_.ended() && !context_.quitting) {
+        if (const auto line = channel_.readLine()) {
+            carryOut(*line);
+        } else {
+            flow_.exit();
+            tellExit();
+        }
+    }
+}
+
+void Console::carryOut(const std::string& line)
+{
+    const std::size_t start = line.find_first_not_of(' ');
+    if (start == std::string::npos || line.starts_with('#'))
+        return;
+    std::string_view rest = std::string_view(line).substr(start);
+    const std::string_view id = takeId(rest);
+    Arguments arguments(rest);
+    try {
+        const Lines lines = answer(arguments.required("command"), arguments);
+        tellExit();
+        channel_.writeAnswer(id, lines);
+    } catch (const CommandError& error) {
+        channel_.writeFailure(id, error.what());
+    }
+}
+
+Lines Console::answer(const std::string& name, Arguments& arguments)
+{
+    const Command* const command = commands_.find(name);
+    if (command == nullptr)
+        throw CommandError("unknown command: " + name);
+    if (command->needs != Needs::Nothing && !flow_.inGame())
+        throw CommandError("no game");
+    if (command->needs == Needs::Play && flow_.isPaused())
+        throw CommandError("the game is paused");
+    return command->run(context_, arguments);
+}
+
+void Console::tellExit()
+{
+    if (flow_.ended())
+        channel_.writeEvent("exit");
+}
+
+} // namespace lexigrove

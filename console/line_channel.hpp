@@ -1,0 +1,56 @@
+#pragma once
+
+#include <istream>
+#include <optional>
+#include <ostream>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace lexigrove
+{
+
+/// Lines of an answer or an event, as they are meant: the channel escapes them.
+using Lines = std::vector<std::string>;
+
+/// Carriage return, line feed, tab and backslash as `\r`, `\n`, `\t` and `\\`; all other bytes as they stand.
+std::string escaped(std::string_view text);
+
+/// The text back. A backslash before any other character stands for itself.
+std::string unescaped(std::string_view text);
+
+/// The two streams of the protocol: lines come in; answers and the events before them go out.
+class LineChannel
+{
+public:
+    /// The streams outlive the channel.
+    LineChannel(std::istream& in, std::ostream& out) : in_(in), out_(out) {}
+    LineChannel(const LineChannel&) = delete;
+    LineChannel& operator=(const LineChannel&) = delete;
+
+    /// The next input line without its line end (LF or CR LF), still escaped; nothing at the end of the input. What was
+    /// written before has left the program by then.
+    std::optional<std::string> readLine();
+
+    /// The input line that answers a question. Throws `Leaving` at the end of the input.
+    std::string readReply();
+
+    /// The same for a question with a few possible answers: lines that begin with "#" are passed over.
+    std::string readChoice();
+
+    /// "! what" and "! what text".
+    void writeEvent(std::string_view what);
+    void writeEvent(std::string_view what, std::string_view text);
+
+    /// The answer to a command with this id, which may be empty, and its closing empty line. Flushes.
+    void writeAnswer(std::string_view id, const Lines& lines) { write('=', id, lines); }
+    void writeFailure(std::string_view id, const std::string& reason) { write('?', id, {reason}); }
+
+private:
+    void write(char mark, std::string_view id, const Lines& lines);
+
+    std::istream& in_;
+    std::ostream& out_;
+};
+
+} // namespace lexigrove

@@ -1,0 +1,53 @@
+#include "console/command_line.hpp"
+#include "console/console.hpp"
+#include "console/version.hpp"
+#include "platform/program_folder.hpp"
+
+#include <clocale>
+#include <exception>
+#include <iostream>
+
+namespace
+{
+
+constexpr int badOptionStatus = 2;
+
+int play(const lexigrove::CommandLine& options)
+{
+    const std::string folder = lexigrove::programFolder(lexigrove::programFolderRequest(options.folder));
+    lexigrove::Console console(folder, options.timeOfDay, std::cin, std::cout);
+    console.run();
+    return 0;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    std::setlocale(LC_TIME, ""); // the short forms of date and time
+    std::ios::sync_with_stdio(false);
+    std::cin.tie(nullptr); // the console flushes before it reads
+    try {
+        lexigrove::CommandLine options;
+        try {
+            options = lexigrove::readCommandLine({argv + 1, argv + argc});
+        } catch (const lexigrove::BadOption& error) {
+            std::cerr << "lexigrove-console: " << error.what() << "\nTry \"lexigrove-console --help\".\n";
+            return badOptionStatus;
+        }
+        if (options.help || options.version) {
+            std::cout << (options.help ? lexigrove::helpText
+                                       : std::string("LexiGrove ") + lexigrove::gameVersion() + "\n");
+            return 0;
+        }
+        try {
+            return play(options);
+        } catch (const lexigrove::ProgramFolderError& error) {
+            std::cerr << "lexigrove-console: " << error.what() << '\n';
+            return options.folder ? badOptionStatus : 1;
+        }
+    } catch (const std::exception& error) {
+        std::cerr << "lexigrove-console: " << error.what() << '\n';
+        return 1;
+    }
+}
