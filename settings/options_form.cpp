@@ -129,14 +129,15 @@ void OptionsForm::typeUserDictName(const std::string& text)
     applyDictionaryChoice();
 }
 
-void OptionsForm::presetBoard()
+bool OptionsForm::presetBoard()
 {
     settings.boardTileCount = 64;
     const std::string letters = askForPresetLetters(context_.dialogs, GameSettings::presetLength);
     if (letters.empty())
-        return;
+        return false;
     settings.presetLetters = letters;
     context_.dialogs.message("Tiles preset, press Start to commence game");
+    return true;
 }
 
 void OptionsForm::chooseScheme(const std::string& name)

@@ -60,8 +60,8 @@ public:
     /// The text of `UsrDictName` was edited.
     void typeUserDictName(const std::string& text);
 
-    /// `PSBoard` was released: asks for the 100 letters of a preset board.
-    void presetBoard();
+    /// `PSBoard` was released: asks for the 100 letters of a preset board. True when they are preset.
+    bool presetBoard();
 
     /// An entry of `Combo1` was chosen.
     void chooseScheme(const std::string& name);
