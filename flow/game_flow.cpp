@@ -57,6 +57,11 @@ void GameFlow::performInGame(Action action)
         perform(action);
 }
 
+void GameFlow::asInput(const std::function<void()>& action)
+{
+    perform(action);
+}
+
 // ---- The program's course
 
 void GameFlow::startUp()
@@ -140,11 +145,16 @@ void GameFlow::beginGame()
     inGame_ = true;
 }
 
+/// Counts down in a game against the computer; in a solo game it goes on showing the time of day.
 void GameFlow::startClock()
 {
     Dc1.ShowTimeOnly(!game.state.computerGame);
-    Dc1.ClockStartValue(game.state.computerGame ? gameSeconds : 0);
-    Dc1.StartCountdown();
+    if (game.state.computerGame) {
+        Dc1.ClockStartValue(gameSeconds);
+        Dc1.StartCountdown();
+    } else {
+        Dc1.ResumeCountDown();
+    }
 }
 
 void GameFlow::menuNewGame()

@@ -15,6 +15,7 @@
 #include "settings/meaning_services.hpp"
 
 #include <concepts>
+#include <functional>
 #include <string>
 
 namespace lexigrove
@@ -119,11 +120,7 @@ public:
 
     /// Runs a front end's own dealings with a model (a test position, an option) as one input: refused while another
     /// runs.
-    template <std::invocable Action>
-    void asInput(Action action)
-    {
-        perform(action);
-    }
+    void asInput(const std::function<void()>& action);
 
 private:
     const Ports ports_;
