@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QPluginLoader>
+
 #include <utility>
 
 namespace lexigrove

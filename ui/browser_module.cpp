@@ -13,6 +13,7 @@
 #include <QWebEngineUrlRequestInfo>
 #include <QWebEngineUrlRequestInterceptor>
 #include <QWebEngineView>
+
 #include <cstdio>
 #include <sched.h>
 #include <sys/wait.h>
@@ -92,10 +93,9 @@ public:
         const auto noPassword = [](QAuthenticator* authenticator) { *authenticator = QAuthenticator(); };
         QObject::connect(this, &QWebEnginePage::authenticationRequired, this,
                          [noPassword](const QUrl&, QAuthenticator* authenticator) { noPassword(authenticator); });
-        QObject::connect(this, &QWebEnginePage::proxyAuthenticationRequired, this,
-                         [noPassword](const QUrl&, QAuthenticator* authenticator, const QString&) {
-                             noPassword(authenticator);
-                         });
+        QObject::connect(
+            this, &QWebEnginePage::proxyAuthenticationRequired, this,
+            [noPassword](const QUrl&, QAuthenticator* authenticator, const QString&) { noPassword(authenticator); });
     }
 
 protected:

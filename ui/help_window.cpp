@@ -1,0 +1,124 @@
+#include "ui/help_window.hpp"
+
+#include "controls/geometry.hpp"
+#include "ui/browser_view.hpp"
+#include "ui/form_dialog.hpp"
+#include "ui/text.hpp"
+
+#include <QHideEvent>
+#include <QPushButton>
+
+namespace lexigrove
+{
+
+/// The window `Form5` itself.
+class HelpView : public QWidget
+{
+public:
+    HelpView(BrowserLoader& loader, const HelpForm& form);
+
+    /// Shows the window and the help page from its beginning.
+    void bringToFront();
+
+protected:
+    bool event(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+
+private:
+    void leaf(void (BrowserView::*direction)());
+
+    const QUrl address_;
+    BrowserView* WebBrowser1_;
+    QPushButton* Command1_;
+    QPushButton* Command2_;
+    QPushButton* Command3_;
+    bool awaitsActivation_ = false; ///< the page of this showing is already on its way
+};
+
+HelpView::HelpView(BrowserLoader& loader, const HelpForm& form)
+    : address_(QUrl::fromLocalFile(pathToQString(form.Tag))),
+      WebBrowser1_(new BrowserView(loader, BrowserRules::forLocalPage(pathToQString(form.Tag)), this)),
+      Command1_(newButton("Command1", form.Command1.Caption)),
+      Command2_(newButton("Command2", form.Command2.Caption)),
+      Command3_(newButton("Command3", form.Command3.Caption))
+{
+    setObjectName("Form5");
+    setWindowTitle(toQString(form.Caption));
+    setAttribute(Qt::WA_QuitOnClose, false);
+    WebBrowser1_->setObjectName("WebBrowser1");
+    for (QPushButton* const button : {Command1_, Command2_, Command3_}) {
+        button->setParent(this);
+        button->setStyleSheet("padding: 2px 14px; min-height: 18px");
+    }
+    connect(Command1_, &QPushButton::clicked, this, [this] { leaf(&BrowserView::back); });
+    connect(Command2_, &QPushButton::clicked, this, [this] { leaf(&BrowserView::forward); });
+    connect(Command3_, &QPushButton::clicked, this, &QWidget::hide);
+    Command3_->setShortcut(Qt::Key_Escape);
+    WebBrowser1_->move(Theme::grid / 2, Theme::grid / 2);
+    resize(104 * Theme::grid, 84 * Theme::grid);
+}
+
+void HelpView::bringToFront()
+{
+    awaitsActivation_ = !isActiveWindow();
+    show();
+    raise();
+    activateWindow();
+    WebBrowser1_->navigate(address_);
+}
+
+bool HelpView::event(QEvent* event)
+{
+    if (event->type() == QEvent::WindowActivate && isVisible()) {
+        if (!awaitsActivation_)
+            WebBrowser1_->navigate(address_);
+        awaitsActivation_ = false;
+    }
+    return QWidget::event(event);
+}
+
+void HelpView::resizeEvent(QResizeEvent*)
+{
+    const auto size =
+        helpViewSize(width() * unitsPerPixel, height() * unitsPerPixel, WebBrowser1_->y() * unitsPerPixel);
+    if (!size)
+        return;
+    WebBrowser1_->resize(size->width / unitsPerPixel, size->height / unitsPerPixel);
+
+    const int strip = WebBrowser1_->geometry().bottom() + 1;
+    int left = WebBrowser1_->x();
+    for (QPushButton* const button : {Command1_, Command2_, Command3_}) {
+        const QSize buttonSize(11 * Theme::grid, button->sizeHint().height());
+        if (button == Command3_) // stands apart, at the right
+            left = width() - WebBrowser1_->x() - buttonSize.width();
+        button->setGeometry({QPoint(left, strip + (height() - strip - buttonSize.height()) / 2), buttonSize});
+        left += buttonSize.width() + Theme::spacing;
+    }
+}
+
+void HelpView::hideEvent(QHideEvent* event)
+{
+    if (!event->spontaneous())
+        WebBrowser1_->close();
+}
+
+/// Back and Forward only move between places of the page.
+void HelpView::leaf(void (BrowserView::*direction)())
+{
+    if (mayLeaf(WebBrowser1_->address().toEncoded().toStdString()))
+        (WebBrowser1_->*direction)();
+}
+
+QtHelpWindow::QtHelpWindow(BrowserLoader& loader) : loader_(loader) {}
+
+QtHelpWindow::~QtHelpWindow() = default;
+
+void QtHelpWindow::show(const HelpForm& form)
+{
+    if (!window_)
+        window_ = std::make_unique<HelpView>(loader_, form);
+    window_->bringToFront();
+}
+
+} // namespace lexigrove
