@@ -36,15 +36,12 @@ public:
     /// Looks for every word of two letters and more and reports those that can be traced, in the list's order, each
     /// with its letter score and its first path. The list stands until the next sweep.
     ///
-    /// The first sweep over a list prepares its words, in a few milliseconds for 200,000; after that no sweep allocates
-    /// unless it needs more room than any before.
+    /// The first sweep over a list prepares its words, in a few milliseconds for 200,000. After that a sweep allocates
+    /// only where a board has more words or more paths than any before, and more than English words ever have.
     const CandidateList& sweep(const SearchBoard& board, const WordList& words);
 
     /// List 3: what the last sweep found.
     [[nodiscard]] const CandidateList& candidates() const { return candidates_; }
-
-    /// What the search keeps beside the words, in bytes.
-    [[nodiscard]] std::size_t memory() const { return trie_.memory(); }
 
 private:
     void visitChildren(WordTrie::Node parent, const Frontier& paths, int length, int score);

@@ -17,6 +17,12 @@ void appendDigits(std::string& text, int number, int digits)
 
 } // namespace
 
+CandidateList::CandidateList()
+{
+    candidates_.reserve(4'096);
+    tiles_.reserve(32'768);
+}
+
 std::string CandidateList::word(int position) const
 {
     std::string result;

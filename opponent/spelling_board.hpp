@@ -74,7 +74,7 @@ private:
     std::array<std::uint8_t, 256> letterNumbers_{};                   ///< the same letters numbered from 0 up
     std::array<std::uint64_t, SearchBoard::tileCount> letterTiles_{}; ///< by letter number: bit t - 1 for tile t
     std::array<Surroundings, SearchBoard::tileCount + 1> around_{};
-    std::vector<Step> steps_;
+    std::vector<Step> steps_ = std::vector<Step>(4'096); ///< the paths of all frontiers; grows where it must
 };
 
 } // namespace lexigrove

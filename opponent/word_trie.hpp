@@ -39,12 +39,6 @@ public:
     [[nodiscard]] Node childrenBegin(Node node) const { return children_[node] & ~wordMark; }
     [[nodiscard]] Node childrenEnd(Node node) const { return children_[node + 1] & ~wordMark; }
 
-    /// What the tree occupies, in bytes.
-    [[nodiscard]] std::size_t memory() const
-    {
-        return letters_.capacity() * sizeof(char) + children_.capacity() * sizeof(Node);
-    }
-
 private:
     static constexpr Node wordMark = 0x80000000;
 
