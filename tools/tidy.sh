@@ -12,20 +12,23 @@ if [ ! -f "$build/compile_commands.json" ]; then
 fi
 cd "$root"
 
-# One line for each object file built: its source and the project's headers that it includes, from the root.
+# One line for each object file built, of paths from the root with tabs between them: its source and the project's headers
+# that it includes.
 dependencies() {
     ninja -C "$build" -t deps | awk -v root="$root/" '
         /^[^ ]/ { if (line != "") print line; line = ""; next }
-        NF == 1 {
-            path = $1
-            if (sub(/^(\.\.\/)+/, "", path) || index(path, root) == 1 && (path = substr(path, length(root) + 1)))
-                if (path !~ /^(build|usr)\//) line = line (line == "" ? "" : " ") path
+        sub(/^    /, "") {
+            path = $0
+            if (index(path, root) == 1) path = substr(path, length(root) + 1)
+            else if (!sub(/^(\.\.\/)+/, "", path)) next
+            if (path !~ /^(build|usr)\//) line = line (line == "" ? "" : "\t") path
         }
         END { if (line != "") print line }'
 }
 
 tidy_one() {
-    local files=($1) stamp log
+    local files stamp log
+    IFS=$'\t' read -r -a files <<<"$1"
     stamp=$passed/$( (clang-tidy --version; cat .clang-tidy "${files[@]}") | sha256sum | cut -c 1-40)
     [ ! -e "$stamp" ] || return 0
     log=$(mktemp)
@@ -41,5 +44,6 @@ tidy_one() {
 export -f tidy_one
 export passed build
 
-dependencies | grep -E '^(platform|controls|dictionary|scores|settings|game|opponent|flow|console|tools)/[^ ]*\.cpp ' |
+below_window='^(platform|controls|dictionary|scores|settings|game|opponent|flow|console|tools)/'
+dependencies | awk -F '\t' -v folders="$below_window" '$1 ~ folders && $1 ~ /\.cpp$/' |
     sort -u | tr '\n' '\0' | xargs -0 -r -n 1 -P "$(nproc)" bash -c 'tidy_one "$1"' tidy
