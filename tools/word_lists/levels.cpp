@@ -13,7 +13,9 @@ namespace lexigrove::tools
 namespace
 {
 
-constexpr int everydayClass = 20; ///< up to here a word is common whatever else it stands for
+constexpr int everybodysClass =
+    10;                           ///< up to here a word is common whatever its letters stand for, with apostrophes too
+constexpr int everydayClass = 20; ///< up to here a word is common though a name be spelled so
 constexpr int level1Class = 35;   ///< a small dictionary
 constexpr int level2Class = 40;   ///< beyond it names, brands and oaths begin to outnumber words that everybody knows
 constexpr int completeClass = 70; ///< a large dictionary: level 3 has it whole
@@ -41,7 +43,8 @@ std::vector<Ranked> rankedWords(const Scowl& scowl, const WordCounts& counts, co
             continue;
         const bool everyday = size <= everydayClass;
         const bool isName = !everyday && scowl.names.contains(word);
-        const bool isContraction = size > 10 && scowl.bareContractions.contains(word);
+        const bool isContraction = // "id", "em"
+            size > everybodysClass && (scowl.bareContractions.contains(word) || counts.contains("'" + word));
         const double count = entry->second + (isName || isContraction ? shared : 0);
         ranked.push_back({word, count, size <= level1Class && !isName});
     }
