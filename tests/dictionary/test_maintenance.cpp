@@ -23,6 +23,7 @@ protected:
     [[nodiscard]] std::vector<std::string> listed() const
     {
         std::vector<std::string> items;
+        items.reserve(static_cast<std::size_t>(maintenance.List1.ListCount()));
         for (int i = 0; i < maintenance.List1.ListCount(); ++i)
             items.emplace_back(maintenance.List1.list(i));
         return items;

@@ -69,7 +69,7 @@ TEST(MaintenanceDisk, FullDiskLosesNothing)
 
     // A few blocks are left: the backup does not fit.
     replaceFile(world.backup(2), "OLD BACKUP");
-    replaceFile(disk.path() + "filler", std::string(3 * list.size() - 5 * 4096, 'X'));
+    replaceFile(disk.path() + "filler", std::string(3 * list.size() - 20'000, 'X'));
     world.add("ZEBRA");
     ASSERT_EQ(world.dialogs.messages.size(), 3U);
     EXPECT_EQ(world.dialogs.messages[2], "Cannot write the file\n" + world.backup(2) + "\nNo space left on device");
@@ -79,7 +79,7 @@ TEST(MaintenanceDisk, FullDiskLosesNothing)
     // The backup fits, the new file does not.
     std::filesystem::remove(world.backup(2));
     std::filesystem::remove(disk.path() + "filler");
-    replaceFile(disk.path() + "filler", std::string(2 * list.size() - 4 * 4096, 'X'));
+    replaceFile(disk.path() + "filler", std::string(2 * list.size() - 16'000, 'X'));
     world.add("ZEBU");
     ASSERT_EQ(world.dialogs.messages.size(), 4U);
     EXPECT_EQ(world.dialogs.messages[3], "Cannot write the file\n" + world.levelFile(2) + "\nNo space left on device");
