@@ -13,13 +13,12 @@ namespace lexigrove::tools
 namespace
 {
 
-constexpr int everybodysClass =
-    10;                           ///< up to here a word is common whatever its letters stand for, with apostrophes too
-constexpr int everydayClass = 20; ///< up to here a word is common though a name be spelled so
-constexpr int level1Class = 35;   ///< a small dictionary
-constexpr int level2Class = 40;   ///< beyond it names, brands and oaths begin to outnumber words that everybody knows
-constexpr int completeClass = 70; ///< a large dictionary: level 3 has it whole
-constexpr double shared = -2.3;   ///< a tenth, as a logarithm: what is left of a count that belongs to something else
+constexpr int everybodysClass = 10; ///< up to here a word is common whatever else its letters stand for
+constexpr int everydayClass = 20;   ///< up to here a word is common though a name be spelled so
+constexpr int level1Class = 35;     ///< a small dictionary
+constexpr int level2Class = 40;     ///< beyond it names, brands and oaths begin to outnumber words that everybody knows
+constexpr int completeClass = 70;   ///< a large dictionary: level 3 has it whole
+constexpr double shared = -2.3;     ///< a tenth, as a logarithm: what is left of a count that belongs to something else
 
 struct Ranked {
     std::string word;
