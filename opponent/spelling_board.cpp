@@ -57,7 +57,7 @@ void SpellingBoard::prepare(const SearchBoard& board)
             const auto letter = static_cast<unsigned char>(board.letters[neighbour]);
             if (!shown[letter])
                 continue;
-            around.slots[numbers[letter]] |= static_cast<std::uint8_t>(1U << slot);
+            around.slotBits[numbers[letter]] |= static_cast<std::uint8_t>(1U << slot);
             around.letters |= LetterSet{1} << numbers[letter];
         }
     }
@@ -88,7 +88,7 @@ Frontier SpellingBoard::extend(const Frontier& paths, char letter)
     for (std::uint32_t path = paths.begin; path != paths.end; ++path) {
         const Step from = steps_[path];
         const Surroundings& around = around_[from.tile];
-        unsigned slots = around.slots[number];
+        unsigned slots = around.slotBits[number];
         // Most ends of paths have one neighbour with the letter or none. Its step is written either way and counted
         // only if it may be taken: a branch here would be guessed wrong too often.
         const std::uint64_t found = slots != 0;

@@ -62,9 +62,9 @@ private:
 
     /// What a path meets around its last tile. A slot is a place in the neighbour list.
     struct Surroundings {
-        std::array<std::uint64_t, 8> blocks{};                    ///< by slot: what the step there blocks
-        std::array<std::uint8_t, 8> tiles{};                      ///< by slot
-        std::array<std::uint8_t, SearchBoard::tileCount> slots{}; ///< by letter number: bit s for slot s
+        std::array<std::uint64_t, 8> blocks{};                       ///< by slot: what the step there blocks
+        std::array<std::uint8_t, 8> tiles{};                         ///< by slot
+        std::array<std::uint8_t, SearchBoard::tileCount> slotBits{}; ///< by letter number: bit s for slot s
         LetterSet letters = 0;
     };
 
