@@ -26,7 +26,8 @@ public:
     virtual bool confirm(const std::string& text) = 0;
 
     /// An input box. Cancel and an empty answer are both the empty text.
-    virtual std::string input(const std::string& title, const std::string& prompt, const std::string& defaultAnswer) = 0;
+    virtual std::string input(const std::string& title, const std::string& prompt,
+                              const std::string& defaultAnswer) = 0;
 
     /// A file-open dialog: the whole path chosen, or the empty text for Cancel.
     virtual std::string openFile(const OpenFileRequest& request) = 0;

@@ -9,7 +9,8 @@ namespace lexigrove
 namespace
 {
 
-/// The output function of SplitMix64 (Steele, Lea and Flood, 2014): every bit of the state reaches every bit of the result.
+/// The output function of SplitMix64 (Steele, Lea and Flood, 2014): every bit of the state reaches every bit of the
+/// result.
 std::uint64_t mix(std::uint64_t z)
 {
     z = (z ^ (z >> 30)) * 0xBF58476D1CE4E5B9U;

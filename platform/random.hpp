@@ -13,8 +13,8 @@ class Random
 public:
     explicit Random(std::uint64_t seed = 0) : state_(seed) {}
 
-    /// Folds the time of day into the generator's state. The state is never replaced, so that a hundred draws within one
-    /// tick of the clock are a hundred different draws.
+    /// Folds the time of day into the generator's state. The state is never replaced, so that a hundred draws within
+    /// one tick of the clock are a hundred different draws.
     void reseed(double secondsSinceMidnight);
 
     /// A number in [0, 1), uniform in steps of 2^-53.

@@ -3,8 +3,8 @@
 namespace lexigrove
 {
 
-/// What rules ask of the screen. The models are the truth: at every yield a front end reads them and shows what differs.
-/// A call that lets events run throws `Leaving` when the player closed the main window meanwhile.
+/// What rules ask of the screen. The models are the truth: at every yield a front end reads them and shows what
+/// differs. A call that lets events run throws `Leaving` when the player closed the main window meanwhile.
 class Screen
 {
 public:

@@ -5,8 +5,8 @@
 namespace lexigrove
 {
 
-/// The main window's status line: the label `Label1` and the icon `Warn` beside it. A front end that must tell every text,
-/// also those overwritten within one action, overrides `written`.
+/// The main window's status line: the label `Label1` and the icon `Warn` beside it. A front end that must tell every
+/// text, also those overwritten within one action, overrides `written`.
 class StatusLine
 {
 public:
