@@ -1,10 +1,9 @@
-#include "controls/item_list.hpp"
 #include "controls/words_grid.hpp"
 
-#include <algorithm>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <random>
+#include <string>
+#include <vector>
 
 namespace lexigrove
 {
@@ -13,72 +12,12 @@ namespace
 
 using testing::ElementsAre;
 
-std::vector<std::string> itemsOf(const ItemList& list)
-{
-    std::vector<std::string> items;
-    items.reserve(static_cast<std::size_t>(list.ListCount()));
-    for (int i = 0; i < list.ListCount(); ++i)
-        items.emplace_back(list.list(i));
-    return items;
-}
-
 std::vector<std::string> columnOf(const WordsGrid& grid, int column)
 {
     std::vector<std::string> texts;
     for (int row = 1; row < grid.Rows(); ++row)
         texts.push_back(grid.text(row, column));
     return texts;
-}
-
-// Guards binary order (a signed comparison puts accented letters first) and the merge of an unsorted tail.
-TEST(ItemList, sortsInBinaryOrder)
-{
-    const unsigned seed = std::random_device{}();
-    std::mt19937 random(seed);
-    for (int round = 0; round < 200; ++round) {
-        ItemList list;
-        std::vector<std::string> expected;
-        const auto add = [&](const std::string& text) {
-            list.Additem(text);
-            expected.push_back(text);
-        };
-        for (auto i = random() % 20; i > 0; --i) {
-            std::string text(random() % 4, ' ');
-            for (char& c : text)
-                c = "AB z\xC4\xFF"[random() % 6];
-            add(text);
-        }
-        list.SortAscending();
-        add("AB"); // a word added to a sorted list
-        list.SortAscending();
-        std::sort(expected.begin(), expected.end(), [](const std::string& a, const std::string& b) {
-            return std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(), [](char x, char y) {
-                return static_cast<unsigned char>(x) < static_cast<unsigned char>(y);
-            });
-        });
-        ASSERT_EQ(itemsOf(list), expected) << "seed " << seed << ", round " << round;
-    }
-}
-
-// Guards column keys: a missing column, numbers taken as text, and places beyond the list.
-TEST(ItemList, sortsByColumn)
-{
-    ItemList list;
-    for (const char* item : {"b\t10\tx", "A\t9\ty", "c", "a\t9\tz"})
-        list.Additem(item);
-    list.sortByColumn(1, SortBy::Number, SortDirection::Ascending);
-    EXPECT_THAT(itemsOf(list), ElementsAre("c", "A\t9\ty", "a\t9\tz", "b\t10\tx"));
-    list.sortByColumn(1, SortBy::Text, SortDirection::Descending);
-    EXPECT_THAT(itemsOf(list), ElementsAre("A\t9\ty", "a\t9\tz", "b\t10\tx", "c"));
-    list.sortByColumn(0, SortBy::Text, SortDirection::Descending);
-    EXPECT_THAT(itemsOf(list), ElementsAre("c", "b\t10\tx", "A\t9\ty", "a\t9\tz"));
-    EXPECT_THROW(static_cast<void>(list.list(4)), std::out_of_range);
-    EXPECT_THROW(static_cast<void>(list.list(-1)), std::out_of_range);
-    list.Clear();
-    EXPECT_EQ(list.ListCount(), 0);
-    list.SortAscending();
-    list.sortByColumn(2, SortBy::Number, SortDirection::Descending);
-    EXPECT_EQ(list.ListCount(), 0);
 }
 
 WordsGrid filledGrid()
