@@ -1,6 +1,7 @@
 #include "ui/browser_module.hpp"
 
 #include <QAuthenticator>
+#include <QLoggingCategory>
 #include <QWebEngineCertificateError>
 #include <QWebEngineDownloadRequest>
 #include <QWebEngineFullScreenRequest>
@@ -180,6 +181,7 @@ private:
 
 BrowserEngine::BrowserEngine()
 {
+    QLoggingCategory::setFilterRules("qt.webenginecontext.*=false"); // a page of technical data in the terminal
     decideOnSandbox();
 }
 

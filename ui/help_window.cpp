@@ -62,10 +62,10 @@ HelpView::HelpView(BrowserLoader& loader, const HelpForm& form)
 void HelpView::bringToFront()
 {
     awaitsActivation_ = !isActiveWindow();
+    WebBrowser1_->navigate(address_); // first: the engine's first view makes the toolkit build a shown window anew
     show();
     raise();
     activateWindow();
-    WebBrowser1_->navigate(address_);
 }
 
 bool HelpView::event(QEvent* event)

@@ -4,7 +4,6 @@
 #include "ui/form_dialog.hpp"
 #include "ui/text.hpp"
 
-#include <QShowEvent>
 #include <QVBoxLayout>
 
 namespace lexigrove
@@ -17,32 +16,22 @@ class MeaningView : public FormDialog
 {
 public:
     MeaningView(Host& gameHost, BrowserLoader& loader, const MeaningForm& form)
-        : FormDialog(gameHost, "Form3", form.Caption),
-          address_(QString::fromStdString(form.address)),
-          WbDictionary_(new BrowserView(loader, BrowserRules::forServices()))
+        : FormDialog(gameHost, "Form3", form.Caption)
     {
-        WbDictionary_->setObjectName("WbDictionary");
+        auto* const WbDictionary = new BrowserView(loader, BrowserRules::forServices());
+        WbDictionary->setObjectName("WbDictionary");
         auto* const column = new QVBoxLayout(this);
         column->setContentsMargins({});
-        column->addWidget(WbDictionary_);
+        column->addWidget(WbDictionary);
         resize(120 * Theme::grid, 84 * Theme::grid);
+        // Before the window is shown: the engine's first view makes the toolkit build a window anew, which would close
+        // a dialog that is open.
+        WbDictionary->navigate(QUrl(QString::fromStdString(form.address)));
     }
 
 protected:
-    void showEvent(QShowEvent* event) override
-    {
-        FormDialog::showEvent(event);
-        if (!event->spontaneous())
-            QMetaObject::invokeMethod(
-                this, [this] { WbDictionary_->navigate(address_); }, Qt::QueuedConnection);
-    }
-
     void showForm() override {}
     void closePressed() override { accept(); }
-
-private:
-    QUrl address_;
-    BrowserView* WbDictionary_;
 };
 
 } // namespace

@@ -2,7 +2,6 @@
 
 #include "ui/text.hpp"
 
-#include <QApplication>
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QMessageBox>
@@ -29,7 +28,7 @@ QStringList nameFilters(const std::string& filter)
 
 void QtDialogs::message(const std::string& text)
 {
-    QMessageBox box(QMessageBox::NoIcon, QApplication::applicationDisplayName(), linesOf(text), QMessageBox::Ok,
+    QMessageBox box(QMessageBox::NoIcon, QStringLiteral("LexiGrove"), linesOf(text), QMessageBox::Ok,
                     host_.dialogParent());
     box.setTextFormat(Qt::PlainText);
     host_.gate.exec(box);
@@ -37,7 +36,7 @@ void QtDialogs::message(const std::string& text)
 
 bool QtDialogs::confirm(const std::string& text)
 {
-    QMessageBox box(QMessageBox::NoIcon, QApplication::applicationDisplayName(), linesOf(text),
+    QMessageBox box(QMessageBox::NoIcon, QStringLiteral("LexiGrove"), linesOf(text),
                     QMessageBox::Yes | QMessageBox::No, host_.dialogParent());
     box.setTextFormat(Qt::PlainText);
     box.setDefaultButton(QMessageBox::Yes);

@@ -19,7 +19,7 @@ namespace
 
 constexpr int textSize = 13;
 constexpr int shownRowsWanted = 8;
-constexpr int frameWidth = 1;
+constexpr int edge = 1; ///< of the card
 
 int gridWidth()
 {
@@ -35,7 +35,7 @@ WordsView::WordsView(const WordsGrid& grid, const Theme& theme, QWidget* parent)
     : QAbstractScrollArea(parent), grid_(grid), theme_(theme)
 {
     setFrameShape(QFrame::NoFrame);
-    setViewportMargins(frameWidth, frameWidth, frameWidth, frameWidth);
+    setViewportMargins(edge, edge, edge, edge);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setFocusPolicy(Qt::StrongFocus);
     viewport()->setAutoFillBackground(false);
@@ -157,7 +157,8 @@ void WordsView::paintRow(QPainter& painter, int row) const
         painter.setPen(toQColor(text));
         const bool left = WordsGrid::columns[static_cast<std::size_t>(column)].alignment == CellAlignment::Left;
         painter.drawText(cellPlace.adjusted(left ? Theme::grid : 0, 0, 0, 0),
-                         Qt::AlignVCenter | (left ? Qt::AlignLeft : Qt::AlignHCenter), toQString(cell.text));
+                         Qt::AlignVCenter | static_cast<int>(left ? Qt::AlignLeft : Qt::AlignHCenter),
+                         toQString(cell.text));
     }
     if (current)
         painter.fillRect(QRect(place.left(), place.top(), 3, place.height()), toQColor(colours.accent));

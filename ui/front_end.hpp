@@ -1,0 +1,47 @@
+#pragma once
+
+#include "flow/game_flow.hpp"
+#include "platform/random.hpp"
+#include "platform/status_line.hpp"
+#include "ui/game_windows.hpp"
+#include "ui/host.hpp"
+#include "ui/main_window.hpp"
+#include "ui/qt_clock.hpp"
+#include "ui/qt_dialogs.hpp"
+#include "ui/qt_screen.hpp"
+#include "ui/qt_sound_device.hpp"
+
+#include <string>
+
+namespace lexigrove
+{
+
+/// The game with its windows and the machine it runs on, put together. A QApplication stands before it.
+class FrontEnd
+{
+public:
+    /// `folder` is the program folder with its closing separator.
+    explicit FrontEnd(const std::string& folder);
+    FrontEnd(const FrontEnd&) = delete;
+    FrontEnd& operator=(const FrontEnd&) = delete;
+
+private:
+    QtClock clock_;
+    Random random_;
+    QtSoundDevice sound_;
+    StatusLine status_;
+
+public:
+    Host host;
+
+private:
+    QtScreen screen_{host};
+    QtDialogs dialogs_{host};
+    GameWindows windows_{host};
+
+public:
+    GameFlow flow;
+    MainWindow window{host, flow, status_};
+};
+
+} // namespace lexigrove

@@ -1,0 +1,66 @@
+#include "platform/program_folder.hpp"
+#include "ui/front_end.hpp"
+#include "ui/start_options.hpp"
+#include "ui/text.hpp"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QTimer>
+
+#include <cstdio>
+
+namespace
+{
+
+using namespace lexigrove;
+
+int play(const StartOptions& options)
+{
+    FrontEnd game(programFolder(programFolderRequest(options.folder)));
+    GameFlow& flow = game.flow;
+    MainWindow& window = game.window;
+    QObject::connect(&window, &MainWindow::ended, qApp, &QApplication::quit, Qt::QueuedConnection);
+
+    window.input([&] {
+        flow.startUp();
+        if (options.arrangement)
+            flow.options.select(*options.arrangement == Arrangement::Square ? flow.options.s8x8 : flow.options.s7x8);
+    });
+    if (flow.ended())
+        return EXIT_SUCCESS;
+    window.show();
+    QTimer::singleShot(0, &window, [&] {
+        window.input([&] {
+            if (options.startAtOnce)
+                flow.startGame();
+            else
+                flow.openOptionsAndStart();
+        });
+    });
+    return QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    if (const auto answer = answerWithoutWindow(argc, argv)) {
+        std::fputs(answer->c_str(), stdout);
+        return EXIT_SUCCESS;
+    }
+    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts); // for the web pages of help and meanings
+    QApplication application(argc, argv);
+    QApplication::setApplicationName("lexigrove");
+    QApplication::setApplicationVersion(LEXIGROVE_VERSION);
+    QApplication::setDesktopFileName("lexigrove");
+    try {
+        return play(readStartOptions(QApplication::arguments()));
+    } catch (const StartOptionError& error) {
+        std::fprintf(stderr, "lexigrove: %s\nTry 'lexigrove --help'.\n", error.what());
+        return 2;
+    } catch (const ProgramFolderError& error) {
+        std::fprintf(stderr, "lexigrove: %s\n", error.what());
+        QMessageBox::critical(nullptr, "LexiGrove", QString::fromLocal8Bit(error.what()));
+        return EXIT_FAILURE;
+    }
+}

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "game/board.hpp"
+
+#include <QStringList>
+
+#include <optional>
+#include <stdexcept>
+#include <string>
+
+namespace lexigrove
+{
+
+/// What the command line asks for.
+struct StartOptions {
+    std::optional<std::string> folder;      ///< the program folder
+    std::optional<Arrangement> arrangement; ///< presets the options dialog
+    bool startAtOnce = false;               ///< a game with the stored options, without the options dialog
+};
+
+/// An option that is unknown or incomplete. `what()` says which.
+class StartOptionError : public std::runtime_error
+{
+public:
+    using std::runtime_error::runtime_error;
+};
+
+/// Reads the command line, the program's name first. Throws StartOptionError.
+StartOptions readStartOptions(const QStringList& arguments);
+
+/// The answer to --help and --version, which need no display; nothing for any other command line.
+std::optional<std::string> answerWithoutWindow(int argc, const char* const* argv);
+
+} // namespace lexigrove
