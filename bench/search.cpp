@@ -299,9 +299,9 @@ void measureArrangement(BoardSearch& search, const WordList& words, const std::s
 void measureDictionary(const std::string& name, const std::string& dictionary)
 {
     const WordList words = WordList::ofLines(dictionary);
-    std::vector<double> builds;
-    for (int i = 0; i < 9; ++i)
-        builds.push_back(milliseconds([&] { WordTrie().build(words); }));
+    std::vector<double> builds(9);
+    for (double& time : builds)
+        time = milliseconds([&] { WordTrie().build(words); });
     const std::size_t before = liveBytes;
     const auto search = std::make_unique<BoardSearch>();
     search->sweep(SearchBoard{}, words);

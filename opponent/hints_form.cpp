@@ -14,21 +14,6 @@ std::vector<int> tilesOf(const std::string& digits)
     return tiles;
 }
 
-/// The parts of a candidate item: four digits of score, a blank, the path digits, the word.
-struct SplitItem {
-    int score = 0;
-    std::string digits;
-    std::string word;
-};
-
-SplitItem split(const std::string& item)
-{
-    std::size_t wordStart = item.size();
-    while (wordStart > 5 && static_cast<unsigned char>(item[wordStart - 1]) >= 65)
-        --wordStart;
-    return {numberOf(item.substr(0, 4)), item.substr(5, wordStart - 5), item.substr(wordStart)};
-}
-
 } // namespace
 
 HintsForm::HintsForm(Game& game, Meanings& meanings) : game_(game), meanings_(meanings)
@@ -46,15 +31,14 @@ void HintsForm::activate(const CandidateList& candidates)
     visible_ = true;
     result_.clear();
     WordsMade.clear();
-    WordsMade.setHeadingForeColor(game_.scheme.plain(scheme_entry::computer));
+    WordsMade.setHeadingForeColor(game_.scheme.computerFore());
     for (int position = 1; position <= candidates.count(); ++position) {
-        const std::string item = candidates.item(position);
-        if (item.empty()) {
+        if (candidates.item(position).empty()) {
             game_.ports.dialogs.message("form2");
             continue;
         }
-        const SplitItem parts = split(item);
-        WordsMade.addRow(wordsMadeRow(WordsMade, parts.word, parts.score), parts.digits);
+        WordsMade.addRow(wordsMadeRow(WordsMade, candidates.word(position), candidates.score(position)),
+                         pathDigits(candidates.path(position)));
         WordsMade.setCurrent(WordsMade.Rows() - 1, 0);
     }
     pathDigits_.clear();

@@ -49,7 +49,7 @@ public:
         for (const int t : numbersIn(entry)) {
             for (const int n : board_.neighbours[static_cast<std::size_t>(t)]) {
                 if (letter(t) + letter(n) == word.substr(0, 2)) {
-                    fwlist[0].push_back(twoDigits(t) + twoDigits(n) + letter(t) + letter(n));
+                    fwlist[0].push_back(twoDigits(t).append(twoDigits(n)).append(letter(t)).append(letter(n)));
                     result = 2;
                 }
             }
@@ -62,7 +62,7 @@ public:
                 for (const int m : board_.neighbours[static_cast<std::size_t>(last)]) {
                     const std::string newLetters = letters + letter(m);
                     if (digits.find(twoDigits(m)) == std::string::npos && newLetters == word.substr(0, k)) {
-                        fwlist[1].push_back(digits + twoDigits(m) + newLetters);
+                        fwlist[1].push_back(std::string(digits).append(twoDigits(m)).append(newLetters));
                         result = static_cast<int>(k);
                     }
                 }

@@ -91,7 +91,7 @@ WordList nearlyOnBoard(std::mt19937& random, const SearchBoard& board, Kind kind
 /// Guards against any difference from the plain reading: order, paths, positions, words lost to the digit rule or to
 /// the sharing of prefixes, words that come twice. One search serves all boards and lists, so that nothing of one sweep
 /// may reach the next.
-TEST(BoardSearch, agreesWithPlainReading)
+TEST(BoardSearch, AgreesWithPlainReading)
 {
     BoardSearch search;
     int found = 0;
@@ -124,7 +124,7 @@ TEST(BoardSearch, agreesWithPlainReading)
 }
 
 /// Guards the digit text rule and the item formats against a slip that the plain reading might share.
-TEST(BoardSearch, refusesTilesWhoseDigitsAreInPath)
+TEST(BoardSearch, RefusesTilesWhoseDigitsAreInPath)
 {
     // C A T S leads over tiles 12, 3, 11 to 20, whose digits stand across 12 and 03; tile 2 has no such trouble.
     BoardSearch search;
@@ -138,7 +138,7 @@ TEST(BoardSearch, refusesTilesWhoseDigitsAreInPath)
 }
 
 /// Guards the lengths that tracing reports at its ends, a tile used twice, and the order of paths.
-TEST(BoardSearch, tracesLongestPrefix)
+TEST(BoardSearch, TracesLongestPrefix)
 {
     BoardSearch search;
     const SearchBoard board = squareBoard('X', {{1, 'A'}, {2, 'B'}, {10, 'B'}, {64, 'C'}});
@@ -152,7 +152,7 @@ TEST(BoardSearch, tracesLongestPrefix)
 }
 
 /// Guards ties, which go to the earlier word, and a best position among words without a score.
-TEST(BoardSearch, marksFirstOfTheBest)
+TEST(BoardSearch, MarksFirstOfTheBest)
 {
     BoardSearch search;
     const SearchBoard board =
@@ -169,7 +169,7 @@ TEST(BoardSearch, marksFirstOfTheBest)
 }
 
 /// Guards against a sweep that answers for the words as they were before the list changed.
-TEST(BoardSearch, followsChangesOfTheList)
+TEST(BoardSearch, FollowsChangesOfTheList)
 {
     BoardSearch search;
     const SearchBoard board = squareBoard('X', {{20, 'C'}, {21, 'A'}, {22, 'T'}});
