@@ -105,8 +105,11 @@ struct Medians {
     double baseline;
 };
 
-/// Runs both by turns, so that what disturbs the machine disturbs both.
-inline Medians measure(int rounds, const std::function<void()>& subject, const std::function<void()>& baseline)
+/// Runs both by turns, so that what disturbs the machine disturbs both. The round's
+/// preparation is not timed.
+inline Medians measure(
+    int rounds, const std::function<void()>& subject, const std::function<void()>& baseline,
+    const std::function<void()>& prepare = [] {})
 {
     const auto time = [](const std::function<void()>& action) {
         const auto start = std::chrono::steady_clock::now();
@@ -116,8 +119,9 @@ inline Medians measure(int rounds, const std::function<void()>& subject, const s
     std::vector<double> subjects;
     std::vector<double> baselines;
     for (int round = 0; round < rounds; ++round) {
-        subjects.push_back(time(subject));
+        prepare();
         baselines.push_back(time(baseline));
+        subjects.push_back(time(subject));
     }
     std::sort(subjects.begin(), subjects.end());
     std::sort(baselines.begin(), baselines.end());

@@ -4,9 +4,8 @@
 #include "dictionary/word_text.hpp"
 #include "platform/text_file.hpp"
 
-#include <exception>
+#include <stdexcept>
 #include <utility>
-#include <vector>
 
 namespace lexigrove
 {
@@ -19,6 +18,16 @@ constexpr const char* userDictionaryRefused = "Cannot add words to user dictiona
 std::string_view firstLine(std::string_view text)
 {
     return text.substr(0, text.find_first_of("\r\n"));
+}
+
+/// A word list's own limit and means of splitting, for lines that are no words yet.
+WordList readLinesOf(const std::string& path)
+{
+    try {
+        return WordList::ofLines(readFile(path));
+    } catch (const std::length_error& error) {
+        throw FileError(error.what(), path, 0);
+    }
 }
 
 /// Makes the file what it was, unless it is. Returns what stood in the way, one line end before it, or the empty text.
@@ -134,7 +143,7 @@ void DictionaryMaintenance::addWord()
                     .restored = "File restored ",
                     .words = {},
                     .lines = {}};
-    SortingList ListBoy1;
+    SortingList ListBoy1(before.count() + 1);
     {
         const BusyPointer busy(screen_);
         for (int i = 1; i <= before.count(); ++i)
@@ -168,7 +177,7 @@ void DictionaryMaintenance::removeWord()
                     .restored = "file restored ", // lower case here
                     .words = {},
                     .lines = {}};
-    SortingList ListBoy1;
+    SortingList ListBoy1(before.count() + 1);
     {
         const BusyPointer busy(screen_);
         for (int i = 1; i <= before.count(); ++i)
@@ -351,26 +360,19 @@ std::optional<DictionaryMaintenance::Difference> DictionaryMaintenance::verify(c
                                                                                const Rewrite& rewrite)
 {
     List1.Clear();
-    const std::string text = readFile(files.path);
-    const std::vector<std::string_view> lines = splitLines(text);
-    if (lines.size() > static_cast<std::size_t>(WordList::capacity))
-        throw FileError("The file holds more than 250,000 lines", files.path, 0);
-
+    const WordList lines = readLinesOf(files.path);
     LineDecoder decoder(rewrite.coding);
     int same = 0;
     try {
-        for (const std::string_view line : lines) {
-            if (decoder.read(line) != rewrite.words.entry(same + 1))
-                break;
+        while (same < lines.count() && decoder.read(lines.entry(same + 1)) == rewrite.words.entry(same + 1))
             ++same;
-        }
     } catch (const FormatError&) {
         // The line at which it stopped is the difference.
     }
     List1.fill(rewrite.words, same);
     if (rewrite.coding == Coding::Maintained)
         dictionary_.codingBase = decoder.codingBase();
-    if (!lines.empty() && same == static_cast<int>(lines.size()) && same >= rewrite.words.count())
+    if (lines.count() > 0 && same == lines.count() && same >= rewrite.words.count())
         return {};
     return Difference{same + 1, decoder.word()};
 }

@@ -12,6 +12,9 @@ namespace lexigrove
 class SortingList
 {
 public:
+    /// An empty list with room for so many items before it grows.
+    explicit SortingList(int expected = 0) { items_.reserve(static_cast<std::size_t>(expected)); }
+
     void Clear() { items_.clear(); }
     void Additem(std::string_view text) { items_.push_back(text); }
 

@@ -12,7 +12,7 @@ namespace lexigrove
 namespace
 {
 
-constexpr const char* tooManyWords = "The dictionary holds more than 250,000 words";
+constexpr const char* tooManyLines = "The dictionary holds more than 250,000 lines";
 constexpr const char* tooMuchText = "The dictionary is larger than 4 GiB";
 
 /// Half of a sum, rounded to the nearest whole number and from a half to the even one.
@@ -86,7 +86,7 @@ WordList WordList::ofLines(std::string text)
         words.starts.push_back(static_cast<std::uint32_t>(next));
     }
     if (words.count() > static_cast<std::size_t>(capacity))
-        throw std::length_error(tooManyWords);
+        throw std::length_error(tooManyLines);
     words.text = std::move(text);
 
     WordList list;
@@ -126,7 +126,7 @@ int WordList::findWord(std::string_view word) const
 void WordList::overwrite(std::span<const std::string_view> words)
 {
     if (words.size() > static_cast<std::size_t>(capacity))
-        throw std::length_error(tooManyWords);
+        throw std::length_error(tooManyLines);
 
     const std::size_t written = std::max(words.size(), words_->count());
     const auto next = [&](std::size_t place) { return place < words.size() ? words[place] : words_->word(place); };

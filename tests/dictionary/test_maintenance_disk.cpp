@@ -129,7 +129,7 @@ TEST(MaintenanceDisk, PutsBackWhatCannotBeReadBack)
         tooLong += "~\n";
     world.dialogs.at["File compressed"] = [&] { replaceFile(world.levelFile(1), tooLong); };
     world.add("FOX");
-    EXPECT_EQ(world.dialogs.messages.back(), "The file holds more than 250,000 lines\n" + world.levelFile(1));
+    EXPECT_EQ(world.dialogs.messages.back(), "The dictionary holds more than 250,000 lines\n" + world.levelFile(1));
     EXPECT_EQ(readFile(world.levelFile(1)), "CAT\r\nDOG\r\n");
 }
 
