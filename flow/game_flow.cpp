@@ -10,6 +10,24 @@
 namespace lexigrove
 {
 
+namespace
+{
+
+/// The flow is busy for the length of a scope.
+class Busy
+{
+public:
+    explicit Busy(bool& flag) : flag_(flag) { flag_ = true; }
+    ~Busy() { flag_ = false; }
+    Busy(const Busy&) = delete;
+    Busy& operator=(const Busy&) = delete;
+
+private:
+    bool& flag_;
+};
+
+} // namespace
+
 GameFlow::GameFlow(const Ports& ports, const Windows& windows, const std::string& folder)
     : ports_(ports),
       windows_(windows),
@@ -36,7 +54,7 @@ void GameFlow::perform(Action action)
 {
     if (busy_ || ended_)
         return;
-    busy_ = true;
+    const Busy busy(busy_);
     try {
         try {
             action();
@@ -46,10 +64,9 @@ void GameFlow::perform(Action action)
     } catch (const ProgramEnd&) {
         ended_ = true;
     }
-    busy_ = false;
 }
 
-/// An action of the game: refused without a game and while it is paused.
+/// What the timers and the clicks of a letter swap do in a game: refused without one and while it is paused.
 template <std::invocable Action>
 void GameFlow::performInGame(Action action)
 {
@@ -57,9 +74,21 @@ void GameFlow::performInGame(Action action)
         perform(action);
 }
 
-void GameFlow::asInput(const std::function<void()>& action)
+/// Any other action of the player's: it cancels a letter swap.
+template <std::invocable Action>
+void GameFlow::performOther(Action action)
 {
-    perform(action);
+    perform([&] {
+        letterSwap.cancel();
+        action();
+    });
+}
+
+template <std::invocable Action>
+void GameFlow::performOtherInGame(Action action)
+{
+    if (inGame_ && !paused_)
+        performOther(action);
 }
 
 // ---- The program's course
@@ -102,8 +131,8 @@ void GameFlow::openOptionsAndStart()
 void GameFlow::startGame()
 {
     perform([this] {
-        if (options.settings.presetLetters == presetInPlay_)
-            options.settings.presetLetters.clear(); // it was for the game before
+        if (options.settings.presetLetters == "x")
+            options.settings.presetLetters.clear(); // the mark of the game before is nothing to deal
         clearGame();
         beginGame();
     });
@@ -112,6 +141,7 @@ void GameFlow::startGame()
 void GameFlow::showOptions()
 {
     inGame_ = false;
+    showWallClock();
     options.open();
     windows_.options.show(options);
     if (options.answer() == OptionsForm::Answer::Exit)
@@ -123,6 +153,8 @@ void GameFlow::clearGame()
     resume();
     letterSwap.cancel();
     game.selection.clear();
+    game.board.clear();
+    game.supply.RandomLetters.clear();
     game.state.resetForNewGame();
 }
 
@@ -132,7 +164,6 @@ void GameFlow::beginGame()
     services.choose(options);
     game.state.resetForNewGame();
     game.state.computerGame = options.isComputerGame();
-    game.state.redTileHold = false;
     maintenance.reset();
     dictionary.read(ports_.dialogs, ports_.status, ports_.random, ports_.clock);
     game.board.layOut(options.isSquare() ? Arrangement::Square : Arrangement::Staggered);
@@ -140,7 +171,6 @@ void GameFlow::beginGame()
     game.refreshLooks();
     if (game.state.computerGame)
         options.settings.presetLetters = "x";
-    presetInPlay_ = options.settings.presetLetters;
     startClock();
     inGame_ = true;
 }
@@ -148,13 +178,24 @@ void GameFlow::beginGame()
 /// Counts down in a game against the computer; in a solo game it goes on showing the time of day.
 void GameFlow::startClock()
 {
-    Dc1.ShowTimeOnly(!game.state.computerGame);
-    if (game.state.computerGame) {
-        Dc1.ClockStartValue(gameSeconds);
-        Dc1.StartCountdown();
-    } else {
-        Dc1.ResumeCountDown();
+    if (!game.state.computerGame) {
+        showWallClock();
+        return;
     }
+    Dc1.ShowTimeOnly(false);
+    Dc1.ClockStartValue(gameSeconds);
+    Dc1.StartCountdown();
+}
+
+/// Between games and in a solo game the clock shows the time of day, at once.
+void GameFlow::showWallClock()
+{
+    if (!Dc1.ShowTimeOnly()) {
+        Dc1.ShowTimeOnly(true);
+        Dc1.ClockStartValue(0); // lights the dots, which a countdown leaves dim at every odd second
+    }
+    Dc1.ResumeCountDown();
+    (void)Dc1.tick(ports_.clock.secondsSinceMidnight());
 }
 
 void GameFlow::menuNewGame()
@@ -167,9 +208,10 @@ void GameFlow::menuNewGame()
         if (game.state.wordsMade > 0) {
             if (!ports_.dialogs.confirm("Do you wish to reset?"))
                 return;
-            if (isNormalGame() && offerScore() == "NOMORE") {
-                options.settings.presetLetters = "x"; // offered: leaving does not record it again
-                leave();
+            if (isNormalGame()) {
+                options.settings.presetLetters = "x"; // offered once: leaving does not record the score a second time
+                if (offerScore() == "NOMORE")
+                    leave();
             }
         }
         anotherGame();
@@ -294,7 +336,7 @@ void GameFlow::clickTile(int tile, MouseButton button, bool shift)
 
 void GameFlow::hoverTile(int tile)
 {
-    if (!inGame_ || busy_ || paused_ || letterSwap.isPending() || !game.board.isVisible(tile))
+    if (!inGame_ || busy_ || paused_ || !game.board.isVisible(tile))
         return;
     ports_.status.Warn = false;
     ports_.status.write(game.board.hoverCaption(tile));
@@ -303,10 +345,7 @@ void GameFlow::hoverTile(int tile)
 
 void GameFlow::enterWord()
 {
-    performInGame([this] {
-        letterSwap.cancel();
-        wordRound.enterWord();
-    });
+    performOtherInGame([this] { wordRound.enterWord(); });
 }
 
 void GameFlow::drop(int col)
@@ -321,40 +360,32 @@ void GameFlow::drop(int col)
 
 void GameFlow::getHint()
 {
-    performInGame([this] {
-        letterSwap.cancel();
-        hints.getHint();
-    });
+    performOtherInGame([this] { hints.getHint(); });
 }
 
 void GameFlow::checkSpelling()
 {
-    performInGame([this] {
-        letterSwap.cancel();
-        lexigrove::checkSpelling(game.state, dictionary, sounds, ports_.status);
-    });
+    performOtherInGame([this] { lexigrove::checkSpelling(game.state, dictionary, sounds, ports_.status); });
 }
 
 void GameFlow::showMeaning()
 {
-    performInGame([this] {
-        letterSwap.cancel();
-        meanings.showOfCurrentRow();
-    });
+    performOtherInGame([this] { meanings.showOfCurrentRow(); });
 }
 
 void GameFlow::addWord()
 {
-    performInGame([this] {
-        letterSwap.cancel();
-        if (maintenance.open(game.state.WordTried.Caption, ports_.status))
+    performOtherInGame([this] {
+        if (maintenance.open(game.state.WordTried.Caption, ports_.status)) {
+            game.state.redTileHold = true;
             windows_.maintenance.show(maintenance);
+        }
     });
 }
 
 void GameFlow::soundButton()
 {
-    perform([this] { options.soundButton(); });
+    performOther([this] { options.soundButton(); });
 }
 
 void GameFlow::pause()
@@ -395,7 +426,7 @@ void GameFlow::escape()
 
 void GameFlow::releaseClockFrame(MouseButton button)
 {
-    perform([=, this] {
+    performOther([=, this] {
         if (button == MouseButton::Left)
             frame10Released(Dc1, leftButton);
         else if (button == MouseButton::Right)
@@ -405,20 +436,19 @@ void GameFlow::releaseClockFrame(MouseButton button)
 
 void GameFlow::sortWordsMade(int x)
 {
-    perform([=, this] { game.state.WordsMade.headingClicked(x); });
+    performOtherInGame([=, this] { game.state.WordsMade.headingClicked(x); });
 }
 
 /// What every action does that opens a window from the main one: a sound, and no pressure until the next word.
 void GameFlow::openingWindow()
 {
-    letterSwap.cancel();
     game.state.redTileHold = true;
     sounds.play(cue::menu);
 }
 
 void GameFlow::showTopTen()
 {
-    perform([this] {
+    performOtherInGame([this] {
         openingWindow();
         lexigrove::showTopTen(scoreForm, windows_.scores, ScoreForm::showOnly);
     });
@@ -426,7 +456,7 @@ void GameFlow::showTopTen()
 
 void GameFlow::showStatistics()
 {
-    performInGame([this] {
+    performOtherInGame([this] {
         openingWindow();
         game.state.statistics.setHintsUsed(game.state.hintsUsed);
         statisticsForm.activate(game.state.computerGame, dictionary.letters.letterCounts);
@@ -436,7 +466,7 @@ void GameFlow::showStatistics()
 
 void GameFlow::showHelp()
 {
-    perform([this] {
+    performOther([this] {
         openingWindow();
         helpForm.Tag = helpAddress(folder_);
         windows_.help.show(helpForm);
@@ -445,7 +475,7 @@ void GameFlow::showHelp()
 
 void GameFlow::showAbout()
 {
-    perform([this] {
+    performOther([this] {
         openingWindow();
         windows_.about.show(aboutForm);
     });
@@ -453,7 +483,7 @@ void GameFlow::showAbout()
 
 void GameFlow::askDeveloperPassword()
 {
-    perform([this] {
+    performOther([this] {
         game.state.developerMode = false;
         if (ports_.dialogs.input("LexiGrove", "Enter password", "") == "718kestr")
             game.state.developerMode = true;
@@ -485,7 +515,7 @@ void GameFlow::releaseDeveloperKey(DeveloperKey key)
 
 void GameFlow::exportWords()
 {
-    perform([this] { (void)dictionary.exportWords(ports_.dialogs, ports_.random, ports_.clock); });
+    performOtherInGame([this] { (void)dictionary.exportWords(ports_.dialogs, ports_.random, ports_.clock); });
 }
 
 // ---- The timers

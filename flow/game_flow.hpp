@@ -79,7 +79,7 @@ public:
     void getHint();
     void checkSpelling();
     void showMeaning();
-    /// `CheckDict`'s neighbour that keeps the dictionaries: opens the maintenance window with the selected word.
+    /// Opens the maintenance window with the selected word.
     void addWord();
     void soundButton();
     void pause();
@@ -155,10 +155,15 @@ private:
     void perform(Action action);
     template <std::invocable Action>
     void performInGame(Action action);
+    template <std::invocable Action>
+    void performOther(Action action);
+    template <std::invocable Action>
+    void performOtherInGame(Action action);
 
     void setUpClock();
     void beginGame();
     void startClock();
+    void showWallClock();
     void clearGame();
     void showOptions();
     void anotherGame();
@@ -178,7 +183,6 @@ private:
     bool paused_ = false;
     bool pauseCaptionShown_ = false;
     bool clockRanBeforePause_ = false;
-    std::string presetInPlay_; ///< the preset letters text that the running game began with
 };
 
 } // namespace lexigrove

@@ -51,10 +51,7 @@ void Board::setScreen(Screen* screen)
 void Board::layOut(Arrangement arrangement)
 {
     arrangement_ = arrangement;
-    for (BoxControl& tile : Tiles)
-        tile.Visible(false);
-    for (BoxControl& waiting : TopDrop)
-        waiting.Visible(false);
+    clear();
 
     int number = 0;
     for (int col = 1; col <= columns; ++col) {
@@ -80,6 +77,14 @@ void Board::layOut(Arrangement arrangement)
 
     neighbours_ = arrangement == Arrangement::Square ? squareNeighbours() : staggeredNeighbours();
     savedNeighbours_ = neighbours_;
+}
+
+void Board::clear()
+{
+    for (BoxControl& tile : Tiles)
+        tile.Visible(false);
+    for (BoxControl& waiting : TopDrop)
+        waiting.Visible(false);
 }
 
 void Board::rebuildNeighbours()

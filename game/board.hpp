@@ -59,6 +59,9 @@ public:
     /// neighbour lists of the arrangement and keeps their saved copy.
     void layOut(Arrangement arrangement);
 
+    /// Hides every tile and every waiting tile.
+    void clear();
+
     /// Rebuilds every neighbour list from its saved copy with the tiles that are visible now, so that what touches on
     /// the screen can be clicked, and nothing else.
     void rebuildNeighbours();
@@ -103,7 +106,6 @@ public:
     std::array<BoxControl, tileCount + 1> Tiles;
     std::array<BoxControl, columns + 1> TopDrop; ///< waiting tiles over columns 1 to 8; 0 is the hidden template
     SlidingPanel Picture2;
-    bool locked = false; ///< repainting of `Picture1` is stopped while letters are rewritten
 
 private:
     static constexpr std::size_t index(int number) { return static_cast<std::size_t>(number); }

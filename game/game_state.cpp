@@ -24,7 +24,6 @@ void GameState::resetForNewGame()
     redTilesOnBoard = 0;
     redTilesUsed = 0;
     wordsMade = 0;
-    wordLengthCounts.fill(0);
     hintsUsed = 0;
     tickCount = 0;
     pressure = 0;

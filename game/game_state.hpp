@@ -4,7 +4,6 @@
 #include "controls/words_grid.hpp"
 #include "scores/statistics.hpp"
 
-#include <array>
 #include <cstdint>
 #include <string>
 
@@ -37,12 +36,11 @@ struct GameState {
     bool computerTurnInProgress = false; ///< set for the whole of the computer's turn
 
     // Counted per game
-    Statistics statistics;
+    Statistics statistics; ///< also the word-length counts
     std::int16_t bonusTilesOnBoard = 0;
     std::int16_t redTilesOnBoard = 0;
     std::int16_t redTilesUsed = 0;
     std::int16_t wordsMade = 0;
-    std::array<std::int16_t, 6> wordLengthCounts{}; ///< lengths 2 to 5, where 5 stands for 5 and more
     std::int16_t hintsUsed = 0;
     std::int16_t tickCount = 0;
     std::int32_t pressure = 0; ///< as the last red tick computed it

@@ -44,7 +44,7 @@ void TileRemoval::moveColumnDown(int row, int col)
     if (lettersAbove && !options_.Option11.Value)
         animateColumn(first, row, col);
 
-    screen_.lockBoardUpdates(true);
+    const BoardLock lock(screen_);
     for (int r = row; r > first; --r) {
         BoxControl& destination = board_.tile(board_.Grid(r, col));
         const BoxControl& source = board_.tile(board_.Grid(r - 1, col));
@@ -55,7 +55,6 @@ void TileRemoval::moveColumnDown(int row, int col)
         destination.Visible(true);
     }
     emptyCell(board_.tile(board_.Grid(std::min(first, row), col)));
-    screen_.lockBoardUpdates(false);
 }
 
 /// Shows the letters of the rows from `firstRow` to the one above `row` sliding down by one cell.

@@ -28,7 +28,7 @@ EnterResult WordEntry::enterWord()
         sounds_.play(cue::longWord);
     state_.YourScore.Caption = std::to_string(numberOf(state_.YourScore.Caption) + score.score);
     awardBonusFor(word.size());
-    countWord(word.size());
+    ++state_.wordsMade;
     state_.statistics.recordWord(word, Statistics::playerBase);
     board_.rebuildNeighbours();
     selection_.clear();
@@ -87,12 +87,6 @@ void WordEntry::awardBonusTile(int multiplier)
     board_.tile(number).MaskColor(static_cast<Colour>(multiplier));
     look_.showNormal(board_.tile(number));
     ++state_.bonusTilesOnBoard;
-}
-
-void WordEntry::countWord(std::size_t wordLength)
-{
-    ++state_.wordLengthCounts[std::min<std::size_t>(wordLength, 5)];
-    ++state_.wordsMade;
 }
 
 void WordEntry::addToWordsMade(const std::string& word, int score)

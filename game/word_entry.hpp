@@ -48,7 +48,6 @@ private:
     [[nodiscard]] bool isAccepted(const std::string& word) const;
     void defuseRedTiles();
     void awardBonusFor(std::size_t wordLength);
-    void countWord(std::size_t wordLength);
     void addToWordsMade(const std::string& word, int score);
 
     GameState& state_;

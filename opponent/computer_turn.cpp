@@ -12,21 +12,21 @@ void ComputerTurn::take()
     GameState& state = game_.state;
     if (state.computerTurnInProgress)
         return;
-    game_.ports.screen.setBusyPointer(true);
-    begin();
-    const CandidateList& candidates = search_.sweep(snapshotOf(game_.board), game_.dictionary.words);
+    {
+        const BusyPointer busy(game_.ports.screen);
+        begin();
+        search_.sweep(snapshotOf(game_.board), game_.dictionary.words);
+    }
+    const CandidateList& candidates = search_.candidates();
     if (candidates.count() < 1) {
         state.Picture1.Enabled = true;
         state.EnterWord.Visible = true;
-        game_.ports.screen.setBusyPointer(false);
         game_.ports.status.show("Computer has no move to make!");
         end();
         return;
     }
 
-    const int position = choosePosition(candidates);
-    game_.ports.screen.setBusyPointer(false);
-    showSelected(candidates, position);
+    showSelected(candidates, choosePosition(candidates));
     state.EnterWord.Visible = true;
     game_.ports.status.Warn = false;
     game_.ports.status.write("Press any key to continue");

@@ -25,9 +25,11 @@ void Hints::getHint()
     if (state.computerTurnInProgress || !pay())
         return;
 
-    game_.ports.screen.setBusyPointer(true);
-    const CandidateList& candidates = search_.sweep(snapshotOf(game_.board), game_.dictionary.words);
-    game_.ports.screen.setBusyPointer(false);
+    {
+        const BusyPointer busy(game_.ports.screen);
+        search_.sweep(snapshotOf(game_.board), game_.dictionary.words);
+    }
+    const CandidateList& candidates = search_.candidates();
     if (candidates.count() == 0) {
         game_.ports.status.show("There are no valid hints"); // the pressure waits for the next word
         return;

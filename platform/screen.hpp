@@ -17,10 +17,10 @@ public:
     /// drop-animation delay, 0 or more; 0 does not wait).
     virtual void animationStep(int rounds) = 0;
 
-    /// Switches between the busy pointer (arrow with hourglass) and the normal one.
+    /// Must not throw. Switches between the busy pointer (arrow with hourglass) and the normal one.
     virtual void setBusyPointer(bool busy) = 0;
 
-    /// Stops and releases repainting of the board panel `Picture1`. A single lock is held at a time.
+    /// Must not throw. Stops and releases repainting of the board panel `Picture1`. A single lock is held at a time.
     virtual void lockBoardUpdates(bool locked) = 0;
 
     /// Lets events run until a key or a mouse button is pressed; that input is used up.
@@ -35,6 +35,19 @@ public:
     ~BusyPointer() { screen_.setBusyPointer(false); }
     BusyPointer(const BusyPointer&) = delete;
     BusyPointer& operator=(const BusyPointer&) = delete;
+
+private:
+    Screen& screen_;
+};
+
+/// Holds the lock of the board's repainting for the length of a scope.
+class BoardLock
+{
+public:
+    explicit BoardLock(Screen& screen) : screen_(screen) { screen_.lockBoardUpdates(true); }
+    ~BoardLock() { screen_.lockBoardUpdates(false); }
+    BoardLock(const BoardLock&) = delete;
+    BoardLock& operator=(const BoardLock&) = delete;
 
 private:
     Screen& screen_;

@@ -66,7 +66,7 @@ std::vector<std::string> bestTen(std::vector<std::string> lines)
     return lines;
 }
 
-bool writeScoreLines(const std::string& path, const std::vector<std::string>& lines)
+void writeScoreLines(const std::string& path, const std::vector<std::string>& lines)
 {
     std::vector<std::string> ciphers;
     ciphers.reserve(lines.size());
@@ -74,9 +74,8 @@ bool writeScoreLines(const std::string& path, const std::vector<std::string>& li
         ciphers.push_back(encipher(line, scoreFileKey));
     try {
         replaceLines(path, ciphers);
-        return true;
     } catch (const FileError&) {
-        return false;
+        return; // passed over in silence
     }
 }
 
@@ -115,19 +114,19 @@ int ScoreFile::lowest()
     return scoreOf(load().front());
 }
 
-bool ScoreFile::record(int score, const std::string& name)
+std::vector<std::string> ScoreFile::record(int score, const std::string& name)
 {
     const FileLock lock(path_);
     const auto readable = readScoreLines(path_);
-    if (!readable)
-        return false; // the scores in it are not to be written over unseen
-    std::vector<std::string> list = bestTen(*readable);
+    std::vector<std::string> list = bestTen(readable.value_or(std::vector<std::string>{}));
     const std::string line = scoreLine(score, name);
     if (scoreOf(list.front()) >= scoreOf(line))
-        return false;
+        return list;
     list.erase(list.begin());
     list.insert(std::upper_bound(list.begin(), list.end(), line), line);
-    return writeScoreLines(path_, list);
+    if (readable) // scores that cannot be read are not to be written over unseen
+        writeScoreLines(path_, list);
+    return list;
 }
 
 std::string scoreLine(int score, const std::string& name)

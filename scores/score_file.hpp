@@ -34,8 +34,9 @@ public:
 
     /// Puts the line of this score and name into the file in place of the lowest one. The list is read again under a
     /// lock, so that two running games do not undo each other; where another game has meanwhile raised the bar to the
-    /// score or above it, nothing is written. True when the line stands in the file.
-    bool record(int score, const std::string& name);
+    /// score or above it, nothing changes. The list as it stands then, with the new line also where the file could not
+    /// be written; a file that cannot be read is left alone.
+    std::vector<std::string> record(int score, const std::string& name);
 
     [[nodiscard]] const std::string& path() const { return path_; }
 

@@ -1,5 +1,7 @@
 #include "scores/score_form.hpp"
 
+#include <algorithm>
+
 namespace lexigrove
 {
 
@@ -23,13 +25,12 @@ void ScoreForm::activate()
 
     const std::vector<std::string> list = scores_.load();
     fillList(list);
-    const int score = numberOf(requestCode_);
+    const int score = std::min(numberOf(requestCode_), ScoreFile::highestScore);
     if (isFinalScore && scoreOf(list.front()) < score) {
         std::string name;
         while (name.empty())
             name = dialogs_.input("LexiGrove Top 10 List", "You have made TOP 10 list, Enter your name", "");
-        scores_.record(score, name);
-        fillList(scores_.load());
+        fillList(scores_.record(score, name));
     }
 }
 

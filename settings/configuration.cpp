@@ -29,9 +29,13 @@ std::string_view trimmed(std::string_view text)
     return text.substr(first, text.find_last_not_of(" \t") - first + 1);
 }
 
+/// A number may hold blanks anywhere and a fraction, which is cut off.
 std::int16_t wholeNumber(std::string text)
 {
-    std::erase(text, ' '); // a number may be typed with blanks anywhere
+    std::erase_if(text, [](char c) { return c == ' ' || c == '\t'; });
+    if (const std::size_t point = text.find('.');
+        point != std::string::npos && text.find_first_not_of("0123456789", point + 1) == std::string::npos)
+        text.erase(point);
     if (text.starts_with('+'))
         text.erase(0, 1);
     std::int16_t number = 0;
@@ -154,6 +158,8 @@ void Configuration::setDefaults()
 {
     context_.dictionary.fileTable = {"UsrDict.txt", "SysDict1.txt", "SysDict2.txt", "SysDict3.txt"};
     OptionsForm& options = context_.options;
+    options.UsrDictName.Text = context_.dictionary.fileTable[0];
+    options.UsrDictName.ToolTipText.clear();
     options.enableUserDictionary(false);
     for (Choice* choice : {&options.Option4, &options.Option7, &options.Option11, &options.s7x8})
         options.select(*choice);

@@ -45,7 +45,18 @@ bool isHostCharacter(char c)
 
 bool isPort(std::string_view text)
 {
-    return !text.empty() && text.size() <= 5 && std::all_of(text.begin(), text.end(), isDigit);
+    if (text.empty() || text.size() > 5 || !std::all_of(text.begin(), text.end(), isDigit))
+        return false;
+    const int port = std::stoi(std::string(text));
+    return port >= 1 && port <= 65'535;
+}
+
+/// Letters, digits, "-" and "."; it begins and ends with a letter or digit, and no label is empty.
+bool isHost(std::string_view text)
+{
+    const auto isEdge = [](char c) { return c != '-' && c != '.'; };
+    return !text.empty() && std::all_of(text.begin(), text.end(), isHostCharacter) && isEdge(text.front()) &&
+           isEdge(text.back()) && text.find("..") == std::string_view::npos;
 }
 
 } // namespace
@@ -91,7 +102,7 @@ bool isServiceAddress(std::string_view text)
     if (colon != std::string_view::npos && !isPort(text.substr(colon + 1)))
         return false;
     const std::string_view host = text.substr(0, colon);
-    if (host.empty() || !std::all_of(host.begin(), host.end(), isHostCharacter))
+    if (!isHost(host))
         return false;
     return !plain || host == "localhost" || host == "127.0.0.1";
 }

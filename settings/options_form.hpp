@@ -27,7 +27,7 @@ struct OptionsContext {
 
 /// The options dialog `Form7`. Its controls hold the stored options; the rest of the program reads them here.
 ///
-/// A front end shows the frames in the order of `frames()`, calls `select` when a choice is selected by any means, and
+/// A front end shows the frames as they are declared below, calls `select` when a choice is selected by any means, and
 /// `mouseReleased` when the mouse button is released over it: handlers run on that release only. A choice made with the
 /// keyboard alone counts when a game starts (`takeChoices`).
 class OptionsForm

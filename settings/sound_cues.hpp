@@ -33,7 +33,8 @@ public:
     /// Sends the command that plays a file of the program folder; nothing while sound is off.
     void play(std::string_view file);
 
-    /// Plays a file whatever the flag says, which then stands as before: a click in the hidden file list `File1`.
+    /// Plays a file whatever the flag says, which then stands as before: what a click in the hidden file list
+    /// `File1` does, for a front end that has such a list.
     void playForced(std::string_view file);
 
     [[nodiscard]] bool isOn() const { return on_; }

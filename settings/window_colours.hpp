@@ -24,6 +24,7 @@ struct WindowColours {
     Colour cardSelectionText;
 
     Colour accent;     ///< frame of the word being built, its score, the primary button; reads on ground and card
+                       ///< where any colour can
     Colour accentText; ///< on the accent
 
     Colour button;     ///< the quiet buttons and text boxes

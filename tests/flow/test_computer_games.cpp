@@ -133,7 +133,7 @@ TEST(ComputerGames, StrategiesChooseAsTheySay)
     EXPECT_EQ(computersWord(&OptionsForm::Option12, "ZZZ\r\n"), "Computer has no move to make!");
 }
 
-/// Guards against a second right click, a hint or a menu entry that starts a turn within the turn.
+/// Guards against a wrong price, a list whose rows lose their paths when sorted, and a path that stays on the board.
 TEST(Hints, APriceAListAndAWordTaken)
 {
     PlayedGame game("AT\r\nCAT\r\nTEE\r\n");

@@ -15,6 +15,14 @@ int emptyTopCells(const Board& board)
     return count;
 }
 
+bool differByOneAtMost(const std::map<std::string, int>& before, const std::map<std::string, int>& after)
+{
+    int lost = 0;
+    for (const auto& [letter, count] : before)
+        lost += std::abs(count - (after.contains(letter) ? after.at(letter) : 0));
+    return lost <= 1;
+}
+
 /// Drops waiting letters until no column with room has one over it.
 void dropAll(PlayedGame& played)
 {
@@ -35,6 +43,8 @@ void dropAll(PlayedGame& played)
 int playToTheEnd(PlayedGame& played, Arrangement arrangement, std::mt19937& random)
 {
     played.frontEnd.timeOfDay = 1000 + static_cast<double>(random() % 80'000);
+    played.frontEnd.onConfirm = [](const std::string&) { return false; }; // a lost game is not followed by another
+    played.frontEnd.onInput = [](const std::string&) { return "Ada"; };
     played.start(arrangement);
     auto letters = lettersInPlay(played.flow.game);
     int total = 0;
@@ -77,6 +87,14 @@ int playToTheEnd(PlayedGame& played, Arrangement arrangement, std::mt19937& rand
 
         for (int i = 0; i < 400 && words % 3 == 0; ++i)
             played.flow.redTimerTick();
+        if (words % 4 == 0) {
+            const auto beforePush = lettersInPlay(played.flow.game);
+            played.flow.pushTimerTick();
+            if (played.flow.ended())
+                return words;
+            letters = lettersInPlay(played.flow.game);
+            EXPECT_TRUE(differByOneAtMost(beforePush, letters)) << "a push takes the bottom letter alone";
+        }
         expectSoundBoard(played.flow.game);
     }
 }

@@ -57,7 +57,7 @@ TEST(WholeGame, ALossOffersTheScoreAndAnotherGame)
         EXPECT_EQ(played.state().WordsMade.Rows(), 1);
         EXPECT_EQ(played.state().statistics.number(1), 0);
         EXPECT_EQ(played.state().redTilesOnBoard, 0);
-        EXPECT_FALSE(played.state().redTileHold);
+        EXPECT_TRUE(played.state().redTileHold) << "no pressure before the first word";
         EXPECT_EQ(played.flow.dictionary.redThreshold(), 500) << "starts from its table again";
 
         prepareLoss(played, arrangement);
@@ -130,7 +130,6 @@ TEST(WholeGame, APresetBoardIsPlayedOnceAndNotRecorded)
     played.flow.startGame();
     EXPECT_EQ(played.flow.options.settings.presetLetters, "x");
     EXPECT_EQ(played.flow.Dc1.currentValue(), 600);
-    const std::string first = played.board().letter(1) + played.board().letter(2) + played.board().letter(3);
     played.flow.startGame();
     EXPECT_FALSE(played.board().letter(2).empty()) << "the mark of the game before is not dealt";
 }
@@ -167,6 +166,17 @@ TEST(WholeGame, LeavingInTheMiddle)
         played.frontEnd.onConfirm = leave;
         played.flow.pushTimerTick();
         expectLeft(played, "a question");
+        EXPECT_EQ(played.frontEnd.count("window top ten 22"), 1);
+    }
+    {
+        PlayedGame played(words);
+        played.flow.options.select(played.flow.options.Option15);
+        prepareLoss(played, Arrangement::Square);
+        played.frontEnd.onConfirm = [](const std::string&) { return true; };
+        played.frontEnd.onInput = [](const std::string&) { return "Ada"; };
+        played.frontEnd.onScores = [](ScoreForm&) { throw Leaving{}; };
+        played.flow.menuNewGame();
+        expectLeft(played, "the top ten of a new game");
         EXPECT_EQ(played.frontEnd.count("window top ten 22"), 1);
     }
     {
@@ -228,6 +238,19 @@ TEST(WholeGame, TheClockEndsAGameAgainstTheComputerOnce)
     EXPECT_EQ(played.frontEnd.count("status The computer won by 7 points"), 1);
     EXPECT_EQ(played.flow.Dc1.currentValue(), GameFlow::gameSeconds);
     EXPECT_TRUE(played.flow.Dc1.running());
+
+    // Between games, and in a solo game from its first moment, the clock shows the time of day (12:00).
+    played.flow.clockTimerTick();
+    const auto shown = [&] { return played.flow.Dc1.shownDigit(0) * 10 + played.flow.Dc1.shownDigit(1); };
+    EXPECT_EQ(shown(), 9);
+    played.frontEnd.onOptions = [&](OptionsForm& form) {
+        EXPECT_EQ(shown(), 12);
+        form.Check1.Value = false;
+        form.pressStart();
+    };
+    played.flow.menuNewGame();
+    EXPECT_EQ(shown(), 12);
+    EXPECT_TRUE(played.flow.Dc1.lit(Dc::upperDot)) << "the countdown stopped at an odd second";
 }
 
 TEST(WholeGame, ALetterSwapCostsTenPoints)

@@ -65,6 +65,7 @@ TEST(RedTiles, HoldPauseAndTheComputerStopBothTimers)
         played.flow.pushTimerTick();
         EXPECT_EQ(state.tickCount, 0);
         EXPECT_EQ(played.board().maskcolor(3), 2U);
+        EXPECT_EQ(played.board().letter(3), letter);
     };
     state.redTileHold = true;
     nothingHappens();

@@ -163,6 +163,7 @@ TEST_F(ConfigurationTest, FaultAtAnyLine)
     damaged.emplace_back(3, with(3, "99999", changed));
     damaged.emplace_back(9, with(9, "1e9", changed));
     damaged.emplace_back(20, with(20, "", changed));
+    damaged.emplace_back(12, with(5, "mine.txt", with(10, "True", with(12, "garbage", changed))));
 
     for (const auto& [fault, file] : damaged) {
         SCOPED_TRACE("fault at line " + std::to_string(fault));
