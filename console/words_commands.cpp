@@ -184,7 +184,7 @@ std::vector<Command> wordsCommands()
         command("add_word", Needs::Game, restArgument, maintain<&DictionaryMaintenance::addWord>),
         command("remove_word", Needs::Game, restArgument, maintain<&DictionaryMaintenance::removeWord>),
         command("show_dictionary", Needs::Game, showDictionary),
-        command("export", Needs::Nothing, exportWords),
+        command("export", Needs::Play, exportWords),
         command("encipher", Needs::Nothing, cipherArguments, encipherText),
         command("decipher", Needs::Nothing, cipherArguments, decipherText),
         command("scores", Needs::Nothing, scores),

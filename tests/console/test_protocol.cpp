@@ -114,9 +114,9 @@ TEST(ConsoleProtocol, EveryCommandStandsAnyArguments)
                                      " =", " A\\", " 1 2 3 4 5 6", " \xFF\\t"};
     const CommandTable table;
     for (const Command& command : table.all()) {
+        ConsoleRun run;
         for (const char* const start : {"name", "new_game"}) {
             for (const char* const argument : arguments) {
-                ConsoleRun run;
                 const Output output = run.play({start, "4 " + std::string(command.name) + argument, "5 quit"});
                 ASSERT_GE(output.answers.size(), 2U) << command.name << argument;
                 EXPECT_EQ(output.answers[1].id, "4") << command.name << argument;
