@@ -91,11 +91,6 @@ void GameFlow::performOtherInGame(Action action)
         performOther(action);
 }
 
-void GameFlow::asInput(const std::function<void()>& action)
-{
-    perform(action);
-}
-
 // ---- The program's course
 
 void GameFlow::startUp()
