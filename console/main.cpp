@@ -6,6 +6,7 @@
 #include <clocale>
 #include <exception>
 #include <iostream>
+#include <unistd.h>
 
 namespace
 {
@@ -15,6 +16,10 @@ constexpr int badOptionStatus = 2;
 int play(const lexigrove::CommandLine& options)
 {
     const std::string folder = lexigrove::programFolder(lexigrove::programFolderRequest(options.folder));
+    if (isatty(STDIN_FILENO) != 0) {
+        std::cerr << "LexiGrove " << lexigrove::gameVersion()
+                  << ": \"new_game\" starts a game, \"show\" shows it, \"list_commands\" lists the commands.\n";
+    }
     lexigrove::Console console(folder, options.timeOfDay, std::cin, std::cout);
     console.run();
     return 0;

@@ -286,7 +286,7 @@ TEST(ConsoleCommands, FilesOfTheFolder)
                                                                     "meanings=2\nscheme=Blue.sch\npreset="},
                            {"save_config", ""},
                        });
-    EXPECT_NE(run.folder.read("Lexigrove.cfg").find("\r\nBlue.sch\r\n4\r\n"), std::string::npos);
+    EXPECT_NE(run.folder.read("Lexigrove.cfg").find(" 12:34:00\r\nBlue.sch\r\n4\r\n"), std::string::npos);
     std::string saved = run.folder.read("Lexigrove.cfg");
     run.folder.write("Lexigrove.cfg", saved.replace(saved.find("Blue.sch"), 8, "Reed.sch"));
     const Output output = run.play({"options animation=off", "load_config", "options", "scores", "top10 -1", "NewGame",
