@@ -14,7 +14,6 @@
 #include "settings/configuration.hpp"
 #include "settings/meaning_services.hpp"
 
-#include <concepts>
 #include <functional>
 #include <string>
 
@@ -151,17 +150,15 @@ public:
     Configuration configuration;
 
 private:
-    template <std::invocable Action>
-    void perform(Action action);
-    template <std::invocable Action>
-    void performInGame(Action action);
-    template <std::invocable Action>
-    void performOther(Action action);
-    template <std::invocable Action>
-    void performOtherInGame(Action action);
+    using Action = std::function<void()>;
+    void perform(const Action& action);
+    void performInGame(const Action& action);
+    void performOther(const Action& action);
+    void performOtherInGame(const Action& action);
 
     void setUpClock();
     void beginGame();
+    void readDictionary();
     void startClock();
     void showWallClock();
     void clearGame();
