@@ -71,6 +71,7 @@ public:
         QPushButton* const AboutOk = newButton("AboutOk", form.AboutOk.Caption);
         AboutOk->setProperty("primary", true);
         AboutOk->setDefault(true);
+        AboutOk->setMinimumWidth(14 * Theme::grid);
         connect(AboutOk, &QPushButton::clicked, this, [this] { accept(); });
 
         auto* const areas = new QHBoxLayout;

@@ -37,6 +37,7 @@ BoardView::BoardView(const GameFlow& flow, const Theme& theme, QWidget* parent)
     setObjectName("Picture1");
     setAccessibleName(tr("Board"));
     setMouseTracking(true);
+    setFocusPolicy(Qt::StrongFocus); // keys that it leaves go to the window
     connect(&theme, &Theme::changed, this, [this] { update(); });
 }
 

@@ -48,20 +48,32 @@ public:
     [[nodiscard]] double border() const { return border_; }
     [[nodiscard]] QRectF inner() const { return surface_.adjusted(border_, border_, -border_, -border_); }
 
+    /// A line with square ends.
     [[nodiscard]] QRectF line(const FrameLine& line) const
     {
         const double thickness = length(line.thickness);
-        const QPointF origin = inner().topLeft();
-        const double left = line.from.x * scale_;
-        const double top = line.from.y * scale_;
+        const QRectF room = inner();
+        const QPointF from = room.topLeft() + QPointF(line.from.x, line.from.y) * scale_;
+        const QPointF to = room.topLeft() + QPointF(line.to.x, line.to.y) * scale_;
+        const double half = line.thickness * unitsPerPixel * scale_ / 2;
         if (line.from.y == line.to.y)
-            return {origin.x() + left, origin.y() + std::max(0.0, snap(top - thickness / 2)),
-                    (line.to.x - line.from.x) * scale_, thickness};
-        return {origin.x() + std::max(0.0, snap(left - thickness / 2)), origin.y() + top, thickness,
-                (line.to.y - line.from.y) * scale_};
+            return {from.x() - half, across(from.y(), half, thickness, room.top(), room.bottom()),
+                    to.x() - from.x() + 2 * half, thickness};
+        return {across(from.x(), half, thickness, room.left(), room.right()), from.y() - half, thickness,
+                to.y() - from.y() + 2 * half};
     }
 
 private:
+    /// Where a line begins, from its middle and half its exact thickness. One that ends less than half a pixel of the
+    /// design before the edge ends at the edge, at every scale.
+    [[nodiscard]] double across(double middle, double half, double thickness, double low, double high) const
+    {
+        const double halfPixel = unitsPerPixel * scale_ / 2;
+        if (high - (middle + half) < halfPixel)
+            return high - thickness;
+        return std::max(low, snap(middle - half));
+    }
+
     [[nodiscard]] QRectF snap(const QRectF& place) const
     {
         return {QPointF(snap(place.left()), snap(place.top())), QPointF(snap(place.right()), snap(place.bottom()))};

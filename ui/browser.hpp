@@ -2,16 +2,22 @@
 
 #include "ui/browser_rules.hpp"
 
+#include <QColor>
+#include <QString>
 #include <QStringList>
 #include <QUrl>
 #include <QWidget>
 #include <QtPlugin>
 
 #include <functional>
+#include <map>
 #include <memory>
 
 namespace lexigrove
 {
+
+/// Colours by the names that a page's style sheet knows them by, such as "--ground".
+using PageColours = std::map<QString, QColor>;
 
 /// A page of the web engine. Destroying it tears the page down and forgets everything that it left.
 class BrowserPage
@@ -26,6 +32,9 @@ public:
     [[nodiscard]] virtual QUrl address() const = 0;
     virtual void back() = 0;
     virtual void forward() = 0;
+
+    /// Gives the page, and those that come, the colours of the names that their style sheets use.
+    virtual void setColours(const PageColours& colours) = 0;
 };
 
 struct BrowserPageSetup {

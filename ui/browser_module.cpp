@@ -10,6 +10,8 @@
 #include <QWebEngineProfile>
 #include <QWebEngineQuotaRequest>
 #include <QWebEngineRegisterProtocolHandlerRequest>
+#include <QWebEngineScript>
+#include <QWebEngineScriptCollection>
 #include <QWebEngineSettings>
 #include <QWebEngineUrlRequestInfo>
 #include <QWebEngineUrlRequestInterceptor>
@@ -144,6 +146,19 @@ void setLimits(QWebEngineSettings& settings, bool scripts)
     settings.setUnknownUrlSchemePolicy(QWebEngineSettings::DisallowUnknownUrlSchemes);
 }
 
+/// What gives a page its colours. It runs apart from the page's own scripts, and also where those do not run.
+QWebEngineScript colouring(const PageColours& colours)
+{
+    QString source;
+    for (const auto& [name, colour] : colours)
+        source += QString("document.documentElement.style.setProperty('%1', '%2');").arg(name, colour.name());
+    QWebEngineScript script;
+    script.setInjectionPoint(QWebEngineScript::DocumentReady);
+    script.setWorldId(QWebEngineScript::ApplicationWorld);
+    script.setSourceCode(source);
+    return script;
+}
+
 /// One view with a profile of its own, which lives in memory only and ends with it.
 class EnginePage : public BrowserPage
 {
@@ -170,6 +185,14 @@ public:
     void back() override { page_.history()->back(); }
     void forward() override { page_.history()->forward(); }
 
+    void setColours(const PageColours& colours) override
+    {
+        const QWebEngineScript script = colouring(colours);
+        page_.scripts().clear();
+        page_.scripts().insert(script);
+        page_.runJavaScript(script.sourceCode(), script.worldId());
+    }
+
 private:
     RequestGuard guard_;
     QWebEngineProfile profile_;
@@ -181,7 +204,7 @@ private:
 
 BrowserEngine::BrowserEngine()
 {
-    QLoggingCategory::setFilterRules("qt.webenginecontext.*=false"); // a page of technical data in the terminal
+    QLoggingCategory::setFilterRules("qt.webenginecontext=false"); // a page of technical data in the terminal
     decideOnSandbox();
 }
 

@@ -71,6 +71,8 @@ void BrowserView::navigate(const QUrl& address)
         page_ = module->newPage({rules_, palette().color(QPalette::Window), tellLoaded});
         layout()->addWidget(page_->widget());
         setFocusProxy(page_->widget());
+        if (!colours_.empty())
+            page_->setColours(colours_);
     }
     page_->widget()->show();
     page_->navigate(address);
@@ -98,6 +100,13 @@ void BrowserView::forward()
 {
     if (page_)
         page_->forward();
+}
+
+void BrowserView::setPageColours(const PageColours& colours)
+{
+    colours_ = colours;
+    if (page_)
+        page_->setColours(colours);
 }
 
 void BrowserView::close()

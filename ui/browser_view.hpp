@@ -29,6 +29,9 @@ public:
     void back();
     void forward();
 
+    /// For a page whose style sheet knows colours by these names.
+    void setPageColours(const PageColours& colours);
+
     /// Tears the page down; the next `navigate` begins anew.
     void close();
 
@@ -45,6 +48,7 @@ private:
     QWidget* failure_;
     QLabel* reason_;
     QUrl wanted_;
+    PageColours colours_;
 };
 
 } // namespace lexigrove

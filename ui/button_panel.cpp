@@ -60,7 +60,6 @@ QPushButton* ButtonPanel::add(const PanelButton& description)
     button->setAccessibleName(description.text);
     button->setToolTip(description.toolTip);
     button->setFocusPolicy(Qt::TabFocus); // a click leaves the keyboard to the word
-    button->setMinimumWidth(1);
     connect(button, &QPushButton::clicked, this, [this, command = description.command] { emit triggered(command); });
     return button;
 }

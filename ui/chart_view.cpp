@@ -4,6 +4,7 @@
 #include "ui/text.hpp"
 #include "ui/theme.hpp"
 
+#include <QFontInfo>
 #include <QFontMetricsF>
 #include <QPainter>
 
@@ -18,12 +19,15 @@ namespace
 constexpr double zoom = 1.5;
 constexpr double unit = zoom / unitsPerPixel; ///< logical pixels
 constexpr int unitsPerPoint = 20;
+constexpr int substituteStretch = 87; ///< per cent: other sans-serif fonts run wider than the one the places are for
 
 QFont chartFontOf(const std::string& name, int pointSize)
 {
     QFont font(toQString(name));
     font.setStyleHint(name == chartFont ? QFont::Monospace : QFont::SansSerif);
     font.setPixelSize(static_cast<int>(std::lround(pointSize * unitsPerPoint * unit)));
+    if (name != chartFont && !QFontInfo(font).exactMatch())
+        font.setStretch(substituteStretch);
     return font;
 }
 

@@ -57,14 +57,14 @@ std::vector<PanelButton> panelButtons()
     const auto inGame = CommandTime::InGame;
     const auto inPlay = CommandTime::InPlay;
     return {
-        {&Flow::enterWord, "EnterWord", text("Enter Word"), text("Enter the selected word"), inPlay, 0, 2},
-        {&Flow::getHint, "Hintx", text("Get Hint"), text("Let computer give you hints"), inPlay, 0, 1},
-        {&Flow::checkSpelling, "CheckDict", text("Check"), text("Look the word up without entering it"), inPlay, 0, 1},
-        {&Flow::showMeaning, "Meaning", text("Meaning"), text("Get meaning of the word selected"), inPlay, 1, 1},
-        {&Flow::addWord, "AddWord", text("Add Word"), text("Add or remove words of the dictionary"), inPlay, 1, 1},
-        {&Flow::pause, "Pause", text("Pause"), text("Stop the clock and cover the board"), inGame, 1, 1},
+        {&Flow::enterWord, "EnterWord", text("Enter Word"), text("Enter the selected word"), inPlay, 0, 8},
+        {&Flow::getHint, "Hintx", text("Get Hint"), text("Let computer give you hints"), inPlay, 0, 4},
+        {&Flow::checkSpelling, "CheckDict", text("Check"), text("Look the word up without entering it"), inPlay, 0, 4},
+        {&Flow::showMeaning, "Meaning", text("Meaning"), text("Get meaning of the word selected"), inPlay, 1, 4},
+        {&Flow::addWord, "AddWord", text("Add Word"), text("Add or remove words of the dictionary"), inPlay, 1, 4},
+        {&Flow::pause, "Pause", text("Pause"), text("Stop the clock and cover the board"), inGame, 1, 4},
         {&Flow::soundButton, "SoundOnOff", text("Sound is on"), text("Switch the sound on or off"), CommandTime::Always,
-         1, 1},
+         1, 5},
     };
 }
 

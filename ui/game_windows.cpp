@@ -20,7 +20,7 @@ struct GameWindows::Members {
           meaning(host, browser),
           statistics(host),
           maintenance(host),
-          help(browser),
+          help(host.theme, browser),
           about(host)
     {
     }

@@ -11,11 +11,26 @@
 namespace lexigrove
 {
 
+namespace
+{
+
+/// The help page's own names for the colours of the windows.
+PageColours pageColours(const WindowColours& colours)
+{
+    return {
+        {"--ground", toQColor(colours.ground)},   {"--text", toQColor(colours.text)},
+        {"--quiet", toQColor(colours.quietText)}, {"--line", toQColor(colours.line)},
+        {"--card", toQColor(colours.card)},       {"--accent", toQColor(colours.accent)},
+    };
+}
+
+} // namespace
+
 /// The window `Form5` itself.
 class HelpView : public QWidget
 {
 public:
-    HelpView(BrowserLoader& loader, const HelpForm& form);
+    HelpView(const Theme& theme, BrowserLoader& loader, const HelpForm& form);
 
     /// Shows the window and the help page from its beginning.
     void bringToFront();
@@ -36,13 +51,16 @@ private:
     bool awaitsActivation_ = false; ///< the page of this showing is already on its way
 };
 
-HelpView::HelpView(BrowserLoader& loader, const HelpForm& form)
+HelpView::HelpView(const Theme& theme, BrowserLoader& loader, const HelpForm& form)
     : address_(QUrl::fromLocalFile(pathToQString(form.Tag))),
       WebBrowser1_(new BrowserView(loader, BrowserRules::forLocalPage(pathToQString(form.Tag)), this)),
       Command1_(newButton("Command1", form.Command1.Caption)),
       Command2_(newButton("Command2", form.Command2.Caption)),
       Command3_(newButton("Command3", form.Command3.Caption))
 {
+    const auto colourPage = [this, &theme] { WebBrowser1_->setPageColours(pageColours(theme.colours())); };
+    connect(&theme, &Theme::changed, this, colourPage);
+    colourPage();
     setObjectName("Form5");
     setWindowTitle(toQString(form.Caption));
     setAttribute(Qt::WA_QuitOnClose, false);
@@ -110,14 +128,14 @@ void HelpView::leaf(void (BrowserView::*direction)())
         (WebBrowser1_->*direction)();
 }
 
-QtHelpWindow::QtHelpWindow(BrowserLoader& loader) : loader_(loader) {}
+QtHelpWindow::QtHelpWindow(const Theme& theme, BrowserLoader& loader) : theme_(theme), loader_(loader) {}
 
 QtHelpWindow::~QtHelpWindow() = default;
 
 void QtHelpWindow::show(const HelpForm& form)
 {
     if (!window_)
-        window_ = std::make_unique<HelpView>(loader_, form);
+        window_ = std::make_unique<HelpView>(theme_, loader_, form);
     window_->bringToFront();
 }
 

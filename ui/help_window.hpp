@@ -2,6 +2,7 @@
 
 #include "flow/windows.hpp"
 #include "ui/browser.hpp"
+#include "ui/theme.hpp"
 
 #include <memory>
 
@@ -15,7 +16,7 @@ class HelpView;
 class QtHelpWindow : public HelpWindow
 {
 public:
-    explicit QtHelpWindow(BrowserLoader& loader);
+    QtHelpWindow(const Theme& theme, BrowserLoader& loader);
     ~QtHelpWindow() override;
     QtHelpWindow(const QtHelpWindow&) = delete;
     QtHelpWindow& operator=(const QtHelpWindow&) = delete;
@@ -23,6 +24,7 @@ public:
     void show(const HelpForm& form) override;
 
 private:
+    const Theme& theme_;
     BrowserLoader& loader_;
     std::unique_ptr<HelpView> window_;
 };

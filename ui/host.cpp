@@ -1,14 +1,19 @@
 #include "ui/host.hpp"
 
 #include <QApplication>
+#include <QWidget>
 
 namespace lexigrove
 {
 
 QWidget* Host::dialogParent() const
 {
-    QWidget* const onTop = QApplication::activeModalWidget();
-    return onTop != nullptr ? onTop : mainWindow();
+    if (QWidget* const onTop = QApplication::activeModalWidget())
+        return onTop;
+    QWidget* const window = mainWindow();
+    if (window != nullptr)
+        window->show();
+    return window;
 }
 
 } // namespace lexigrove

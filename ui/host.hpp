@@ -31,7 +31,8 @@ public:
 
     void setView(ModelsView* view) { view_ = view; }
 
-    /// The parent for a dialog: the dialog that is open on top, else the main window, null before it exists.
+    /// The parent for a dialog that is about to be shown: the dialog that is open on top, else the main window (a
+    /// question of the start brings it up), null before it exists.
     [[nodiscard]] QWidget* dialogParent() const;
 
     /// The main window, null before it exists.

@@ -26,6 +26,7 @@ MainWindow::MainWindow(Host& host, GameFlow& flow, const StatusLine& status) : h
     column->addWidget(area_, 1);
     column->addWidget(status_);
     setCentralWidget(centre);
+    area_->board->setFocus();
     addMenus();
     connectArea();
 

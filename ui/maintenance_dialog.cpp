@@ -12,6 +12,7 @@
 #include <QLocale>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QStyledItemDelegate>
 #include <QVBoxLayout>
 
 #include <array>
@@ -23,6 +24,18 @@ namespace
 {
 
 using maintenance_text::ControlText;
+
+/// Rows with some air, all of one height.
+class WordDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const override
+    {
+        return {0, 3 * Theme::grid};
+    }
+};
 
 class MaintenanceView : public FormDialog
 {
@@ -42,11 +55,14 @@ public:
         auto* const side = new QVBoxLayout;
         side->setSpacing(Theme::gap);
         side->addWidget(newEditFrame());
+        auto* const buttons = new QVBoxLayout;
+        buttons->setSpacing(Theme::spacing);
         for (QPushButton* const button :
              {newButton(maintenance_text::Command1, &DictionaryMaintenance::showDictionary),
               newButton(maintenance_text::Command2, &DictionaryMaintenance::spellCheck),
               newButton(maintenance_text::plainList, &DictionaryMaintenance::writePlainList)})
-            side->addWidget(button);
+            buttons->addWidget(button);
+        side->addLayout(buttons);
         side->addStretch();
         side->addWidget(newExitButton());
         areas->addLayout(side);
@@ -119,6 +135,7 @@ private:
         List1_->setObjectName("List1");
         List1_->setModel(&words_);
         List1_->setUniformItemSizes(true);
+        List1_->setItemDelegate(new WordDelegate(List1_));
         List1_->setEditTriggers(QAbstractItemView::NoEditTriggers);
         connect(List1_, &QListView::clicked, this, [this](const QModelIndex& index) { pick(index); });
         connect(List1_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,

@@ -105,11 +105,10 @@ public:
 
         auto* const columns = new QHBoxLayout;
         columns->setSpacing(Theme::gap);
+        columns->addLayout(newFrames({newFrame(form.SoundFrame), newFrame(form.ArrangementFrame),
+                                      newFrame(form.DropFrame), newFrame(form.MeaningsFrame)}));
         columns->addLayout(
-            newFrames({newFrame(form.SoundFrame, Qt::Horizontal), newFrame(form.ArrangementFrame, Qt::Horizontal),
-                       newFrame(form.DropFrame, Qt::Horizontal), newFrame(form.MeaningsFrame, Qt::Vertical)}));
-        columns->addLayout(newFrames(
-            {newSchemeFrame(), newDictionaryFrame(), newComputerFrame(), newFrame(form.StrategyFrame, Qt::Vertical)}));
+            newFrames({newSchemeFrame(), newDictionaryFrame(), newComputerFrame(), newFrame(form.StrategyFrame)}));
 
         auto* const column = newColumn();
         column->addLayout(columns);
@@ -167,43 +166,45 @@ private:
         return button;
     }
 
-    QGroupBox* newFrame(ChoiceFrame& frame, Qt::Orientation orientation)
+    QGroupBox* newFrame(ChoiceFrame& frame)
     {
         auto* const box = new QGroupBox(toQString(frame.Caption), this);
         box->setToolTip(toQString(frame.ToolTipText));
-        auto* const choices =
-            new QBoxLayout(orientation == Qt::Horizontal ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom, box);
+        auto* const choices = new QVBoxLayout(box);
         choices->setSpacing(Theme::spacing);
         for (Choice* const choice : frame.choices)
-            choices->addWidget(newChoice<QRadioButton>(*choice), 1);
+            choices->addWidget(newChoice<QRadioButton>(*choice));
         shown_.emplace_back([box, &frame] { box->setEnabled(frame.Enabled); });
         return box;
     }
 
     QGroupBox* newSchemeFrame()
     {
-        QGroupBox* const box = newFrame(form_.SchemeFrame, Qt::Vertical);
+        QGroupBox* const box = newFrame(form_.SchemeFrame);
+        box->layout()->addWidget(preview_); // above the box, whose list opens downwards
         box->layout()->addWidget(Combo1_);
-        box->layout()->addWidget(preview_);
         shown_.emplace_back(
             [this, box] { showColour(*box, QPalette::Window, host.theme.colour(form_.SchemeFrame.backColor)); });
         return box;
     }
 
+    /// The name of the player's own dictionary stands beside its choice, the last one.
     QGroupBox* newDictionaryFrame()
     {
-        QGroupBox* const box = newFrame(form_.DictionaryFrame, Qt::Vertical);
-        auto* const nameRow = new QHBoxLayout;
-        nameRow->setSpacing(Theme::spacing);
-        nameRow->addWidget(UsrDictName_, 1);
-        nameRow->addWidget(GetUserDictName_);
-        static_cast<QBoxLayout*>(box->layout())->addLayout(nameRow);
+        QGroupBox* const box = newFrame(form_.DictionaryFrame);
+        auto* const choices = static_cast<QBoxLayout*>(box->layout());
+        auto* const custom = new QHBoxLayout;
+        custom->setSpacing(Theme::spacing);
+        custom->addWidget(choices->takeAt(choices->count() - 1)->widget());
+        custom->addWidget(UsrDictName_, 1);
+        custom->addWidget(GetUserDictName_);
+        choices->addLayout(custom);
         return box;
     }
 
     QGroupBox* newComputerFrame()
     {
-        QGroupBox* const box = newFrame(form_.ComputerFrame, Qt::Vertical);
+        QGroupBox* const box = newFrame(form_.ComputerFrame);
         box->layout()->addWidget(newChoice<QCheckBox>(form_.Check1));
         return box;
     }

@@ -16,7 +16,7 @@ namespace
 
 constexpr int sideMinimum = 48 * Theme::grid;
 constexpr int sideMaximum = 80 * Theme::grid;
-constexpr double smallestCell = 34;
+constexpr double smallestCell = 40;
 constexpr double usualCell = 60;
 constexpr int topMargin = Theme::gap;
 

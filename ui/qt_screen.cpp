@@ -45,7 +45,8 @@ void QtScreen::yield()
 
 void QtScreen::animationStep(int rounds)
 {
-    yield();
+    host_.gate.checkpoint();
+    showAndRunEvents(); // every step is seen, also with a delay of 0, which only does not wait
     if (rounds <= 0)
         return;
     const auto now = SteadyClock::now();

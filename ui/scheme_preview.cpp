@@ -85,7 +85,9 @@ QIcon SchemePreview::icon(const ColourScheme& scheme, double devicePixelRatio)
         painter.fillRect(left, margin, side, side, toQColor(scheme.tileFace(multiplier)));
         left += side + 2;
     }
-    return QIcon(pixmap);
+    QIcon icon(pixmap);
+    icon.addPixmap(pixmap, QIcon::Selected); // a chosen row leaves the colours as they are
+    return icon;
 }
 
 } // namespace lexigrove

@@ -109,7 +109,6 @@ protected:
         AnotherGame_->setEnabled(form_.AnotherGame.Enabled);
         ExitProg_->setEnabled(form_.ExitProg.Enabled);
         CloseForm_->setEnabled(form_.CloseForm.Enabled);
-        (AnotherGame_->isEnabled() ? AnotherGame_ : CloseForm_)->setDefault(true);
         CloseForm_->setFocus();
     }
 

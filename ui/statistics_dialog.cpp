@@ -34,6 +34,7 @@ public:
 
         auto* const Exitx = newButton("Exitx", form.Exitx.Caption);
         Exitx->setDefault(true);
+        Exitx->setMinimumWidth(14 * Theme::grid);
         connect(Exitx, &QPushButton::clicked, this, [this] { closePressed(); });
 
         QVBoxLayout* const column = newColumn();

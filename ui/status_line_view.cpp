@@ -6,7 +6,7 @@
 #include <QFontMetrics>
 #include <QGridLayout>
 #include <QPainter>
-#include <QPainterPath>
+#include <QStyle>
 
 namespace lexigrove
 {
@@ -91,6 +91,7 @@ void StatusLineView::synchronise()
         full_ = onOneLine(shown_);
         elide();
     }
+    setLoud(status_.Warn || state_.computerTurnInProgress);
     if (status_.Warn == Warn->isHidden())
         Warn->setVisible(status_.Warn);
     if (state_.developerMode == Label4->isHidden())
@@ -98,6 +99,17 @@ void StatusLineView::synchronise()
     const QString description = toQString(state_.Label4.Caption);
     if (description != Label4->text())
         Label4->setText(description);
+}
+
+/// What the player has to know stands out from what the pointer happens to rest on.
+void StatusLineView::setLoud(bool loud)
+{
+    if (loud == loud_)
+        return;
+    loud_ = loud;
+    Label1->setProperty("quiet", !loud);
+    Label1->style()->unpolish(Label1);
+    Label1->style()->polish(Label1);
 }
 
 void StatusLineView::elide()

@@ -26,6 +26,7 @@ protected:
 
 private:
     void elide();
+    void setLoud(bool loud);
 
     const StatusLine& status_;
     const GameState& state_;
@@ -34,6 +35,7 @@ private:
     QLabel* Label1;
     QLabel* Label4;
     std::string shown_;
+    bool loud_ = false;
     QString full_; ///< the whole message, where the label shows only its beginning
 };
 

@@ -107,7 +107,7 @@ QString styleSheet(const WindowColours& colours)
 {
     QString sheet = QStringLiteral(R"(
 QPushButton { background: @button; color: @buttonText; border: 1px solid @line; border-radius: 6px;
-    padding: 6px 14px; min-height: 18px; }
+    padding: 6px 8px; min-height: 18px; }
 QPushButton:hover { background: @buttonHover; }
 QPushButton:pressed { background: @buttonPressed; }
 QPushButton:focus { border-color: @accent; }
@@ -117,6 +117,7 @@ QPushButton[primary="true"]:hover { background: @accentHover; }
 QPushButton[primary="true"]:pressed { background: @accentPressed; }
 QPushButton[primary="true"]:focus { border-color: @text; }
 QPushButton[primary="true"]:disabled { background: @strip; color: @disabled; border-color: @line; }
+QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }
 QMenuBar { background: @ground; color: @text; border-bottom: 1px solid @line; padding: 2px 8px; }
 QMenuBar::item { background: transparent; padding: 5px 10px; border-radius: 4px; }
 QMenuBar::item:selected { background: @selection; color: @selectionText; }
@@ -128,10 +129,38 @@ QMenu::separator { height: 1px; background: @line; margin: 4px 8px; }
 QToolTip { background: @card; color: @cardText; border: 1px solid @line; padding: 4px; }
 QFrame[card="true"] { background: @card; color: @cardText; border: 1px solid @line; border-radius: 6px; }
 QLabel[quiet="true"] { color: @quietText; }
+QLabel[quiet="true"]:disabled { color: @disabled; }
 QLineEdit, QListView, QListWidget, QPlainTextEdit { background: @card; color: @cardText; border: 1px solid @line;
     border-radius: 4px; padding: 3px; selection-background-color: @accent; selection-color: @accentText; }
 QLineEdit:focus, QListView:focus, QListWidget:focus { border-color: @accent; }
 QLineEdit:disabled { color: @disabled; background: @ground; }
+QGroupBox { border: 1px solid @line; border-radius: 6px; margin-top: 20px; padding: 4px 6px; }
+QGroupBox::title { subcontrol-origin: margin; subcontrol-position: top left; padding: 0 1px 4px 1px; color: @quietText; }
+QGroupBox::title:disabled { color: @disabled; }
+QRadioButton, QCheckBox { spacing: 7px; }
+QRadioButton::indicator, QCheckBox::indicator { width: 14px; height: 14px; border: 1px solid @quietText; background: @card; }
+QRadioButton::indicator { border-radius: 8px; }
+QCheckBox::indicator { border-radius: 4px; }
+QRadioButton::indicator:hover, QCheckBox::indicator:hover { border-color: @accent; }
+QRadioButton::indicator:focus, QCheckBox::indicator:focus { border-color: @accent; }
+QRadioButton::indicator:checked { background: qradialgradient(cx: 0.5, cy: 0.5, radius: 0.5, fx: 0.5, fy: 0.5,
+    stop: 0 @accent, stop: 0.5 @accent, stop: 0.6 @card, stop: 1 @card); }
+QCheckBox::indicator:checked { background: @accent; background-clip: content; padding: 3px; width: 8px; height: 8px;
+    border-radius: 3px; }
+QRadioButton::indicator:disabled, QCheckBox::indicator:disabled { border-color: @line; }
+QRadioButton::indicator:checked:disabled { background: qradialgradient(cx: 0.5, cy: 0.5, radius: 0.5, fx: 0.5, fy: 0.5,
+    stop: 0 @disabled, stop: 0.5 @disabled, stop: 0.6 @card, stop: 1 @card); }
+QRadioButton:focus, QCheckBox:focus { color: @accent; }
+QComboBox { combobox-popup: 0; color: @cardText; border: 1px solid @line; border-radius: 4px; padding: 4px 8px;
+    min-height: 18px; background: palette(base); }
+QComboBox:focus, QComboBox:on { border-color: @accent; }
+QComboBox::drop-down { border: none; width: 24px; }
+QComboBox::down-arrow { image: none; width: 0; height: 0; border-left: 4px solid transparent;
+    border-right: 4px solid transparent; border-top: 5px solid @quietText; }
+QComboBox QAbstractItemView { background: @card; color: @cardText; border: 1px solid @line; padding: 4px;
+    selection-background-color: @accent; selection-color: @accentText; outline: none; }
+QComboBox QAbstractItemView::item { min-height: 26px; padding-left: 2px; }
+QComboBox QAbstractItemView::item:selected { background: @accent; color: @accentText; border-radius: 4px; }
 QScrollBar:vertical { background: transparent; width: 10px; margin: 1px; }
 QScrollBar::handle:vertical { background: @line; border-radius: 4px; min-height: 24px; }
 QScrollBar::handle:vertical:hover { background: @quietText; }

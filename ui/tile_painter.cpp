@@ -21,7 +21,7 @@ constexpr double letterShare = 0.52;
 constexpr double smallShare = 0.21; ///< value and mark
 constexpr double marginShare = 0.09;
 constexpr double linkShare = 0.11;
-constexpr double linkReach = 0.20; ///< of a cell's distance, from the middle between two tiles to each end
+constexpr double linkReach = 0.14; ///< of the tiles' distance, from the middle between them to each end
 
 } // namespace
 
@@ -87,6 +87,7 @@ void TilePainter::paintSwapMark(QPainter& painter, const QRectF& place) const
 {
     const double width = std::max(2.0, place.width() * 0.07);
     painter.save();
+    painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(toQColor(theme_.colours().accent), width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
     painter.drawRect(place.adjusted(width / 2, width / 2, -width / 2, -width / 2));
     painter.restore();

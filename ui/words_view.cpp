@@ -19,7 +19,8 @@ namespace
 
 constexpr int textSize = 13;
 constexpr int shownRowsWanted = 8;
-constexpr int edge = 1; ///< of the card
+constexpr int edge = 1;   ///< of the card
+constexpr int corner = 4; ///< rows keep off the card's round corners
 
 int gridWidth()
 {
@@ -34,8 +35,8 @@ int gridWidth()
 WordsView::WordsView(const WordsGrid& grid, const Theme& theme, QWidget* parent)
     : QAbstractScrollArea(parent), grid_(grid), theme_(theme)
 {
-    setFrameShape(QFrame::NoFrame);
-    setViewportMargins(edge, edge, edge, edge);
+    setProperty("card", true);
+    setViewportMargins(edge, corner, edge, corner);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setFocusPolicy(Qt::StrongFocus);
     viewport()->setAutoFillBackground(false);
