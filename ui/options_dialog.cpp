@@ -12,6 +12,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QVBoxLayout>
@@ -57,11 +58,14 @@ protected:
     }
 };
 
-/// A combo box that tells when its list is closed.
+/// The combo box of the schemes: it tells when its list is closed, and paints its arrow in the colours of the windows.
 class SchemeBox : public QComboBox
 {
 public:
-    using QComboBox::QComboBox;
+    explicit SchemeBox(const Theme& theme) : theme_(theme)
+    {
+        setStyleSheet("QComboBox::drop-down { border: none; width: 24px; } QComboBox::down-arrow { image: none; }");
+    }
 
     std::function<void()> closed;
 
@@ -70,6 +74,20 @@ public:
         QComboBox::hidePopup();
         closed();
     }
+
+protected:
+    void paintEvent(QPaintEvent* event) override
+    {
+        QComboBox::paintEvent(event);
+        const QPointF middle(width() - 2.0 * Theme::grid, height() / 2.0);
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(QPen(toQColor(theme_.colours().cardQuietText), 1.5));
+        painter.drawPolyline(QPolygonF{middle + QPointF(-4, -2), middle + QPointF(0, 2), middle + QPointF(4, -2)});
+    }
+
+private:
+    const Theme& theme_;
 };
 
 /// The schemes of the list are looked at in passing: what cannot be read is told when it is chosen.
@@ -95,10 +113,10 @@ public:
     OptionsView(Host& gameHost, OptionsForm& form)
         : FormDialog(gameHost, "Form7", form.Caption),
           form_(form),
-          Combo1_(new SchemeBox(this)),
-          preview_(new SchemePreview(gameHost.theme, this)),
-          UsrDictName_(new QLineEdit(this)),
-          GetUserDictName_(new BoxButton(form.GetUserDictName, gameHost.theme, this))
+          Combo1_(new SchemeBox(gameHost.theme)),
+          preview_(new SchemePreview(gameHost.theme)),
+          UsrDictName_(new QLineEdit),
+          GetUserDictName_(new BoxButton(form.GetUserDictName, gameHost.theme))
     {
         setUpSchemeBox();
         setUpUserDictionary();
@@ -255,6 +273,7 @@ private:
         auto* const Exitx = newButton("Exitx", form_.Exitx.Caption, form_.Exitx.ToolTipText);
         Startx->setProperty("primary", true);
         Startx->setDefault(true);
+        Startx->setFocus();
         connect(Startx, &QPushButton::clicked, this, [this] { input([this] { form_.pressStart(); }); });
         connect(PSBoard, &QPushButton::clicked, this, [this] { input([this] { form_.presetBoard(); }); });
         connect(Exitx, &QPushButton::clicked, this, [this] { closePressed(); });

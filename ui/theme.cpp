@@ -154,12 +154,9 @@ QRadioButton:focus, QCheckBox:focus { color: @accent; }
 QComboBox { combobox-popup: 0; color: @cardText; border: 1px solid @line; border-radius: 4px; padding: 4px 8px;
     min-height: 18px; background: palette(base); }
 QComboBox:focus, QComboBox:on { border-color: @accent; }
-QComboBox::drop-down { border: none; width: 24px; }
-QComboBox::down-arrow { image: none; width: 0; height: 0; border-left: 4px solid transparent;
-    border-right: 4px solid transparent; border-top: 5px solid @quietText; }
 QComboBox QAbstractItemView { background: @card; color: @cardText; border: 1px solid @line; padding: 4px;
     selection-background-color: @accent; selection-color: @accentText; outline: none; }
-QComboBox QAbstractItemView::item { min-height: 26px; padding-left: 2px; }
+QComboBox QAbstractItemView::item { min-height: 26px; }
 QComboBox QAbstractItemView::item:selected { background: @accent; color: @accentText; border-radius: 4px; }
 QScrollBar:vertical { background: transparent; width: 10px; margin: 1px; }
 QScrollBar::handle:vertical { background: @line; border-radius: 4px; min-height: 24px; }
