@@ -13,6 +13,7 @@ using Events = std::vector<std::string>;
 void expectAnswers(ConsoleRun& run, const std::vector<std::pair<std::string, std::string>>& script)
 {
     std::vector<std::string> lines;
+    lines.reserve(script.size() + 1);
     for (const auto& [command, text] : script)
         lines.push_back(command);
     lines.emplace_back("quit");
