@@ -37,7 +37,7 @@ TEST(ConsoleQuestions, ALossAsksItsWayToTheNextGame)
     EXPECT_EQ(output.answers[4].events,
               (Events{"status A red tile was pushed out. Game over.", nameBox, nameBox, "top10 30", "top10 30",
                       "confirm Another game?", "confirm Another game?", "top10 -1", "top10 -1", "options", "options",
-                      "status Reading Dictionary..."}));
+                      "status Reading Dictionary...", "status "}));
     EXPECT_EQ(output.answers[5].text, "0");
     EXPECT_EQ(output.answers[6].text, "Lexigrove - Level 1");
     EXPECT_EQ(output.answers[7].text, "arrangement=Square\ndictionary=1\nuser_dictionary=UsrDict.txt\ncomputer=yes\n"
