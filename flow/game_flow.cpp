@@ -99,6 +99,7 @@ void GameFlow::startUp()
             Dc1.DigitHighlight(colours.card);
         }
         game.refreshLooks();
+        showWallClock(); // a theme leaves the digits dark until the next tick
     });
 }
 

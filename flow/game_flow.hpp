@@ -48,7 +48,8 @@ public:
     /// Shows the options dialog and starts a game with its choices.
     void openOptionsAndStart();
 
-    /// Starts a game with the choices as they stand, without the options dialog. Preset letters count for one game.
+    /// Starts a game with the choices as they stand, without the options dialog. Preset letters that a game was dealt
+    /// from already are the caller's to empty.
     void startGame();
 
     /// New Game from the menu, with its questions.
