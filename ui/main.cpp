@@ -1,5 +1,6 @@
 #include "platform/program_folder.hpp"
 #include "ui/front_end.hpp"
+#include "ui/game_icon.hpp"
 #include "ui/start_options.hpp"
 #include "ui/text.hpp"
 
@@ -53,6 +54,7 @@ int main(int argc, char** argv)
     QApplication::setApplicationName("lexigrove");
     QApplication::setApplicationVersion(LEXIGROVE_VERSION);
     QApplication::setDesktopFileName("lexigrove");
+    QApplication::setWindowIcon(gameIcon());
     try {
         return play(readStartOptions(QApplication::arguments()));
     } catch (const StartOptionError& error) {

@@ -1,0 +1,107 @@
+// Show Dictionary over a dictionary of level 3: from the click until the list stands painted, against a list widget
+// that is given the same words as items.
+//   bench_word_view [LIST]
+
+#include "bench/level_three.hpp"
+#include "flow/game_flow.hpp"
+#include "ui/maintenance_dialog.hpp"
+#include "ui/text.hpp"
+
+#include <QApplication>
+#include <QListView>
+#include <QListWidget>
+#include <QPushButton>
+#include <QTimer>
+
+using namespace lexigrove;
+
+namespace
+{
+
+constexpr double frame = 1000.0 / 60;
+
+/// No question is asked here.
+class NoQuestions : public Dialogs
+{
+public:
+    void message(const std::string& text) override { std::printf("%s\n", text.c_str()); }
+    bool confirm(const std::string&) override { return false; }
+    std::string input(const std::string&, const std::string&, const std::string&) override { return {}; }
+    std::string openFile(const OpenFileRequest&) override { return {}; }
+};
+
+class NoScreen : public Screen
+{
+public:
+    void yield() override {}
+    void animationStep(int) override {}
+    void setBusyPointer(bool) override {}
+    void lockBoardUpdates(bool) override {}
+    void waitForAnyInput() override {}
+};
+
+class NoonClock : public Clock
+{
+public:
+    [[nodiscard]] double secondsSinceMidnight() const override { return 43'200; }
+    [[nodiscard]] std::string shortDate() const override { return "1/1/2024"; }
+    [[nodiscard]] std::string shortTime() const override { return "12:00"; }
+};
+
+/// Runs in the open window: fills its list and a list widget of the same size by turns.
+void measure(const WordList& words)
+{
+    QWidget* const window = QApplication::activeModalWidget();
+    auto* const show = window->findChild<QPushButton*>("Command1");
+    auto* const List1 = window->findChild<QListView*>("List1");
+    QListWidget items;
+    items.setUniformItemSizes(true);
+    items.resize(List1->size());
+    items.show();
+    const bench::Medians medians = bench::measure(
+        15,
+        [&] {
+            show->click();
+            (void)List1->grab();
+        },
+        [&] {
+            items.clear();
+            QStringList texts;
+            for (int i = 1; i <= words.count(); ++i)
+                texts.append(toQString(words.entry(i)));
+            items.addItems(texts);
+            (void)items.grab();
+        });
+    std::printf("Words: %d\n", words.count());
+    bench::print("Show Dictionary until it is painted", "a list widget with items", medians, 0.2);
+    std::printf("A frame lasts %.1f ms: %s\n", frame, medians.subject < frame ? "under it" : "OVER it");
+}
+
+} // namespace
+
+int main(int argumentCount, char** arguments)
+{
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argumentCount, arguments);
+    const bench::BenchFolder folder(arguments[0]);
+    replaceFile(folder.prefix() + "L3Ascii.txt", bench::levelThreeList(argumentCount, arguments));
+
+    NoQuestions dialogs;
+    NoScreen screen;
+    const NoonClock clock;
+    StatusLine status;
+    Random random;
+    Dictionary dictionary(folder.prefix());
+    dictionary.applyChoice(3, {});
+    dictionary.read(dialogs, status, random, clock);
+    DictionaryMaintenance form(dictionary, dialogs, screen, clock);
+    Host host;
+    MaintenanceDialog dialog(host);
+    QTimer::singleShot(0, [&] {
+        measure(dictionary.words);
+        QApplication::activeModalWidget()->close();
+    });
+    dialog.show(form);
+    return 0;
+}
