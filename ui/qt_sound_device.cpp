@@ -19,9 +19,24 @@ namespace
 {
 
 constexpr std::string_view playCommand = "play ";
+constexpr auto soundThread = "sound";
 constexpr int longestSound = 2000; ///< milliseconds that the program's end waits for a sound
 constexpr int lookAgainAfter = 25; ///< milliseconds
 constexpr int threadEndsWithin = 3000;
+
+/// The toolkit complains aloud where a machine has no sound. In the sound's thread it does so in silence.
+QtMessageHandler& otherThreadsHandler()
+{
+    static QtMessageHandler handler = nullptr; // the toolkit takes a plain function, which cannot keep it
+    return handler;
+}
+
+void handleMessage(QtMsgType type, const QMessageLogContext& context, const QString& text)
+{
+    const bool ofSound = QThread::currentThread()->objectName() == soundThread;
+    if (!ofSound && otherThreadsHandler() != nullptr)
+        otherThreadsHandler()(type, context, text);
+}
 
 std::unique_ptr<SoundPlayer> loadPlayer()
 {
@@ -93,6 +108,9 @@ void QtSoundDevice::send(const std::string& command)
     if (file.isEmpty())
         return;
     if (!worker_) {
+        if (otherThreadsHandler() == nullptr)
+            otherThreadsHandler() = qInstallMessageHandler(handleMessage);
+        thread_.setObjectName(soundThread);
         worker_ = std::make_unique<SoundWorker>();
         worker_->moveToThread(&thread_);
         thread_.start();
