@@ -49,7 +49,6 @@ int main(int argc, char** argv)
         std::fputs(answer->c_str(), stdout);
         return EXIT_SUCCESS;
     }
-    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts); // for the web pages of help and meanings
     QApplication application(argc, argv);
     QApplication::setApplicationName("lexigrove");
     QApplication::setApplicationVersion(LEXIGROVE_VERSION);

@@ -166,6 +166,9 @@ bool MainWindow::typed(const QKeyEvent& event)
 
 void MainWindow::keyPressEvent(QKeyEvent* event)
 {
+    const Qt::KeyboardModifiers plain = Qt::ShiftModifier | Qt::KeypadModifier;
+    if ((event->modifiers() & ~plain) != Qt::NoModifier)
+        return QMainWindow::keyPressEvent(event);
     switch (event->key()) {
     case Qt::Key_F1:
         return run(&GameFlow::askDeveloperPassword);

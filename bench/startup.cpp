@@ -1,0 +1,190 @@
+// The start of the game's window against the start of an empty Qt main window: from the process's start to the first
+// painted frame, and the memory that each holds at rest (the game: with a dealt board and the words of level 2).
+//   bench_startup [FOLDER] [ROUNDS]
+// FOLDER holds the word lists and colour schemes; by default the build's own. Goals: at most twice the empty window.
+
+#include "ui/front_end.hpp"
+#include "ui/game_icon.hpp"
+
+#include <QApplication>
+#include <QMainWindow>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTimer>
+
+#include <algorithm>
+#include <cstdio>
+#include <fstream>
+#include <functional>
+#include <sstream>
+#include <string>
+#include <vector>
+
+using namespace lexigrove;
+
+namespace
+{
+
+constexpr int restingTime = 800; ///< milliseconds
+constexpr int patience = 20'000; ///< milliseconds
+
+// ---- In the child
+
+/// A line of /proc/self/smaps_rollup in kilobytes.
+long memory(const std::string& name)
+{
+    std::ifstream lines("/proc/self/smaps_rollup");
+    std::string line;
+    while (std::getline(lines, line)) {
+        if (line.starts_with(name + ":"))
+            return std::stol(line.substr(name.size() + 1));
+    }
+    return 0;
+}
+
+/// Tells the parent when the window has been painted for the first time, then goes on, and tells the memory at rest.
+class Reporter : public QObject
+{
+public:
+    Reporter(QWidget& window, std::function<void()> whenPainted) : whenPainted_(std::move(whenPainted))
+    {
+        window.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* receiver, QEvent* event) override
+    {
+        if (event->type() == QEvent::UpdateRequest && !seen_) {
+            seen_ = true;
+            QTimer::singleShot(0, this, [this] { report(); });
+        }
+        return QObject::eventFilter(receiver, event);
+    }
+
+private:
+    void report()
+    {
+        std::puts("painted");
+        std::fflush(stdout);
+        whenPainted_();
+        QTimer::singleShot(restingTime, this, [] {
+            std::printf("%ld %ld\n", memory("Rss"), memory("Pss"));
+            std::fflush(stdout);
+            std::_Exit(EXIT_SUCCESS);
+        });
+    }
+
+    std::function<void()> whenPainted_;
+    bool seen_ = false;
+};
+
+int showEmptyWindow(QApplication& application)
+{
+    QMainWindow window;
+    window.resize(1000, 690);
+    const Reporter reporter(window, [] {});
+    window.show();
+    return application.exec();
+}
+
+int showGame(QApplication& application, const std::string& folder)
+{
+    QApplication::setWindowIcon(gameIcon());
+    FrontEnd game(folder);
+    game.window.input([&] { game.flow.startUp(); });
+    const Reporter reporter(game.window, [&] { game.window.input([&] { game.flow.startGame(); }); });
+    game.window.show();
+    return application.exec();
+}
+
+// ---- In the parent
+
+struct Start {
+    double painted = 0; ///< milliseconds
+    double rss = 0;     ///< megabytes
+    double pss = 0;     ///< megabytes, what is shared with other processes counted in shares
+};
+
+Start measure(const QStringList& arguments)
+{
+    Start start;
+    QProcess child;
+    child.setProcessChannelMode(QProcess::SeparateChannels);
+    QElapsedTimer watch;
+    watch.start();
+    child.start(QCoreApplication::applicationFilePath(), arguments);
+    const bool painted = child.waitForReadyRead(patience);
+    start.painted = static_cast<double>(watch.nsecsElapsed()) / 1e6;
+    if (!painted || !child.waitForFinished(patience)) {
+        std::fputs("The child has shown no window.\n", stderr);
+        std::exit(EXIT_FAILURE);
+    }
+    std::istringstream lines(child.readAllStandardOutput().toStdString());
+    std::string word;
+    lines >> word >> start.rss >> start.pss;
+    start.rss /= 1024;
+    start.pss /= 1024;
+    return start;
+}
+
+double median(std::vector<double> values)
+{
+    std::sort(values.begin(), values.end());
+    return values[values.size() / 2];
+}
+
+void printRow(const char* what, const std::vector<Start>& empty, const std::vector<Start>& game, double Start::*part)
+{
+    const auto column = [part](const std::vector<Start>& starts) {
+        std::vector<double> values;
+        for (const Start& start : starts)
+            values.push_back(start.*part);
+        return median(values);
+    };
+    std::printf("%-28s %10.1f %10.1f %8.2f\n", what, column(empty), column(game), column(game) / column(empty));
+}
+
+/// A program folder with a configuration, so that nothing is asked.
+void fill(const QTemporaryDir& folder, const QString& source)
+{
+    for (const QFileInfo& file : QDir(source).entryInfoList({"L?Ascii.txt", "*.sch", "*.txt"}, QDir::Files))
+        QFile::copy(file.filePath(), folder.filePath(file.fileName()));
+    std::ofstream stored(folder.filePath("Lexigrove.cfg").toStdString(), std::ios::binary);
+    stored << "22 Nov 2026 12:00:00\r\n\r\n3\r\nBLUE\r\nUsrDict.txt\r\nSysDict1.txt\r\nSysDict2.txt\r\nSysDict3.txt\r\n"
+              "250\r\n";
+    for (const bool on : {false, false, true, false, false, true, false, false, false, true, true, false, true, false})
+        stored << (on ? "True\r\n" : "False\r\n");
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const std::vector<std::string> arguments(argv, argv + argc);
+    if (arguments.size() > 1 && arguments[1].starts_with("--child")) {
+        QApplication application(argc, argv);
+        return arguments.size() > 2 ? showGame(application, arguments[2]) : showEmptyWindow(application);
+    }
+
+    const QCoreApplication application(argc, argv);
+    const QString source = arguments.size() > 1 ? QString::fromStdString(arguments[1])
+                                                : QCoreApplication::applicationDirPath() + "/../share/lexigrove";
+    const int rounds = arguments.size() > 2 ? std::stoi(arguments[2]) : 15;
+    const QTemporaryDir folder;
+    fill(folder, source);
+
+    std::vector<Start> empty;
+    std::vector<Start> game;
+    for (int round = 0; round <= rounds; ++round) {
+        const Start one = measure({"--child"});
+        const Start other = measure({"--child", folder.path() + "/"});
+        if (round == 0) // the first start reads the libraries from the disk
+            continue;
+        empty.push_back(one);
+        game.push_back(other);
+    }
+    std::printf("%-28s %10s %10s %8s   (medians of %d starts each)\n", "", "empty", "game", "ratio", rounds);
+    printRow("first frame, ms", empty, game, &Start::painted);
+    printRow("at rest, resident MB", empty, game, &Start::rss);
+    printRow("at rest, proportional MB", empty, game, &Start::pss);
+    return EXIT_SUCCESS;
+}
