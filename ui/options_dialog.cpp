@@ -131,6 +131,7 @@ public:
         auto* const column = newColumn();
         column->addLayout(columns);
         column->addLayout(newButtons());
+        findChild<QPushButton*>("Startx")->setFocus();
         showForm();
     }
 
@@ -273,7 +274,6 @@ private:
         auto* const Exitx = newButton("Exitx", form_.Exitx.Caption, form_.Exitx.ToolTipText);
         Startx->setProperty("primary", true);
         Startx->setDefault(true);
-        Startx->setFocus();
         connect(Startx, &QPushButton::clicked, this, [this] { input([this] { form_.pressStart(); }); });
         connect(PSBoard, &QPushButton::clicked, this, [this] { input([this] { form_.presetBoard(); }); });
         connect(Exitx, &QPushButton::clicked, this, [this] { closePressed(); });
