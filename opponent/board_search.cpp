@@ -1,25 +1,34 @@
 #include "opponent/board_search.hpp"
 
 #include "dictionary/letter_tables.hpp"
+#include "dictionary/word_text.hpp"
 
-#include <algorithm>
 #include <bit>
 
 namespace lexigrove
 {
 
+namespace
+{
+
+char upperLetter(char letter)
+{
+    return static_cast<char>(upperCase(static_cast<unsigned char>(letter)));
+}
+
+} // namespace
+
 TracedWord BoardSearch::traceWord(const SearchBoard& board, std::string_view word)
 {
     TracedWord traced;
+    const std::string upper = upperCase(word);
     board_.prepare(board);
-    Frontier paths = word.empty() ? Frontier{} : board_.start(word.front());
+    Frontier paths = upper.empty() ? Frontier{} : board_.start(upper.front());
     if (paths.empty())
         return traced;
     traced.matchedLength = 1;
-    for (const char letter : word.substr(1)) {
-        if ((board_.setOf(letter) & paths.next) == 0)
-            break;
-        const Frontier longer = board_.extend(paths, letter);
+    for (std::size_t i = 1; i < upper.size(); ++i) {
+        const Frontier longer = board_.extend(paths, upper[i]);
         if (longer.empty())
             break;
         paths = longer;
@@ -45,34 +54,36 @@ const CandidateList& BoardSearch::sweep(const SearchBoard& board, const WordList
     candidates_.clear(board);
     for (WordTrie::Node node = 0; node != trie_.firstLetters(); ++node) {
         const char letter = trie_.letter(node);
-        const Frontier paths = board_.start(letter);
+        const Frontier paths = board_.start(upperLetter(letter));
         visitChildren(node, paths, 1, letterValue(letter));
     }
     return candidates_;
 }
 
-/// Goes on from the paths that spell a node to its children: to those whose letter is next to an end of one of them.
+/// Goes on from the paths that spell a node to those of its children whose letter is next to an end of one of them.
 void BoardSearch::visitChildren(WordTrie::Node parent, const Frontier& paths, int length, int score)
 {
-    const WordTrie::Node end = trie_.childrenEnd(parent);
-    for (WordTrie::Node group = trie_.childrenBegin(parent); group < end; group += 32) {
-        // About one child in three has such a letter. Gathering them first spares wrong guesses at a branch.
-        std::uint32_t hits = 0;
-        const WordTrie::Node groupSize = std::min<WordTrie::Node>(32, end - group);
-        for (WordTrie::Node child = 0; child != groupSize; ++child) {
-            const LetterSet letter = board_.setOf(trie_.letter(group + child));
-            hits |= static_cast<std::uint32_t>((letter & paths.next) != 0) << child;
-        }
-        for (; hits != 0; hits &= hits - 1) {
-            const WordTrie::Node node = group + static_cast<WordTrie::Node>(std::countr_zero(hits));
-            const Frontier longer = board_.extend(paths, trie_.letter(node));
-            if (longer.empty())
-                continue;
-            const int longerScore = score + letterValue(trie_.letter(node));
-            if (trie_.endsWord(node))
-                board_.copyPath(longer.begin, candidates_.add(longerScore, length + 1));
-            visitChildren(node, longer, length + 1, longerScore);
-        }
+    const auto visit = [&](WordTrie::Node node, char letter, int letterScore) {
+        const Frontier longer = board_.extend(paths, letter);
+        if (longer.empty())
+            return;
+        if (trie_.endsWord(node))
+            board_.copyPath(longer.begin, candidates_.add(score + letterScore, length + 1));
+        if (trie_.childLetters(node) != 0)
+            visitChildren(node, longer, length + 1, score + letterScore);
+    };
+    const LetterSet letters = trie_.childLetters(parent);
+    const WordTrie::Node first = trie_.childrenBegin(parent);
+    if ((letters & otherCharacters) != 0) {
+        for (WordTrie::Node node = first; node != trie_.childrenEnd(parent); ++node)
+            visit(node, upperLetter(trie_.letter(node)), letterValue(trie_.letter(node)));
+        return;
+    }
+    for (LetterSet hits = letters & paths.next; hits != 0; hits &= hits - 1) {
+        const int letterNumber = std::countr_zero(hits);
+        const LetterSet before = letters & ((LetterSet{1} << letterNumber) - 1);
+        const char letter = static_cast<char>('A' - 1 + letterNumber);
+        visit(first + static_cast<WordTrie::Node>(std::popcount(before)), letter, letterValue(letter));
     }
 }
 

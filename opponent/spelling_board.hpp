@@ -1,5 +1,6 @@
 #pragma once
 
+#include "opponent/letter_set.hpp"
 #include "opponent/search_board.hpp"
 
 #include <array>
@@ -10,43 +11,35 @@
 namespace lexigrove
 {
 
-/// A set of the letters that one board shows.
-using LetterSet = std::uint64_t;
-
 /// All paths that spell one beginning of a word, in the order in which they were found.
 struct Frontier {
     std::uint32_t begin = 0; ///< the paths are begin up to end, without the latter
     std::uint32_t end = 0;
-    LetterSet next = 0; ///< the letters next to an end of one of the paths
+    LetterSet next = 0; ///< no other letters are next to an end of one of the paths
 
     [[nodiscard]] bool empty() const { return begin == end; }
 };
 
 /// A board prepared for spelling words on it, letter by letter: from a first letter to the frontier of its tiles, and
-/// from a frontier to the frontier with one letter more.
+/// from a frontier to the frontier with one letter more. Letters are given in upper case; a tile's letter is taken as
+/// it stands, so that a lower-case tile fits no word.
 ///
 /// A path's digit text is its tile numbers, two digits each, and a tile counts as used when its two digits stand
 /// anywhere in that text, also across two entries: after tiles 12 and 3 ("1203") tile 20 is used. A step from one tile
 /// to another therefore blocks two tiles: the new one, and the one that the last digit of the old and the first of the
 /// new make.
-///
-/// Letters are given as words hold them and are taken in upper case. A tile's letter is taken as it stands, so that a
-/// lower-case tile fits no word.
 class SpellingBoard
 {
 public:
     void prepare(const SearchBoard& board);
-
-    /// The set of just this letter; empty when no tile shows it.
-    [[nodiscard]] LetterSet setOf(char letter) const { return letterSets_[static_cast<unsigned char>(letter)]; }
 
     /// The frontier of a first letter, its tiles in increasing order. It is empty for a letter that is on no tile, and
     /// for one that has no entry in the letter index, which reaches from A, code 65, to code 128.
     Frontier start(char letter);
 
     /// Every path of the frontier with one tile more, which shows the letter: path by path, each in the order of its
-    /// last tile's neighbour list. `letter` must be one of `paths.next`. The paths of earlier
-    /// frontiers stay; what was made from `paths` before is overwritten.
+    /// last tile's neighbour list. The paths of earlier frontiers stay; what was made from `paths` before is
+    /// overwritten.
     Frontier extend(const Frontier& paths, char letter);
 
     /// Writes the tile numbers of a path of `tiles.size()` letters.
@@ -60,19 +53,17 @@ private:
         std::uint8_t tile = 0;
     };
 
-    /// What a path meets around its last tile. A slot is a place in the neighbour list.
-    struct Surroundings {
-        std::array<std::uint64_t, 8> blocks{};                       ///< by slot: what the step there blocks
-        std::array<std::uint8_t, 8> tiles{};                         ///< by slot
-        std::array<std::uint8_t, SearchBoard::tileCount> slotBits{}; ///< by letter number: bit s for slot s
+    /// What a path meets around its last tile, in two whole cache lines. A slot is a place in the neighbour list.
+    struct alignas(128) Surroundings {
+        std::array<std::uint64_t, 8> blocks{};   ///< by slot: what the step there blocks
+        std::array<std::uint8_t, 8> tiles{};     ///< by slot
+        std::array<std::uint8_t, 27> slotBits{}; ///< by the letter's bit in a set: bit s for slot s
         LetterSet letters = 0;
     };
 
     void makeRoom(std::size_t steps);
 
-    std::array<LetterSet, 256> letterSets_{};                         ///< by the code of a word's letter
-    std::array<std::uint8_t, 256> letterNumbers_{};                   ///< the same letters numbered from 0 up
-    std::array<std::uint64_t, SearchBoard::tileCount> letterTiles_{}; ///< by letter number: bit t - 1 for tile t
+    std::array<char, SearchBoard::tileCount + 1> letters_{};
     std::array<Surroundings, SearchBoard::tileCount + 1> around_{};
     std::vector<Step> steps_ = std::vector<Step>(4'096); ///< the paths of all frontiers; grows where it must
 };

@@ -54,6 +54,7 @@ void WordTrie::build(const WordList& words)
     const Node count = next[maxLength];
     letters_.assign(count, 0);
     children_.assign(count + std::size_t{1}, count);
+    childLetters_.assign(count, 0);
 
     for (int i = 1; i <= words.count(); ++i) {
         const std::string_view word = words.entry(i);
@@ -63,9 +64,19 @@ void WordTrie::build(const WordList& words)
             const Node node = next[level]++;
             letters_[node] = word[level];
             children_[node] = next[level + 1];
+            if (level > 0)
+                addLetter(childLetters_[next[level - 1] - 1], word[level]);
         }
         children_[next[word.size() - 1] - 1] |= wordMark;
     }
+}
+
+/// Adds the letter of one more child; one that does not come after the others in the alphabet joins the other
+/// characters.
+void WordTrie::addLetter(LetterSet& letters, char letter)
+{
+    const LetterSet set = setOf(letter);
+    letters |= set > letters ? set : otherCharacters;
 }
 
 } // namespace lexigrove

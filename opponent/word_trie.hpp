@@ -1,6 +1,7 @@
 #pragma once
 
 #include "dictionary/word_list.hpp"
+#include "opponent/letter_set.hpp"
 
 #include <cstdint>
 #include <string_view>
@@ -17,7 +18,7 @@ namespace lexigrove
 /// the word before it, or is the beginning of it, gets a last node of its own.
 ///
 /// The nodes lie level by level, so that the children of a node are neighbours in memory and end where the children of
-/// the next node begin: 5 bytes a node.
+/// the next node begin: 9 bytes a node.
 class WordTrie
 {
 public:
@@ -39,13 +40,19 @@ public:
     [[nodiscard]] Node childrenBegin(Node node) const { return children_[node] & ~wordMark; }
     [[nodiscard]] Node childrenEnd(Node node) const { return children_[node + 1] & ~wordMark; }
 
+    /// The letters of a node's children; empty for a node without children. Where `otherCharacters` is in the set, the
+    /// children may be any and come in any order. Otherwise there is one for each letter of the set, from A to Z.
+    [[nodiscard]] LetterSet childLetters(Node node) const { return childLetters_[node]; }
+
 private:
     static constexpr Node wordMark = 0x80000000;
 
+    static void addLetter(LetterSet& letters, char letter);
+
     Node firstLetters_ = 0;
     std::vector<char> letters_;
-    std::vector<Node>
-        children_; ///< the first child, with wordMark where a word ends; one more entry closes the last node
+    std::vector<Node> children_; ///< the first child, with wordMark where a word ends; one more closes the last node
+    std::vector<LetterSet> childLetters_;
 };
 
 } // namespace lexigrove

@@ -99,7 +99,7 @@ TEST(BoardSearch, AgreesWithPlainReading)
         SCOPED_TRACE("seed " + std::to_string(seed));
         std::mt19937 random(seed);
         const auto kind = static_cast<Kind>(seed % 6);
-        const char* const letters = kind == Kind::OddCharacters ? "ABCDE'9 aZ\xC9\x8C\xE9\x7F" : "AEISTRNLOD";
+        const char* const letters = kind == Kind::OddCharacters ? "ABCDE'9 aZ\xC9\x8C\xE9\x7F\x80\x81" : "AEISTRNLOD";
         const SearchBoard board = randomBoard(random, seed % 4 < 2, letters, seed % 3 == 0 ? 0 : seed % 9);
         const WordList words = nearlyOnBoard(random, board, kind);
 
@@ -141,13 +141,15 @@ TEST(BoardSearch, RefusesTilesWhoseDigitsAreInPath)
 TEST(BoardSearch, TracesLongestPrefix)
 {
     BoardSearch search;
-    const SearchBoard board = squareBoard('X', {{1, 'A'}, {2, 'B'}, {10, 'B'}, {64, 'C'}});
+    SearchBoard board = squareBoard('X', {{1, 'A'}, {2, 'B'}, {10, 'B'}, {64, 'C'}});
     EXPECT_EQ(search.traceWord(board, "ZOO").matchedLength, 0);
     EXPECT_EQ(search.traceWord(board, "ACT").matchedLength, 1);
     EXPECT_THAT(search.traceWord(board, "ACT").items, IsEmpty());
     EXPECT_EQ(search.traceWord(board, "ABA").matchedLength, 2);
     EXPECT_THAT(search.traceWord(board, "ABA").items, ElementsAre("0102AB", "0110AB"));
     EXPECT_EQ(search.traceWord(board, "").matchedLength, 0);
+    board.letters[9] = 0; // a tile without a letter
+    EXPECT_EQ(search.traceWord(board, std::string("A\0", 2)).matchedLength, 1);
     EXPECT_EQ(search.sweep(SearchBoard{}, listOf({"AB", "BA"})).count(), 0);
 }
 
