@@ -187,6 +187,7 @@ void BoardView::mouseReleaseEvent(QMouseEvent* event)
 
 void BoardView::paintEvent(QPaintEvent* event)
 {
+    shape_.fit(size(), devicePixelRatioF()); // the window may have come to another screen
     QPainter painter(this);
     const QRectF dirty = event->rect();
     paintGround(painter, dirty);

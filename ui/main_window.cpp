@@ -53,6 +53,7 @@ void MainWindow::addMenus()
                 list->addSeparator();
             QAction* action = list->addAction(item.keyText.isEmpty() ? item.text : item.text + '\t' + item.keyText);
             action->setShortcuts(item.keys);
+            action->setCheckable(item.command == &GameFlow::soundButton);
             connect(action, &QAction::triggered, this, [this, command = item.command] { run(command); });
             menuEntries_.push_back({item, action});
         }
@@ -225,6 +226,8 @@ void MainWindow::showModels()
         setWindowTitle(caption);
     for (const MenuEntry& entry : menuEntries_) {
         entry.action->setEnabled(isTimeFor(entry.item.time, flow_));
+        if (entry.action->isCheckable())
+            entry.action->setChecked(flow_.sounds.isOn());
         if (entry.item.command == &GameFlow::pause)
             entry.action->setText(flow_.isPaused() ? tr("&Resume") : tr("&Pause"));
     }

@@ -20,9 +20,9 @@ namespace
 
 constexpr std::string_view playCommand = "play ";
 constexpr auto soundThread = "sound";
-constexpr int longestSound = 2000; ///< milliseconds that the program's end waits for a sound
+constexpr int longestSound = 2200; ///< milliseconds that the program's end waits for a sound
 constexpr int lookAgainAfter = 25; ///< milliseconds
-constexpr int threadEndsWithin = 3000;
+constexpr int threadEndsWithin = 3500;
 
 /// The toolkit complains aloud where a machine has no sound. In the sound's thread it does so in silence.
 QtMessageHandler& otherThreadsHandler()

@@ -20,7 +20,7 @@ class QtSoundDevice : public SoundDevice
 public:
     QtSoundDevice();
 
-    /// Lets a sound that is being played end, for two seconds at most.
+    /// Lets a sound that is being played end, for some two seconds at most.
     ~QtSoundDevice() override;
     QtSoundDevice(const QtSoundDevice&) = delete;
     QtSoundDevice& operator=(const QtSoundDevice&) = delete;
