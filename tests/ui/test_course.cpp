@@ -190,6 +190,28 @@ TEST_F(Course, AnyInputEndsTheComputersTurnAndIsUsedUp)
     EXPECT_EQ(play_.word().size(), 1U);
 }
 
+TEST_F(Course, ClosingInTheMiddleOfTheComputersTurnLeaves)
+{
+    startAgainstComputer();
+    const Meanwhile close([&] { return play_.shown("Label1") == "Press any key to continue"; },
+                          [&] { play_.window().close(); });
+    play_.press("EnterWord");
+    EXPECT_TRUE(play_.flow().ended());
+    EXPECT_EQ(play_.shown("CompScore"), "0") << "the word was not played";
+}
+
+// Guards the two ways in which a hint is not given: both must be told, and only the second costs.
+TEST_F(Course, AHintIsRefusedOrNotFound)
+{
+    start(Letters());
+    play_.press("Hintx");
+    EXPECT_EQ(play_.shown("Label1"), "your score must be at least15 to get a hint");
+    play_.flow().game.state.YourScore.Caption = "20";
+    play_.press("Hintx");
+    EXPECT_EQ(play_.shown("Label1"), "There are no valid hints");
+    EXPECT_EQ(play_.shown("YourScore"), "5");
+}
+
 // Guards the clock from expiring in the middle of a game: the window never gives it the focus.
 TEST_F(Course, TheClockTakesClicksAndNoFocus)
 {
