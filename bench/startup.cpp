@@ -136,6 +136,7 @@ void printRow(const char* what, const std::vector<Start>& empty, const std::vect
 {
     const auto column = [part](const std::vector<Start>& starts) {
         std::vector<double> values;
+        values.reserve(starts.size());
         for (const Start& start : starts)
             values.push_back(start.*part);
         return median(values);

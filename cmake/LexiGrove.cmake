@@ -9,7 +9,8 @@ target_compile_options(lexigrove_flags INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor -Woverloaded-virtual -Werror)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
     # This compiler sees overlaps and unset values in its own library's strings and optionals once it optimizes.
-    target_compile_options(lexigrove_flags INTERFACE -Wno-restrict -Wno-maybe-uninitialized)
+    target_compile_options(lexigrove_flags INTERFACE
+        -Wno-unknown-warning-option -Wno-restrict -Wno-maybe-uninitialized) # the first for tools that know none of them
 endif()
 if(LEXIGROVE_SANITIZE)
     set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)

@@ -5,6 +5,7 @@
 #include <QDialog>
 #include <QEventLoop>
 
+#include <algorithm>
 #include <utility>
 
 namespace lexigrove
@@ -18,8 +19,7 @@ void EventGate::requestLeaving()
 
 void EventGate::closeAll()
 {
-    for (auto dialog = dialogs_.rbegin(); dialog != dialogs_.rend(); ++dialog)
-        (*dialog)->done(QDialog::Rejected);
+    std::for_each(dialogs_.rbegin(), dialogs_.rend(), [](QDialog* dialog) { dialog->done(QDialog::Rejected); });
     for (QEventLoop* loop : loops_)
         loop->quit();
 }

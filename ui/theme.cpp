@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <utility>
 
 namespace lexigrove
@@ -225,7 +226,7 @@ QColor Theme::colour(Colour colour) const
 QFont Theme::font(double pixelSize, bool bold)
 {
     QFont font = QApplication::font();
-    font.setPixelSize(std::max(smallestText, static_cast<int>(pixelSize + 0.5)));
+    font.setPixelSize(std::max(smallestText, static_cast<int>(std::lround(pixelSize))));
     font.setBold(bold);
     return font;
 }
