@@ -1,7 +1,9 @@
 #include "ui/browser_module.hpp"
 
 #include <QAuthenticator>
+#include <QFileInfo>
 #include <QLoggingCategory>
+#include <QOpenGLContext>
 #include <QWebEngineCertificateError>
 #include <QWebEngineDownloadRequest>
 #include <QWebEngineFullScreenRequest>
@@ -52,6 +54,14 @@ void decideOnSandbox()
     }
     qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
     std::fprintf(stderr, "LexiGrove: pages are shown without the web engine's sandbox: %s.\n", reason);
+}
+
+/// Without OpenGL the engine would show nothing; then its pages are painted by the processor.
+void decideOnPainting()
+{
+    const QOpenGLContext* const shared = QOpenGLContext::globalShareContext();
+    if (shared == nullptr || !shared->isValid())
+        qputenv("QT_QUICK_BACKEND", "software");
 }
 
 /// Refuses what the rules do not allow, before anything is asked of the network or the disk.
@@ -117,7 +127,7 @@ private:
     BrowserRules rules_;
 };
 
-void setLimits(QWebEngineSettings& settings, bool scripts)
+void setLimits(QWebEngineSettings& settings)
 {
     for (const auto refused : {
              QWebEngineSettings::JavascriptCanOpenWindows,
@@ -141,7 +151,6 @@ void setLimits(QWebEngineSettings& settings, bool scripts)
         settings.setAttribute(refused, false);
     settings.setAttribute(QWebEngineSettings::PlaybackRequiresUserGesture, true);
     settings.setAttribute(QWebEngineSettings::WebRTCPublicInterfacesOnly, true);
-    settings.setAttribute(QWebEngineSettings::JavascriptEnabled, scripts);
     settings.setAttribute(QWebEngineSettings::ErrorPageEnabled, true);
     settings.setUnknownUrlSchemePolicy(QWebEngineSettings::DisallowUnknownUrlSchemes);
 }
@@ -163,14 +172,15 @@ QWebEngineScript colouring(const PageColours& colours)
 class EnginePage : public BrowserPage
 {
 public:
-    explicit EnginePage(const BrowserPageSetup& setup) : guard_(setup.rules), page_(&profile_, setup.rules)
+    explicit EnginePage(const BrowserPageSetup& setup)
+        : guard_(setup.rules), page_(&profile_, setup.rules), scripts_(setup.rules.scripts())
     {
         profile_.setUrlRequestInterceptor(&guard_);
         profile_.setPersistentCookiesPolicy(QWebEngineProfile::NoPersistentCookies);
         profile_.setHttpCacheType(QWebEngineProfile::MemoryHttpCache);
         QObject::connect(&profile_, &QWebEngineProfile::downloadRequested, &profile_,
                          [](QWebEngineDownloadRequest* download) { download->cancel(); });
-        setLimits(*page_.settings(), setup.rules.scripts());
+        setLimits(*page_.settings());
         page_.setBackgroundColor(setup.ground);
         if (setup.loaded)
             QObject::connect(&page_, &QWebEnginePage::loadFinished, &page_, setup.loaded);
@@ -180,7 +190,15 @@ public:
     }
 
     [[nodiscard]] QWidget* widget() override { return &view_; }
-    void navigate(const QUrl& address) override { page_.setUrl(address); }
+
+    void navigate(const QUrl& address) override
+    {
+        // The engine's own page about a missing file is made by a script.
+        const bool missing = address.isLocalFile() && !QFileInfo::exists(address.toLocalFile());
+        page_.settings()->setAttribute(QWebEngineSettings::JavascriptEnabled, scripts_ || missing);
+        page_.setUrl(address);
+    }
+
     [[nodiscard]] QUrl address() const override { return page_.url(); }
     void back() override { page_.history()->back(); }
     void forward() override { page_.history()->forward(); }
@@ -197,6 +215,7 @@ private:
     RequestGuard guard_;
     QWebEngineProfile profile_;
     GuardedPage page_;
+    bool scripts_;
     QWebEngineView view_;
 };
 
@@ -206,6 +225,7 @@ BrowserEngine::BrowserEngine()
 {
     QLoggingCategory::setFilterRules("qt.webenginecontext=false"); // a page of technical data in the terminal
     decideOnSandbox();
+    decideOnPainting();
 }
 
 std::unique_ptr<BrowserPage> BrowserEngine::newPage(const BrowserPageSetup& setup)

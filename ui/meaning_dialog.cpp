@@ -4,6 +4,7 @@
 #include "ui/form_dialog.hpp"
 #include "ui/text.hpp"
 
+#include <QShortcut>
 #include <QVBoxLayout>
 
 namespace lexigrove
@@ -23,6 +24,7 @@ public:
         auto* const column = new QVBoxLayout(this);
         column->setContentsMargins({});
         column->addWidget(WbDictionary);
+        new QShortcut(Qt::Key_Escape, this, [this] { accept(); }); // also where the page has the focus
         resize(120 * Theme::grid, 84 * Theme::grid);
         // Before the window is shown: the engine's first view makes the toolkit build a window anew, which would close
         // a dialog that is open.
