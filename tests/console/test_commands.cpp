@@ -166,7 +166,7 @@ TEST(ConsoleCommands, AGameAgainstTheComputer)
 {
     ConsoleRun run;
     expectAnswers(run, {
-                           {"clock", "--:-- colon=ll timer=on"},
+                           {"clock", "12:34 colon=lh timer=on"},
                            {"clock_tick", ""},
                            {"clock", "12:34 colon=lh timer=on"},
                            {"options arrangement=Square computer=yes preset=CATSQUIZ" + std::string(92, 'E'),
@@ -181,7 +181,7 @@ TEST(ConsoleCommands, AGameAgainstTheComputer)
                            {"clock_tick 61", ""},
                            {"clock", "08:59 colon=dd timer=on"},
                            {"clock_click right", ""},
-                           {"clock", "--:-- colon=ll timer=on"},
+                           {"clock", "12:34 colon=lh timer=on"},
                            {"enter", ""},
                            {"value Label1", "Press any key to continue"},
                            {"value CompScore", "22"},
