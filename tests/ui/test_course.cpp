@@ -155,7 +155,11 @@ TEST_F(Course, ClosingInTheMiddleOfAnAnimationLeaves)
 TEST_F(Course, AnyInputEndsTheComputersTurnAndIsUsedUp)
 {
     startAgainstComputer();
-    const auto waiting = [&] { return play_.shown("Label1") == "Press any key to continue"; };
+    const auto waiting = [&] { // the status line alone may still tell of the turn before
+        const GameState& state = play_.flow().game.state;
+        return state.computerTurnInProgress && state.EnterWord.Visible &&
+               play_.shown("Label1") == "Press any key to continue";
+    };
     play_.clickAll({10, 11, 12});
     {
         const Meanwhile key(waiting, [&] {
