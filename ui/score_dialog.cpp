@@ -75,7 +75,7 @@ public:
         List2_->setFocusPolicy(Qt::NoFocus);
         List2_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
         List2_->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
-        List2_->setMinimumSize(48 * Theme::grid, 42 * Theme::grid);
+        List2_->setMinimumSize(48 * Theme::grid, 41 * Theme::grid);
 
         AnotherGame_->setProperty("primary", true);
         connect(AnotherGame_, &QPushButton::clicked, this, [this] { input([this] { form_.pressAnotherGame(); }); });

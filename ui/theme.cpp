@@ -146,7 +146,7 @@ QRadioButton::indicator:hover, QCheckBox::indicator:hover { border-color: @accen
 QRadioButton::indicator:focus, QCheckBox::indicator:focus { border-color: @accent; }
 QRadioButton::indicator:checked { background: qradialgradient(cx: 0.5, cy: 0.5, radius: 0.5, fx: 0.5, fy: 0.5,
     stop: 0 @accent, stop: 0.5 @accent, stop: 0.6 @card, stop: 1 @card); }
-QCheckBox::indicator:checked { background: @accent; background-clip: content; padding: 3px; width: 8px; height: 8px;
+QCheckBox::indicator:checked { background: @accent; background-clip: content; padding: 2px; width: 10px; height: 10px;
     border-radius: 3px; }
 QRadioButton::indicator:disabled, QCheckBox::indicator:disabled { border-color: @line; }
 QRadioButton::indicator:checked:disabled { background: qradialgradient(cx: 0.5, cy: 0.5, radius: 0.5, fx: 0.5, fy: 0.5,
