@@ -10,6 +10,8 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include <functional>
+
 namespace lexigrove
 {
 
@@ -98,7 +100,7 @@ void MainWindow::addTimer(const QString& name, int interval, Command tick)
 
 void MainWindow::run(Command command)
 {
-    input([&] { (flow_.*command)(); });
+    input([&] { std::invoke(command, flow_); });
 }
 
 /// An input that was refused changes nothing; the one that runs has its own end.
