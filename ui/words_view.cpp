@@ -1,6 +1,5 @@
 #include "ui/words_view.hpp"
 
-#include "settings/readable_colours.hpp"
 #include "ui/text.hpp"
 
 #include <QFontMetrics>
@@ -148,9 +147,11 @@ void WordsView::paintRow(QPainter& painter, int row) const
         const bool word = column == WordsGrid::wordColumn;
         const bool own = isSystemColour(cell.backColor); // no rule has coloured the cell
         const Colour ground = own ? (current ? colours.cardSelection : colours.card) : cell.backColor;
-        Colour text = own ? (current ? colours.cardSelectionText : colours.cardText) : cell.foreColor;
-        if (row == 0)
-            text = isSystemColour(cell.foreColor) ? colours.computerText : readableText(cell.foreColor, ground);
+        // Headings are the computer's fore colour, which is made for its own ground: on the card it is the computer's
+        // colour as a text.
+        const Colour text = row == 0 ? colours.computerText
+                            : own    ? (current ? colours.cardSelectionText : colours.cardText)
+                                     : cell.foreColor;
 
         const QRect cellPlace = columnRect(column).intersected(place);
         painter.fillRect(cellPlace, toQColor(ground));
