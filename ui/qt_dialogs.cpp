@@ -36,8 +36,8 @@ void QtDialogs::message(const std::string& text)
 
 bool QtDialogs::confirm(const std::string& text)
 {
-    QMessageBox box(QMessageBox::NoIcon, QStringLiteral("LexiGrove"), linesOf(text),
-                    QMessageBox::Yes | QMessageBox::No, host_.dialogParent());
+    QMessageBox box(QMessageBox::NoIcon, QStringLiteral("LexiGrove"), linesOf(text), QMessageBox::Yes | QMessageBox::No,
+                    host_.dialogParent());
     box.setTextFormat(Qt::PlainText);
     box.setDefaultButton(QMessageBox::Yes);
     box.setEscapeButton(QMessageBox::No);
