@@ -5,7 +5,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 
-#include <cmath>
+#include <algorithm>
 
 namespace lexigrove
 {
@@ -95,7 +95,12 @@ QRectF BoardView::placeOf(const Spot& spot) const
 
 BoardView::Marks BoardView::currentMarks() const
 {
-    Marks marks{{}, flow_.swapTile(), flow_.game.dropRow.guideColumn()};
+    Marks marks{{}, flow_.swapTile(), flow_.game.dropRow.guideColumn(), 0};
+    for (int col = 1; flow_.inGame() && col <= Board::columns; ++col) {
+        const bool waits = board_.TopDrop[static_cast<std::size_t>(col)].Visible();
+        if (waits && !board_.isVisible(board_.Grid(1, col)))
+            marks.openColumns |= 1U << col;
+    }
     const Selection& selection = flow_.game.selection;
     for (int place = 1; place <= selection.length(); ++place) {
         const int tile = selection.tileAt(place);
@@ -200,7 +205,7 @@ void BoardView::paintEvent(QPaintEvent* event)
     paintPanel(painter);
 }
 
-/// The strip of the drop row, the guide of a drop, and the empty cells.
+/// The strip of the drop row, what can drop, and the empty cells.
 void BoardView::paintGround(QPainter& painter, const QRectF& dirty) const
 {
     const WindowColours& colours = theme_.colours();
@@ -227,14 +232,29 @@ void BoardView::paintGround(QPainter& painter, const QRectF& dirty) const
             }
         }
     }
+    paintDropMarks(painter);
+    painter.setRenderHint(QPainter::Antialiasing, false);
+}
+
+/// A little arrow under each letter that can drop; during a drop the guide line in its place.
+void BoardView::paintDropMarks(QPainter& painter) const
+{
+    painter.setBrush(toQColor(theme_.colours().accent));
+    const double below = shape_.strip().bottom();
     if (marks_.guideColumn != 0) {
         const QRectF column = dropRect(marks_.guideColumn);
         const double height = std::max(2.0, shape_.cell() * 0.06);
-        painter.setBrush(toQColor(colours.accent));
-        painter.drawRoundedRect(QRectF(column.left(), shape_.strip().bottom() - height / 2, column.width(), height),
-                                height / 2, height / 2);
+        painter.drawRoundedRect(QRectF(column.left(), below - height / 2, column.width(), height), height / 2,
+                                height / 2);
+        return;
     }
-    painter.setRenderHint(QPainter::Antialiasing, false);
+    const double size = shape_.cell() * 0.09;
+    for (int col = 1; col <= Board::columns; ++col) {
+        if ((marks_.openColumns & (1U << col)) == 0)
+            continue;
+        const QPointF top(dropRect(col).center().x() + 0.5, below + size / 2);
+        painter.drawPolygon(QPolygonF{{top - QPointF(size, 0), top + QPointF(size, 0), top + QPointF(0, size)}});
+    }
 }
 
 /// Faces, then the links, then the letters: links lie behind letters.

@@ -69,6 +69,7 @@ private:
         std::vector<int> path;
         int swapTile = 0;
         int guideColumn = 0;
+        unsigned openColumns = 0; ///< bit c: a letter waits over column c, and there is room for it
         bool operator==(const Marks&) const = default;
     };
 
@@ -80,6 +81,7 @@ private:
     [[nodiscard]] bool takesInput() const;
 
     void paintGround(QPainter& painter, const QRectF& dirty) const;
+    void paintDropMarks(QPainter& painter) const;
     void paintTiles(QPainter& painter, const QRectF& dirty) const;
     void paintLinks(QPainter& painter) const;
     void paintPanel(QPainter& painter) const;

@@ -118,6 +118,7 @@ QPushButton[primary="true"]:hover { background: @accentHover; }
 QPushButton[primary="true"]:pressed { background: @accentPressed; }
 QPushButton[primary="true"]:focus { border-color: @text; }
 QPushButton[primary="true"]:disabled { background: @strip; color: @disabled; border-color: @line; }
+QDialogButtonBox QPushButton { min-width: 64px; }
 QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }
 QMenuBar { background: @ground; color: @text; border-bottom: 1px solid @line; padding: 2px 8px; }
 QMenuBar::item { background: transparent; padding: 5px 10px; border-radius: 4px; }
