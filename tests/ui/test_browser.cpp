@@ -168,6 +168,23 @@ TEST_F(BrowserTest, APageReachesNothingBeyondItself)
     }
 }
 
+// Guards the end: the main window closed under a page, with the help beside it, leaves no page of the engine behind.
+TEST_F(BrowserTest, LeavingEndsThePages)
+{
+    flow().options.settings.presetLetters = Letters().text(); // no score to offer
+    game_->window.input([this] { flow().startGame(); });
+    game_->window.input([this] { flow().showHelp(); });
+    script_.in("Form3", [&](QDialog& dialog) {
+        pageText(dialog, "The page");
+        game_->window.close();
+    });
+    showMeaning("CAT");
+    EXPECT_TRUE(flow().ended());
+    EXPECT_FALSE(dialogIsOpen());
+    game_.reset();
+    EXPECT_FALSE(enginePageExists());
+}
+
 /// The help window.
 class HelpTest : public BrowserTest
 {

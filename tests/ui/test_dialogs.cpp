@@ -185,7 +185,7 @@ TEST_F(DialogTest, StatisticsShowTheTableAndTheChart)
     statistics.recordWord("AABCD", 0);
     statistics.recordWord("AABCD", 8);
     flow_.game.state.hintsUsed = 2;
-    const auto expectLabels = [](QDialog& dialog, std::map<int, const char*> values) {
+    const auto expectLabels = [](QDialog& dialog, const std::map<int, const char*>& values) {
         for (const auto& [index, value] : values) {
             const auto* label = dialog.findChild<QLabel*>("sval" + QString::number(index));
             EXPECT_EQ(label->text(), value) << index;
@@ -285,6 +285,11 @@ struct OpenedWindow {
     const char* name;
     std::function<void(PlayedWindow&)> open;
 };
+
+void PrintTo(const OpenedWindow& window, std::ostream* out)
+{
+    *out << window.name;
+}
 
 class LeavingTest : public testing::TestWithParam<OpenedWindow>
 {
