@@ -13,12 +13,14 @@ namespace lexigrove::tools
 namespace
 {
 
-constexpr int everybodysClass = 10; ///< up to here a word is common whatever else its letters stand for
-constexpr int everydayClass = 20;   ///< up to here a word is common though a name be spelled so
-constexpr int level1Class = 35;     ///< a small dictionary
-constexpr int level2Class = 40;     ///< beyond it names, brands and oaths begin to outnumber words that everybody knows
-constexpr int completeClass = 70;   ///< a large dictionary: level 3 has it whole
-constexpr double shared = -2.3;     ///< a tenth, as a logarithm: what is left of a count that belongs to something else
+constexpr int everydayClass = 20;    ///< up to here a word is common though a name be spelled so
+constexpr int contractionClass = 10; ///< up to here a word is common though a contraction be spelled so: "its", "were"
+constexpr int level1Class = 35;      ///< a small dictionary
+constexpr int level2Class = 40;   ///< beyond it names, brands and oaths begin to outnumber words that everybody knows
+constexpr int completeClass = 70; ///< a large dictionary: level 3 has it whole
+constexpr double shared = -2.3;   ///< a tenth, as a logarithm: what is left of a count that belongs to something else
+
+constexpr double sharedWithNames = -1.1; ///< a third: what is left of the count of "lamb", "attic" or "ginger"
 
 struct Ranked {
     std::string word;
@@ -43,8 +45,9 @@ std::vector<Ranked> rankedWords(const Scowl& scowl, const WordCounts& counts, co
         const bool everyday = size <= everydayClass;
         const bool isName = !everyday && scowl.names.contains(word);
         const bool isContraction = // "id", "em"
-            size > everybodysClass && (scowl.bareContractions.contains(word) || counts.contains("'" + word));
-        const double count = entry->second + (isName || isContraction ? shared : 0);
+            size > contractionClass && (scowl.bareContractions.contains(word) || counts.contains("'" + word));
+        const double ofOthers = isContraction || size > level1Class ? shared : sharedWithNames;
+        const double count = entry->second + (isName || isContraction ? ofOthers : 0);
         ranked.push_back({word, count, size <= level1Class && !isName});
     }
     std::sort(ranked.begin(), ranked.end(), [](const Ranked& a, const Ranked& b) {

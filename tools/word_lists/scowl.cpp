@@ -18,6 +18,11 @@ namespace fs = std::filesystem;
 /// Names beyond this class are so rare that they make no word suspect.
 constexpr int largestNameClass = 50;
 
+/// Contractions beyond this class ("an't", "we'd") take nothing from the words that are spelled like them, but for the
+/// shortest: "i'd" is common, whatever its class.
+constexpr int commonContractionClass = 35;
+constexpr std::size_t shortestContraction = 3;
+
 /// One file of SCOWL: "<spelling>-<kind>.<class>".
 struct ListFile {
     fs::path path;
@@ -64,7 +69,8 @@ void readList(const ListFile& list, Scowl& scowl)
         if (list.kind == "words" && isPlainWord(line)) {
             const auto [entry, isNew] = scowl.classes.emplace(line, list.size);
             entry->second = std::min(entry->second, list.size);
-        } else if (list.kind == "contractions") {
+        } else if (list.kind == "contractions" &&
+                   (list.size <= commonContractionClass || line.size() <= shortestContraction)) {
             scowl.bareContractions.insert(lettersInLowerCase(line));
         } else if ((list.kind == "upper" || list.kind == "proper-names") && list.size <= largestNameClass) {
             if (line.find('\'') == std::string::npos)
