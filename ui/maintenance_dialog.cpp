@@ -16,6 +16,7 @@
 #include <QVBoxLayout>
 
 #include <array>
+#include <functional>
 
 namespace lexigrove
 {
@@ -105,7 +106,7 @@ private:
     {
         QPushButton* const button = lexigrove::newButton(text.name.data(), text.caption, text.toolTip);
         button->setAutoDefault(false); // Enter in the search box rewrites no dictionary
-        connect(button, &QPushButton::clicked, this, [this, operation] { input([&] { (form_.*operation)(); }); });
+        connect(button, &QPushButton::clicked, this, [this, operation] { input(std::bind_front(operation, &form_)); });
         return button;
     }
 

@@ -212,9 +212,11 @@ private:
     {
         QGroupBox* const box = newFrame(form_.DictionaryFrame);
         auto* const choices = static_cast<QBoxLayout*>(box->layout());
+        auto* const Option2 = box->findChild<QWidget*>("Option2");
+        choices->removeWidget(Option2);
         auto* const custom = new QHBoxLayout;
         custom->setSpacing(Theme::spacing);
-        custom->addWidget(choices->takeAt(choices->count() - 1)->widget());
+        custom->addWidget(Option2);
         custom->addWidget(UsrDictName_, 1);
         custom->addWidget(GetUserDictName_);
         choices->addLayout(custom);

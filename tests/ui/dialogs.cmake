@@ -14,6 +14,9 @@ lexigrove_test(test_browser
         test_browser.cpp
     DEPENDS ui Qt6::Test Qt6::Network Qt6::WebEngineWidgets
 )
+if(LEXIGROVE_SANITIZE)
+    target_sources(test_browser PRIVATE engine_sanitizer.cpp)
+endif()
 add_dependencies(test_browser lexigrove-browser)
 add_custom_command(TARGET test_browser POST_BUILD
     COMMAND ${CMAKE_COMMAND} -E create_symlink

@@ -26,7 +26,7 @@ protected:
 
     void input(void (GameFlow::*action)())
     {
-        play_.window().input([&] { (flow_.*action)(); });
+        play_.window().input([&flow = flow_, action] { (flow.*action)(); });
     }
 
     PlayedWindow play_;
