@@ -3,6 +3,8 @@
 #include "platform/leaving.hpp"
 #include "settings/window_colours.hpp"
 
+#include <exception>
+
 namespace lexigrove
 {
 
@@ -45,7 +47,7 @@ GameFlow::GameFlow(const Ports& ports, const Windows& windows, const std::string
 
 /// One input from its beginning to its end. Whoever closes the window on the way unwinds the input to here, and the
 /// leaving sequence follows.
-void GameFlow::perform(const Action& action)
+void GameFlow::asInput(const Action& action)
 {
     if (busy_ || ended_)
         return;
@@ -59,6 +61,18 @@ void GameFlow::perform(const Action& action)
     } catch (const ProgramEnd&) {
         ended_ = true;
     }
+}
+
+/// An input of the player's. A failure that no rule foresees ends the input that met it, and nothing else.
+void GameFlow::perform(const Action& action)
+{
+    asInput([&] {
+        try {
+            action();
+        } catch (const std::exception& failure) {
+            ports_.dialogs.message(failure.what());
+        }
+    });
 }
 
 /// What the timers and the clicks of a letter swap do in a game: refused without one and while it is paused.

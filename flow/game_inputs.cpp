@@ -211,11 +211,6 @@ void GameFlow::exportWords()
     performOtherInGame([this] { (void)dictionary.exportWords(ports_.dialogs, ports_.random, ports_.clock); });
 }
 
-void GameFlow::asInput(const std::function<void()>& action)
-{
-    perform(action);
-}
-
 // ---- The timers
 
 void GameFlow::redTimerTick()

@@ -65,6 +65,10 @@ private:
 
     std::array<char, SearchBoard::tileCount + 1> letters_{};
     std::array<Surroundings, SearchBoard::tileCount + 1> around_{};
+    /// A quarter of a gigabyte of paths. Boards of many letters need a few thousand; only long runs of one letter, on a
+    /// board of that letter, come near it.
+    static constexpr std::size_t mostSteps = std::size_t{1} << 24;
+
     std::vector<Step> steps_ = std::vector<Step>(4'096); ///< the paths of all frontiers; grows where it must
 };
 

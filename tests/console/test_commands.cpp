@@ -181,7 +181,7 @@ TEST(ConsoleCommands, AGameAgainstTheComputer)
                            {"clock_tick 61", ""},
                            {"clock", "08:59 colon=dd timer=on"},
                            {"clock_click right", ""},
-                           {"clock", "12:34 colon=lh timer=on"},
+                           {"clock", "--:-- colon=ll timer=on"},
                            {"enter", ""},
                            {"value Label1", "Press any key to continue"},
                            {"value CompScore", "22"},

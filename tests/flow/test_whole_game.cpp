@@ -334,6 +334,21 @@ TEST(WholeGame, DeveloperModeHasAPasswordAndKeys)
     EXPECT_FALSE(played.state().developerMode);
 }
 
+/// Guards against a board that eats the memory: all of one letter, with words that are runs of it.
+TEST(WholeGame, AFailureIsToldAndTheGameGoesOn)
+{
+    PlayedGame played("EE\r\nEEEEEEEEEEEEEEEEEEEE\r\n");
+    played.start(Arrangement::Square, presetOf(""));
+    played.state().YourScore.Caption = "100";
+    played.flow.getHint();
+    EXPECT_EQ(played.frontEnd.count("message There are too many ways to spell one word on this board"), 1);
+    EXPECT_FALSE(played.flow.isBusy());
+    EXPECT_FALSE(played.frontEnd.busyPointer);
+    played.click({1, 2});
+    played.flow.enterWord();
+    EXPECT_EQ(played.state().WordsMade.Rows(), 2);
+}
+
 /// Guards against a game that goes on with a dictionary that could not be read.
 TEST(WholeGame, AnUnreadableDictionaryEndsTheProgram)
 {
