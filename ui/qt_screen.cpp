@@ -29,7 +29,7 @@ QtScreen::QtScreen(Host& host) : host_(host)
 void QtScreen::showAndRunEvents()
 {
     host_.showModels();
-    QApplication::processEvents();
+    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents); // a click keeps until the rules are done
     shown_ = SteadyClock::now(); // taken after the painting: however slow that is, the rules get their share
     host_.gate.checkpoint();
 }
