@@ -4,10 +4,42 @@
 #include <QFileInfo>
 #include <QPluginLoader>
 
+#include <cstdio>
 #include <utility>
 
 namespace lexigrove
 {
+
+namespace
+{
+
+/// Keeps from the terminal what the engine says at its start about things that are as they are meant to be. Any other
+/// message passes.
+class EngineStart
+{
+public:
+    EngineStart() : before_(qInstallMessageHandler(passOn)) {}
+    ~EngineStart() { qInstallMessageHandler(before_); }
+    EngineStart(const EngineStart&) = delete;
+    EngineStart& operator=(const EngineStart&) = delete;
+
+private:
+    static void passOn(QtMsgType type, const QMessageLogContext& context, const QString& text)
+    {
+        for (const char* known : {
+                 "Qt WebEngine seems to be initialized from a plugin.", // pages need no OpenGL here
+                 "No suitable graphics backend found",                  // nor a graphics card
+                 "Sandboxing disabled by user.",                        // the module says so itself, and why
+             })
+            if (text.startsWith(known))
+                return;
+        std::fprintf(stderr, "%s\n", qPrintable(qFormatLogMessage(type, context, text)));
+    }
+
+    QtMessageHandler before_;
+};
+
+} // namespace
 
 BrowserLoader::BrowserLoader(QStringList folders) : folders_(std::move(folders)) {}
 
@@ -15,6 +47,13 @@ QStringList BrowserLoader::moduleFolders()
 {
     const QString here = QCoreApplication::applicationDirPath();
     return {here, here + "/" LEXIGROVE_MODULE_FROM_EXECUTABLE, LEXIGROVE_MODULE_FOLDER};
+}
+
+std::unique_ptr<BrowserPage> BrowserLoader::newPage(const BrowserPageSetup& setup)
+{
+    const EngineStart start;
+    BrowserModule* const engine = module();
+    return engine != nullptr ? engine->newPage(setup) : nullptr;
 }
 
 BrowserModule* BrowserLoader::module()

@@ -52,7 +52,7 @@ public:
     [[nodiscard]] virtual std::unique_ptr<BrowserPage> newPage(const BrowserPageSetup& setup) = 0;
 };
 
-/// Loads the module when it is asked for first.
+/// Loads the module when the first page is asked for.
 class BrowserLoader
 {
 public:
@@ -60,13 +60,15 @@ public:
     /// is installed.
     explicit BrowserLoader(QStringList folders = moduleFolders());
 
-    /// The module, or null when it cannot be loaded; `failure` then says why.
-    [[nodiscard]] BrowserModule* module();
+    /// A page, or null when the module cannot be loaded; `failure` then says why.
+    [[nodiscard]] std::unique_ptr<BrowserPage> newPage(const BrowserPageSetup& setup);
     [[nodiscard]] const QString& failure() const { return failure_; }
 
     static QStringList moduleFolders();
 
 private:
+    [[nodiscard]] BrowserModule* module();
+
     QStringList folders_;
     QString failure_;
     BrowserModule* module_ = nullptr;

@@ -56,7 +56,8 @@ void decideOnSandbox()
     std::fprintf(stderr, "LexiGrove: pages are shown without the web engine's sandbox: %s.\n", reason);
 }
 
-/// Without OpenGL the engine would show nothing; then its pages are painted by the processor.
+/// Contexts of OpenGL would cost every start of the game, page or no page. Without them the engine shows nothing,
+/// unless the processor paints its pages.
 void decideOnPainting()
 {
     const QOpenGLContext* const shared = QOpenGLContext::globalShareContext();

@@ -61,21 +61,26 @@ void BrowserView::navigate(const QUrl& address)
 {
     const BusyCursor busy;
     wanted_ = address;
-    BrowserModule* const module = loader_.module();
-    if (module == nullptr) {
+    if (!page_ && !openPage()) {
         showFailure(address);
         return;
     }
-    if (!page_) {
-        const auto tellLoaded = [this](bool success) { emit loaded(success); };
-        page_ = module->newPage({rules_, palette().color(QPalette::Window), tellLoaded});
-        layout()->addWidget(page_->widget());
-        setFocusProxy(page_->widget());
-        if (!colours_.empty())
-            page_->setColours(colours_);
-    }
     page_->widget()->show();
     page_->navigate(address);
+}
+
+bool BrowserView::openPage()
+{
+    const auto tellLoaded = [this](bool success) { emit loaded(success); };
+    page_ = loader_.newPage({rules_, palette().color(QPalette::Window), tellLoaded});
+    if (!page_)
+        return false;
+    failure_->hide();
+    layout()->addWidget(page_->widget());
+    setFocusProxy(page_->widget());
+    if (!colours_.empty())
+        page_->setColours(colours_);
+    return true;
 }
 
 void BrowserView::showFailure(const QUrl& address)

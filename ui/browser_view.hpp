@@ -40,6 +40,7 @@ signals:
     void loaded(bool success);
 
 private:
+    [[nodiscard]] bool openPage();
     void showFailure(const QUrl& address);
 
     BrowserLoader& loader_;
