@@ -223,7 +223,7 @@ void MainWindow::closeEvent(QCloseEvent* event)
 void MainWindow::showModels()
 {
     host_.theme.follow(flow_.scheme);
-    const QString caption = toQString(flow_.caption());
+    const QString caption = messageToQString(flow_.caption());
     if (caption != windowTitle())
         setWindowTitle(caption);
     for (const MenuEntry& entry : menuEntries_) {

@@ -1,6 +1,7 @@
 #include "ui/text.hpp"
 
 #include <QFile>
+#include <QStringDecoder>
 
 #include <array>
 
@@ -66,9 +67,16 @@ std::string pathFromQString(const QString& path)
     return QFile::encodeName(path).toStdString();
 }
 
+QString messageToQString(std::string_view text)
+{
+    QStringDecoder utf8(QStringDecoder::Utf8);
+    const QString decoded = utf8(QByteArrayView(text.data(), static_cast<qsizetype>(text.size())));
+    return utf8.hasError() ? toQString(text) : decoded;
+}
+
 QString linesOf(std::string_view text)
 {
-    return toQString(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    return messageToQString(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
 }
 
 QString onOneLine(std::string_view text)

@@ -19,6 +19,10 @@ std::string fromQString(const QString& text);
 QString pathToQString(const std::string& path);
 std::string pathFromQString(const QString& path);
 
+/// A text that may hold a file's path: read as UTF-8, the form of paths, where it is that, else as the game's text. Two
+/// or more accents in a row that happen to be UTF-8 would read wrong; no message has any.
+QString messageToQString(std::string_view text);
+
 /// The text with its CR LF line breaks as the toolkit breaks lines.
 QString linesOf(std::string_view text);
 
