@@ -7,18 +7,12 @@ namespace lexigrove
 
 void Selection::tileClicked(int tile, MouseButton button)
 {
-    const bool inPath = board_.tile(tile).Tag() == "X";
-    if (length_ == 0) {
-        append(tile);
-    } else if (inPath && tile != lastTile_) {
-        clearPath();
-        append(tile);
-    } else if (tile == lastTile_) {
+    if (length_ > 0 && tile == lastTile_) {
         removeLast();
-    } else if (board_.neighbours(lastTile_).contains(tile)) {
-        append(tile);
     } else {
-        clearPath();
+        const bool inPath = board_.tile(tile).Tag() == "X";
+        if (length_ > 0 && (inPath || !board_.neighbours(lastTile_).contains(tile)))
+            clearPath(); // a used tile, or one that does not touch, starts afresh
         append(tile);
     }
     sounds_.play(cue::tile);
