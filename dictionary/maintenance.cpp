@@ -84,6 +84,7 @@ void DictionaryMaintenance::activate()
         option->Enabled = level == dictionary_.loadedLevel();
     }
     Text1 = word;
+    List1.setSearch({}); // the search box comes up empty
 }
 
 void DictionaryMaintenance::chooseOption(int level)

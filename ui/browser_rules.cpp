@@ -32,6 +32,13 @@ BrowserRules BrowserRules::forLocalPage(const QString& path)
     return rules;
 }
 
+BrowserRules BrowserRules::forServices(const QString& address)
+{
+    BrowserRules rules;
+    rules.isServiceHere_ = isOnThisMachine(QUrl(address));
+    return rules;
+}
+
 bool BrowserRules::allows(const BrowserRequest& request) const
 {
     const QString scheme = request.url.scheme();
@@ -41,7 +48,7 @@ bool BrowserRules::allows(const BrowserRequest& request) const
         return scheme == "file" && allowsFile(request);
     if (scheme == "https")
         return true;
-    const bool askedFromHere = request.isPage || isOnThisMachine(request.page);
+    const bool askedFromHere = request.isPage ? isServiceHere_ : isOnThisMachine(request.page);
     return scheme == "http" && isOnThisMachine(request.url) && askedFromHere;
 }
 

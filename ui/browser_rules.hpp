@@ -18,8 +18,8 @@ struct BrowserRequest {
 class BrowserRules
 {
 public:
-    /// The pages of the meaning services: https, and http on the machine itself for a page that came from there.
-    static BrowserRules forServices() { return BrowserRules{}; }
+    /// The pages of a meaning service: https, and http on the machine itself where the service is there.
+    static BrowserRules forServices(const QString& address);
 
     /// One page on the disk (an absolute path) and the pictures in its folder and below; nothing of the network.
     static BrowserRules forLocalPage(const QString& path);
@@ -33,6 +33,7 @@ private:
     [[nodiscard]] bool allowsFile(const BrowserRequest& request) const;
 
     QString localPage_;
+    bool isServiceHere_ = false; ///< on the machine itself
 };
 
 } // namespace lexigrove

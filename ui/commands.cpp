@@ -24,7 +24,7 @@ std::vector<Menu> mainMenus()
     return {
         {text("&Game"),
          {
-             {&Flow::menuNewGame, text("&New Game..."), {QKeySequence::New}, {}, none, false},
+             {&Flow::menuNewGame, text("&New Game..."), {QKeySequence::New}, {}, inPlay, false},
              {&Flow::pause, text("&Pause"), {Qt::CTRL | Qt::Key_P, Qt::Key_Pause}, {}, inGame, false},
              {&Flow::soundButton, text("&Sound"), {Qt::CTRL | Qt::Key_M}, {}, none, true},
              {&Flow::exit, text("E&xit"), {QKeySequence(Qt::CTRL | Qt::Key_Q)}, {}, none, true},
@@ -40,7 +40,7 @@ std::vector<Menu> mainMenus()
          }},
         {text("&View"),
          {
-             {&Flow::showTopTen, text("&Top Ten..."), {Qt::CTRL | Qt::Key_T}, {}, none, false},
+             {&Flow::showTopTen, text("&Top Ten..."), {Qt::CTRL | Qt::Key_T}, {}, inPlay, false},
              {&Flow::showStatistics, text("&Statistics..."), {Qt::CTRL | Qt::Key_S}, {}, inPlay, false},
          }},
         {text("&Help"),

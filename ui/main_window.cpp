@@ -5,9 +5,11 @@
 
 #include <QAction>
 #include <QCloseEvent>
+#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QMenuBar>
 #include <QTimer>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 #include <functional>
@@ -54,12 +56,30 @@ void MainWindow::addMenus()
             if (item.afterLine)
                 list->addSeparator();
             QAction* action = list->addAction(item.keyText.isEmpty() ? item.text : item.text + '\t' + item.keyText);
+            action->setObjectName(item.command == &GameFlow::showStatistics ? "showstatx" : QString());
             action->setShortcuts(item.keys);
             action->setCheckable(item.command == &GameFlow::soundButton);
             connect(action, &QAction::triggered, this, [this, command = item.command] { run(command); });
             menuEntries_.push_back({item, action});
         }
     }
+    auto* corner = new QWidget;
+    auto* row = new QHBoxLayout(corner);
+    row->setContentsMargins(0, 0, Theme::spacing, 0);
+    addCornerButton(*row, "Helpx", QStringLiteral("Help"), &GameFlow::showHelp);
+    addCornerButton(*row, "Aboutx", QStringLiteral("About"), &GameFlow::showAbout);
+    menuBar()->setCornerWidget(corner);
+}
+
+void MainWindow::addCornerButton(QHBoxLayout& row, const QString& name, const QString& caption, Command command)
+{
+    auto* button = new QToolButton;
+    button->setObjectName(name);
+    button->setText(caption);
+    button->setAutoRaise(true);
+    button->setFocusPolicy(Qt::NoFocus);
+    connect(button, &QToolButton::clicked, this, [this, command] { run(command); });
+    row.addWidget(button);
 }
 
 void MainWindow::connectArea()
@@ -119,12 +139,16 @@ void MainWindow::afterInput()
 
 void MainWindow::pickWord(int row)
 {
+    if (flow_.isPaused()) // the words are covered
+        return;
     input([&] { flow_.asInput([&] { flow_.game.state.WordsMade.setCurrent(row, WordsGrid::wordColumn); }); });
 }
 
 /// Spells on with a touching tile; where none shows the letter, the whole word is spelt anew along another path.
 void MainWindow::typeLetter(char letter)
 {
+    if (flow_.swapTile() != 0)
+        flow_.escape(); // typing is another action, also on the marked tile
     const Selection& selection = flow_.game.selection;
     const auto path = typedPath(flow_.game.board, selection, letter);
     if (!path) {

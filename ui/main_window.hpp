@@ -11,6 +11,8 @@
 #include <concepts>
 #include <vector>
 
+class QHBoxLayout;
+
 namespace lexigrove
 {
 
@@ -54,6 +56,7 @@ private:
     };
 
     void addMenus();
+    void addCornerButton(QHBoxLayout& row, const QString& name, const QString& caption, Command command);
     void connectArea();
     void addTimer(const QString& name, int interval, Command tick);
     void afterInput();

@@ -139,8 +139,12 @@ private:
         List1_->setItemDelegate(new WordDelegate(List1_));
         List1_->setEditTriggers(QAbstractItemView::NoEditTriggers);
         connect(List1_, &QListView::clicked, this, [this](const QModelIndex& index) { pick(index); });
-        connect(List1_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
-                [this](const QModelIndex& index) { pick(index); });
+        // The arrow keys select; the focus alone makes a row current, and must leave the word being edited alone.
+        connect(List1_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+                [this](const QItemSelection& selected) {
+                    if (!selected.isEmpty())
+                        pick(selected.indexes().constFirst());
+                });
         count_->setObjectName("Count");
         count_->setProperty("quiet", true);
 

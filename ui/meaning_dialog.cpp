@@ -19,7 +19,7 @@ public:
     MeaningView(Host& gameHost, BrowserLoader& loader, const MeaningForm& form)
         : FormDialog(gameHost, "Form3", form.Caption)
     {
-        auto* const WbDictionary = new BrowserView(loader, BrowserRules::forServices());
+        auto* const WbDictionary = new BrowserView(loader, BrowserRules::forServices(toQString(form.address)));
         WbDictionary->setObjectName("WbDictionary");
         auto* const column = new QVBoxLayout(this);
         column->setContentsMargins({});
@@ -28,7 +28,7 @@ public:
         resize(120 * Theme::grid, 84 * Theme::grid);
         // Before the window is shown: the engine's first view makes the toolkit build a window anew, which would close
         // a dialog that is open.
-        WbDictionary->navigate(QUrl(QString::fromStdString(form.address)));
+        WbDictionary->navigate(QUrl(toQString(form.address)));
     }
 
 protected:

@@ -333,7 +333,8 @@ TEST(BrowserRulesTest, OnlyWhatAViewIsForIsAllowed)
     const auto local = [&](const std::string& name) {
         return QUrl::fromLocalFile(QString::fromStdString(folder.file(name)));
     };
-    const BrowserRules services = BrowserRules::forServices();
+    const BrowserRules services = BrowserRules::forServices("https://words.example");
+    const BrowserRules servicesHere = BrowserRules::forServices("http://localhost:80");
     const BrowserRules help = BrowserRules::forLocalPage(QString::fromStdString(folder.file("lexigrove.htm")));
     const QUrl far("https://words.example/");
     const QUrl near("http://127.0.0.1:80/");
@@ -343,8 +344,9 @@ TEST(BrowserRulesTest, OnlyWhatAViewIsForIsAllowed)
     };
 
     EXPECT_TRUE(page(services, far));
-    EXPECT_TRUE(page(services, near));
-    EXPECT_TRUE(page(services, QUrl("http://localhost/")));
+    EXPECT_FALSE(page(services, near)) << "nor does it lead there";
+    EXPECT_TRUE(page(servicesHere, near));
+    EXPECT_TRUE(page(servicesHere, QUrl("http://localhost/")));
     EXPECT_TRUE(part(services, QUrl("https://other.example/a.png"), far));
     EXPECT_TRUE(part(services, QUrl("data:image/png;base64,AA"), far));
     for (const char* refused : {"http://words.example/", "http://localhost.example/", "ftp://words.example/",
@@ -372,7 +374,7 @@ TEST(BrowserViewTest, WithoutTheEngineTheViewSaysSo)
 {
     const TemporaryFolder empty;
     BrowserLoader loader({QString::fromStdString(empty.path())});
-    BrowserView view(loader, BrowserRules::forServices());
+    BrowserView view(loader, BrowserRules::forServices("https://words.example"));
     view.navigate(QUrl("https://words.example/CAT"));
     const QString text = view.findChild<QLabel*>("Failure")->text();
     EXPECT_TRUE(text.contains("https://words.example/CAT") && text.contains("not installed")) << text.toStdString();
