@@ -16,7 +16,8 @@ namespace
 constexpr int everydayClass = 20;    ///< up to here a word is common though a name be spelled so
 constexpr int contractionClass = 10; ///< up to here a word is common though a contraction be spelled so: "its", "were"
 constexpr int level1Class = 35;      ///< a small dictionary
-constexpr int level2Class = 40;   ///< beyond it names, brands and oaths begin to outnumber words that everybody knows
+constexpr int level2Class = 40; ///< beyond it names, brands and oaths begin to outnumber words that everybody knows
+constexpr int surelyPlainClass = 60;
 constexpr int completeClass = 70; ///< a large dictionary: level 3 has it whole
 constexpr double shared = -2.3;   ///< a tenth, as a logarithm: what is left of a count that belongs to something else
 
@@ -56,6 +57,14 @@ std::vector<Ranked> rankedWords(const Scowl& scowl, const WordCounts& counts, co
     return ranked;
 }
 
+/// SCOWL's large classes list names and abbreviations in lower case too: "texas", "gif". Rare words that are spelled
+/// like one are taken for it.
+bool isPlainWord(const Scowl& scowl, const std::string& word, int size)
+{
+    return isWord(word) &&
+           (size <= surelyPlainClass || (!scowl.names.contains(word) && !scowl.abbreviations.contains(word)));
+}
+
 /// All words of the complete classes, and of the largest class those up to the length at which the level comes closest
 /// to its size.
 std::vector<std::string> wordsOfLevel3(const Scowl& scowl)
@@ -63,7 +72,7 @@ std::vector<std::string> wordsOfLevel3(const Scowl& scowl)
     std::vector<std::string> words;
     std::map<std::size_t, std::vector<std::string>> rareByLength;
     for (const auto& [word, size] : scowl.classes) {
-        if (!isWord(word))
+        if (!isPlainWord(scowl, word, size))
             continue;
         (size <= completeClass ? words : rareByLength[word.size()]).push_back(word);
     }

@@ -18,6 +18,9 @@ namespace fs = std::filesystem;
 /// Names beyond this class are so rare that they make no word suspect.
 constexpr int largestNameClass = 50;
 
+/// Abbreviations beyond this class are so rare that a word of the same letters is the likelier one.
+constexpr int largestAbbreviationClass = 60;
+
 /// Contractions beyond this class ("an't", "we'd") take nothing from the words that are spelled like them, but for the
 /// shortest: "i'd" is common, whatever its class.
 constexpr int commonContractionClass = 35;
@@ -72,6 +75,8 @@ void readList(const ListFile& list, Scowl& scowl)
         } else if (list.kind == "contractions" &&
                    (list.size <= commonContractionClass || line.size() <= shortestContraction)) {
             scowl.bareContractions.insert(lettersInLowerCase(line));
+        } else if (list.kind == "abbreviations" && list.size <= largestAbbreviationClass) {
+            scowl.abbreviations.insert(lettersInLowerCase(line));
         } else if ((list.kind == "upper" || list.kind == "proper-names") && list.size <= largestNameClass) {
             if (line.find('\'') == std::string::npos)
                 scowl.names.insert(lettersInLowerCase(line));

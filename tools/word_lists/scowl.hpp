@@ -13,6 +13,7 @@ namespace lexigrove::tools
 struct Scowl {
     std::unordered_map<std::string, int> classes;     ///< word: the smallest class that lists it, American or British
     std::unordered_set<std::string> names;            ///< names of people, places and things, in lower case
+    std::unordered_set<std::string> abbreviations;    ///< in lower case
     std::unordered_set<std::string> bareContractions; ///< contractions without their apostrophe: "cant", "id"
 };
 
