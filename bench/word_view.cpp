@@ -14,39 +14,14 @@
 #include <QTimer>
 
 using namespace lexigrove;
+using lexigrove::bench::NoDialogs;
+using lexigrove::bench::NoonClock;
+using lexigrove::bench::NoScreen;
 
 namespace
 {
 
 constexpr double frame = 1000.0 / 60;
-
-/// No question is asked here.
-class NoQuestions : public Dialogs
-{
-public:
-    void message(const std::string& text) override { std::printf("%s\n", text.c_str()); }
-    bool confirm(const std::string&) override { return false; }
-    std::string input(const std::string&, const std::string&, const std::string&) override { return {}; }
-    std::string openFile(const OpenFileRequest&) override { return {}; }
-};
-
-class NoScreen : public Screen
-{
-public:
-    void yield() override {}
-    void animationStep(int) override {}
-    void setBusyPointer(bool) override {}
-    void lockBoardUpdates(bool) override {}
-    void waitForAnyInput() override {}
-};
-
-class NoonClock : public Clock
-{
-public:
-    [[nodiscard]] double secondsSinceMidnight() const override { return 43'200; }
-    [[nodiscard]] std::string shortDate() const override { return "1/1/2024"; }
-    [[nodiscard]] std::string shortTime() const override { return "12:00"; }
-};
 
 /// Runs in the open window: fills its list and a list widget of the same size by turns.
 void measure(const WordList& words)
@@ -87,7 +62,7 @@ int main(int argumentCount, char** arguments)
     const bench::BenchFolder folder(arguments[0]);
     replaceFile(folder.prefix() + "L3Ascii.txt", bench::levelThreeList(argumentCount, arguments));
 
-    NoQuestions dialogs;
+    NoDialogs dialogs;
     NoScreen screen;
     const NoonClock clock;
     StatusLine status;

@@ -1,4 +1,5 @@
 #include "platform/text_file.hpp"
+#include "tests/support/temporary_folder.hpp"
 
 #include <cerrno>
 #include <csignal>
@@ -26,14 +27,6 @@ using testing::EndsWith;
 class TextFile : public testing::Test
 {
 protected:
-    void SetUp() override
-    {
-        std::string name = (fs::temp_directory_path() / "text_file_XXXXXX").string();
-        ASSERT_NE(::mkdtemp(name.data()), nullptr);
-        folder_ = name;
-    }
-    void TearDown() override { fs::remove_all(folder_); }
-
     [[nodiscard]] std::string path(const std::string& name) const { return (folder_ / name).string(); }
 
     [[nodiscard]] std::vector<std::string> names() const
@@ -44,7 +37,8 @@ protected:
         return found;
     }
 
-    fs::path folder_;
+    TemporaryFolder temporary_;
+    fs::path folder_ = fs::path(temporary_.path()).parent_path(); // without the closing separator
 };
 
 /// The error's text; empty when nothing failed.

@@ -1,6 +1,6 @@
 #include "platform/program_folder.hpp"
 #include "platform/text_file.hpp"
-#include "tests/tools/temporary_folder.hpp"
+#include "tests/support/temporary_folder.hpp"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -20,17 +20,20 @@ protected:
     ProgramFolder()
     {
         for (const char* name : {"usr/bin", "usr/share/lexigrove", "home"})
-            fs::create_directories(machine_.path / name);
+            fs::create_directories(std::filesystem::path(machine_.path()) / name);
         install("L1Ascii.txt", "ONE\r\n");
         install("Default.sch", "first colours");
     }
 
     void install(const std::string& name, const std::string& content)
     {
-        replaceFile((machine_.path / "usr/share/lexigrove" / name).string(), content);
+        replaceFile((std::filesystem::path(machine_.path()) / "usr/share/lexigrove" / name).string(), content);
     }
 
-    [[nodiscard]] std::string path(const std::string& name) const { return (machine_.path / name).string(); }
+    [[nodiscard]] std::string path(const std::string& name) const
+    {
+        return (std::filesystem::path(machine_.path()) / name).string();
+    }
 
     [[nodiscard]] std::string user(const std::string& name) const
     {

@@ -1,5 +1,5 @@
 #include "platform/text_file.hpp"
-#include "tests/tools/temporary_folder.hpp"
+#include "tests/support/temporary_folder.hpp"
 #include "tools/word_lists/levels.hpp"
 
 #include <algorithm>
@@ -103,7 +103,7 @@ TEST(WordLists, TheNoticesOfTheirSourcesAreShippedWhole)
 TEST(WordLists, MissingOrDamagedSourcesAreNamed)
 {
     const TemporaryFolder empty;
-    const std::string folder = empty.path.string();
+    const std::string folder = empty.path();
     EXPECT_THAT(errorOf([&] { readScowl(folder); }),
                 testing::AllOf(HasSubstr("scowl"), HasSubstr("LEXIGROVE_WORDS_DIR")));
     EXPECT_THAT(errorOf([&] { readOffensiveWords(folder); }), HasSubstr("wordnet-base"));
