@@ -4,7 +4,7 @@
 // FOLDER holds the word lists and colour schemes; by default the build's own. Goals: at most twice the empty window.
 
 #include "ui/front_end.hpp"
-#include "ui/game_icon.hpp"
+#include "ui/look/game_icon.hpp"
 
 #include <QApplication>
 #include <QMainWindow>

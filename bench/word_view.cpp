@@ -4,8 +4,8 @@
 
 #include "bench/level_three.hpp"
 #include "flow/game_flow.hpp"
-#include "ui/maintenance_dialog.hpp"
-#include "ui/text.hpp"
+#include "ui/dialogs/maintenance_dialog.hpp"
+#include "ui/look/text.hpp"
 
 #include <QApplication>
 #include <QListView>

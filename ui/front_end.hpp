@@ -3,13 +3,13 @@
 #include "flow/game_flow.hpp"
 #include "platform/random.hpp"
 #include "platform/status_line.hpp"
-#include "ui/game_windows.hpp"
-#include "ui/host.hpp"
-#include "ui/main_window.hpp"
-#include "ui/qt_clock.hpp"
-#include "ui/qt_dialogs.hpp"
-#include "ui/qt_screen.hpp"
-#include "ui/qt_sound_device.hpp"
+#include "ui/dialogs/game_windows.hpp"
+#include "ui/machine/host.hpp"
+#include "ui/machine/qt_clock.hpp"
+#include "ui/machine/qt_dialogs.hpp"
+#include "ui/machine/qt_screen.hpp"
+#include "ui/machine/qt_sound_device.hpp"
+#include "ui/play/main_window.hpp"
 
 #include <string>
 

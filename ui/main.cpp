@@ -1,8 +1,8 @@
 #include "platform/program_folder.hpp"
 #include "ui/front_end.hpp"
-#include "ui/game_icon.hpp"
+#include "ui/look/game_icon.hpp"
+#include "ui/look/text.hpp"
 #include "ui/start_options.hpp"
-#include "ui/text.hpp"
 
 #include <QApplication>
 #include <QMessageBox>

@@ -1,6 +1,6 @@
 #include "ui/start_options.hpp"
 
-#include "ui/text.hpp"
+#include "ui/look/text.hpp"
 
 #include <string_view>
 

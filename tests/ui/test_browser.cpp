@@ -1,6 +1,6 @@
 #include "tests/ui/dialog_script.hpp"
 #include "tests/ui/played_window.hpp"
-#include "ui/browser_view.hpp"
+#include "ui/pages/browser_view.hpp"
 
 #include <QPushButton>
 #include <QTcpServer>

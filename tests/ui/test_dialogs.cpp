@@ -1,10 +1,10 @@
 #include "controls/geometry.hpp"
 #include "tests/ui/dialog_script.hpp"
 #include "tests/ui/played_window.hpp"
-#include "ui/beside.hpp"
-#include "ui/browser_view.hpp"
-#include "ui/score_dialog.hpp"
-#include "ui/words_view.hpp"
+#include "ui/dialogs/beside.hpp"
+#include "ui/dialogs/score_dialog.hpp"
+#include "ui/pages/browser_view.hpp"
+#include "ui/play/words_view.hpp"
 
 #include <QLabel>
 #include <QLineEdit>

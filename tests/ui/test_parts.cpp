@@ -1,8 +1,8 @@
 #include "platform/leaving.hpp"
-#include "ui/event_gate.hpp"
-#include "ui/qt_sound_device.hpp"
+#include "ui/look/text.hpp"
+#include "ui/machine/event_gate.hpp"
+#include "ui/machine/qt_sound_device.hpp"
 #include "ui/start_options.hpp"
-#include "ui/text.hpp"
 
 #include <QDialog>
 #include <QElapsedTimer>

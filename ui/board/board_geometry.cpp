@@ -1,0 +1,64 @@
+#include "ui/board/board_geometry.hpp"
+
+#include <algorithm>
+#include <cmath>
+
+namespace lexigrove
+{
+
+namespace
+{
+
+constexpr int sideRoom = layout::boardLeft;
+constexpr int boardGap = 120; ///< units that the board stands lower on the screen than in the model
+constexpr int unitsWide = 2 * sideRoom + Board::columns * layout::cellSize;
+constexpr int unitsHigh = layout::boardTop + boardGap + 8 * layout::cellSize + sideRoom;
+constexpr double tileGap = 0.03; ///< of a cell, on each side of a tile
+
+/// The drop row stands where the model has it, the board lower, and what is between on the way.
+double lowered(int top)
+{
+    const double share = static_cast<double>(top - layout::dropRowTop) / (layout::boardTop - layout::dropRowTop);
+    return top + boardGap * std::clamp(share, 0.0, 1.0);
+}
+
+} // namespace
+
+void BoardGeometry::fit(QSizeF room, double ratio)
+{
+    const double scale = std::min(room.width() / unitsWide, room.height() / unitsHigh);
+    ratio_ = ratio;
+    cell_ = std::max(1.0, std::floor(scale * layout::cellSize * ratio)) / ratio;
+}
+
+QSizeF BoardGeometry::sizeFor(double cell)
+{
+    const double scale = cell / layout::cellSize;
+    return {unitsWide * scale, unitsHigh * scale};
+}
+
+QSizeF BoardGeometry::size() const
+{
+    return sizeFor(cell_);
+}
+
+QRectF BoardGeometry::place(int left, int top, int width, int height) const
+{
+    const double scale = cell_ / layout::cellSize;
+    const auto snap = [this](double logical) { return std::round(logical * ratio_) / ratio_; };
+    return {snap(left * scale), snap(lowered(top) * scale), snap(width * scale), snap(height * scale)};
+}
+
+QRectF BoardGeometry::tilePlace(const BoxControl& control, int left, int top) const
+{
+    const double gap = std::max(1.0, std::round(cell_ * tileGap * ratio_)) / ratio_;
+    return place(left, top, control.Width(), control.Height()).adjusted(gap, gap, -gap, -gap);
+}
+
+QRectF BoardGeometry::strip() const
+{
+    return {QPointF(0, 0), QSizeF(size().width(), place(0, layout::dropRowTop, 0, layout::cellSize).bottom() +
+                                                      place(0, layout::dropRowTop, 0, 0).top())};
+}
+
+} // namespace lexigrove

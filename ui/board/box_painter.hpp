@@ -1,0 +1,45 @@
+#pragma once
+
+#include "controls/box_control.hpp"
+#include "ui/look/theme.hpp"
+
+#include <QPixmap>
+#include <QRectF>
+
+class QPainter;
+
+namespace lexigrove
+{
+
+/// A picture of a `BoxControl` with its pixels.
+class BoxPicture : public ControlPicture
+{
+public:
+    /// The natural size is that of the design resolution: a pixel of the picture is a pixel there.
+    explicit BoxPicture(QPixmap pixels);
+
+    const QPixmap pixels;
+};
+
+/// Paints `BoxControl`s at any scale: the control is stretched over a place, its lines keep to whole device pixels, and
+/// letters are drawn at their final size, so that both are crisp.
+class BoxPainter
+{
+public:
+    explicit BoxPainter(const Theme& theme) : theme_(theme) {}
+
+    /// The face and the frame: all but the caption, the picture included. `lifted` is the control under the pointer.
+    void paintFace(QPainter& painter, const BoxControl& control, const QRectF& place, bool lifted = false) const;
+
+    /// The caption in its place, bold or not as the control says. `pixelSize` is the letter's height in logical pixels;
+    /// 0 takes the control's own font size.
+    void paintCaption(QPainter& painter, const BoxControl& control, const QRectF& place, double pixelSize = 0) const;
+
+    /// The face as it is painted: a plain colour, lifted in tone or not.
+    [[nodiscard]] Colour faceColour(const BoxControl& control, bool lifted) const;
+
+private:
+    const Theme& theme_;
+};
+
+} // namespace lexigrove

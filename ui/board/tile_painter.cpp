@@ -1,0 +1,96 @@
+#include "ui/board/tile_painter.hpp"
+
+#include "dictionary/letter_tables.hpp"
+#include "game/board.hpp"
+#include "settings/readable_colours.hpp"
+
+#include <QLineF>
+#include <QPainter>
+#include <QPolygonF>
+
+#include <algorithm>
+
+namespace lexigrove
+{
+
+namespace
+{
+
+// Shares of the tile's width.
+constexpr double letterShare = 0.52;
+constexpr double smallShare = 0.21; ///< value and mark
+constexpr double marginShare = 0.09;
+constexpr double linkShare = 0.11;
+constexpr double linkReach = 0.14; ///< of the tiles' distance, from the middle between them to each end
+
+} // namespace
+
+void TilePainter::paintLetter(QPainter& painter, const BoxControl& tile, const QRectF& place) const
+{
+    if (tile.Caption().empty())
+        return;
+    const double size = place.width();
+    box_.paintCaption(painter, tile, place, size * letterShare);
+
+    const QColor letter = theme_.colour(tile.ForeColor());
+    const double margin = size * marginShare;
+    const QRectF inside = place.adjusted(margin, margin * 0.6, -margin, -margin * 0.6);
+    painter.setPen(letter);
+    painter.setFont(Theme::font(size * smallShare));
+    painter.drawText(inside, Qt::AlignRight | Qt::AlignBottom, QString::number(letterValue(tile.Caption().front())));
+
+    const Colour mark = tile.MaskColor();
+    if (mark > multiplier::plain && mark <= multiplier::highestBonus) {
+        painter.setFont(Theme::font(size * smallShare, true));
+        painter.drawText(inside, Qt::AlignLeft | Qt::AlignTop, QString::number(mark) + QChar(u'\u00D7'));
+    } else if (mark == multiplier::red) {
+        paintRedMark(painter, inside);
+    }
+}
+
+/// A red tile is on its way down.
+void TilePainter::paintRedMark(QPainter& painter, const QRectF& place) const
+{
+    const double size = std::max(6.0, place.width() * smallShare);
+    const QPointF corner = place.topLeft() + QPointF(0, size * 0.3);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(painter.pen().color());
+    painter.setPen(Qt::NoPen);
+    painter.drawPolygon(QPolygonF{{corner, corner + QPointF(size, 0), corner + QPointF(size / 2, size * 0.8)}});
+    painter.restore();
+}
+
+void TilePainter::paintLink(QPainter& painter, const QRectF& from, const QRectF& to) const
+{
+    const QLineF whole(from.center(), to.center());
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(toQColor(theme_.colours().link), from.width() * linkShare, Qt::SolidLine, Qt::RoundCap));
+    painter.drawLine(QLineF(whole.pointAt(0.5 - linkReach), whole.pointAt(0.5 + linkReach)));
+    painter.restore();
+}
+
+void TilePainter::paintStart(QPainter& painter, const QRectF& place) const
+{
+    const double size = place.width() * smallShare * 0.7;
+    const double margin = place.width() * marginShare * 1.3;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(toQColor(theme_.colours().link));
+    painter.drawEllipse(QRectF(place.left() + margin, place.bottom() - margin - size, size, size));
+    painter.restore();
+}
+
+void TilePainter::paintSwapMark(QPainter& painter, const QRectF& place) const
+{
+    const double width = std::max(2.0, place.width() * 0.07);
+    painter.save();
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(toQColor(theme_.colours().accent), width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    painter.drawRect(place.adjusted(width / 2, width / 2, -width / 2, -width / 2));
+    painter.restore();
+}
+
+} // namespace lexigrove

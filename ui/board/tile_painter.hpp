@@ -1,0 +1,44 @@
+#pragma once
+
+#include "controls/box_control.hpp"
+#include "ui/board/box_painter.hpp"
+
+#include <QRectF>
+
+class QPainter;
+
+namespace lexigrove
+{
+
+/// Paints letter tiles: the control with its letter, the letter's value, and a mark for its multiplier, so that nothing
+/// is told by colour alone. Face and letter are painted apart, so that links lie between them.
+class TilePainter
+{
+public:
+    explicit TilePainter(const Theme& theme) : theme_(theme), box_(theme) {}
+
+    void paintFace(QPainter& painter, const BoxControl& tile, const QRectF& place, bool lifted = false) const
+    {
+        box_.paintFace(painter, tile, place, lifted);
+    }
+
+    void paintLetter(QPainter& painter, const BoxControl& tile, const QRectF& place) const;
+
+    /// The bar that joins two tiles that follow one another in a path. It reaches a little into both, and not as far as
+    /// their letters.
+    void paintLink(QPainter& painter, const QRectF& from, const QRectF& to) const;
+
+    /// The dot that tells the first tile of a path.
+    void paintStart(QPainter& painter, const QRectF& place) const;
+
+    /// The frame around the tile whose letter is to be swapped.
+    void paintSwapMark(QPainter& painter, const QRectF& place) const;
+
+private:
+    void paintRedMark(QPainter& painter, const QRectF& place) const;
+
+    const Theme& theme_;
+    BoxPainter box_;
+};
+
+} // namespace lexigrove

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "controls/box_control.hpp"
+#include "ui/look/theme.hpp"
+
+#include <QAbstractButton>
+
+namespace lexigrove
+{
+
+/// A `BoxControl` of a dialog as a button. Its caption, tool tip, colours and state are the model's; the model hears of
+/// presses, releases, keys and the focus. `clicked()` is the release of the mouse button over it, or the space bar.
+class BoxButton : public QAbstractButton
+{
+    Q_OBJECT
+
+public:
+    /// `control` and `theme` outlive the button. The control takes the size of the button.
+    BoxButton(BoxControl& control, const Theme& theme, QWidget* parent = nullptr);
+
+    /// Shows what the model says now.
+    void synchronise();
+
+    [[nodiscard]] QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void enterEvent(QEnterEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+
+private:
+    BoxControl& control_;
+    const Theme& theme_;
+    bool under_ = false; ///< the pointer is over it
+};
+
+} // namespace lexigrove

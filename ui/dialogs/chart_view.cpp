@@ -1,0 +1,90 @@
+#include "ui/dialogs/chart_view.hpp"
+
+#include "controls/geometry.hpp"
+#include "ui/look/text.hpp"
+#include "ui/look/theme.hpp"
+
+#include <QFontInfo>
+#include <QFontMetricsF>
+#include <QPainter>
+
+#include <cmath>
+
+namespace lexigrove
+{
+
+namespace
+{
+
+constexpr double zoom = 1.5;
+constexpr double unit = zoom / unitsPerPixel; ///< logical pixels
+constexpr int unitsPerPoint = 20;
+constexpr int substituteStretch = 87; ///< per cent: other sans-serif fonts run wider than the one the places are for
+
+QFont chartFontOf(const std::string& name, int pointSize)
+{
+    QFont font(toQString(name));
+    font.setStyleHint(name == chartFont ? QFont::Monospace : QFont::SansSerif);
+    font.setPixelSize(static_cast<int>(std::lround(pointSize * unitsPerPoint * unit)));
+    if (name != chartFont && !QFontInfo(font).exactMatch())
+        font.setStretch(substituteStretch);
+    return font;
+}
+
+/// Paints the chart's items, each as it is given.
+class ChartPainter
+{
+public:
+    explicit ChartPainter(QPainter& painter) : painter_(painter) {}
+
+    void operator()(const ChartLine& line) const
+    {
+        painter_.setPen(penOf(line.colour, line.width));
+        painter_.drawLine(place(line.x1, line.y1), place(line.x2, line.y2));
+    }
+
+    void operator()(const ChartFrame& frame) const
+    {
+        painter_.setPen(penOf(frame.colour, frame.width));
+        painter_.drawRect(QRectF(place(frame.left, frame.top), place(frame.right, frame.bottom)));
+    }
+
+    void operator()(const ChartText& text) const
+    {
+        painter_.setPen(toQColor(text.colour));
+        painter_.setFont(chartFontOf(text.font, text.pointSize));
+        const QPointF corner = place(text.x, text.y);
+        painter_.drawText(corner + QPointF(0, QFontMetricsF(painter_.font()).ascent()), toQString(text.text));
+    }
+
+private:
+    static QPointF place(int x, int y) { return {x * unit, y * unit}; }
+
+    static QPen penOf(Colour colour, int width)
+    {
+        return {toQColor(colour), width * zoom, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin};
+    }
+
+    QPainter& painter_;
+};
+
+} // namespace
+
+ChartView::ChartView(const StatisticsForm& form, QWidget* parent) : QWidget(parent), form_(form)
+{
+    setObjectName("Picture1");
+    const Chart chart = form.chart(1);
+    setFixedSize(static_cast<int>(chart.width * unit), static_cast<int>(chart.height * unit));
+}
+
+void ChartView::paintEvent(QPaintEvent*)
+{
+    const QFontMetricsF metrics(chartFontOf(chartFont, chartFontSize));
+    const Chart chart = form_.chart(static_cast<int>(std::lround(metrics.horizontalAdvance('W') / unit)));
+    QPainter painter(this);
+    painter.fillRect(rect(), toQColor(chart.background));
+    for (const auto& item : chart.items)
+        std::visit(ChartPainter(painter), item);
+}
+
+} // namespace lexigrove

@@ -1,0 +1,303 @@
+#include "ui/dialogs/options_dialog.hpp"
+
+#include "ui/dialogs/box_button.hpp"
+#include "ui/dialogs/form_dialog.hpp"
+#include "ui/dialogs/scheme_preview.hpp"
+#include "ui/look/text.hpp"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QVBoxLayout>
+
+#include <functional>
+#include <utility>
+#include <vector>
+
+namespace lexigrove
+{
+
+namespace
+{
+
+/// A radio button or check box that tells what was done to it and leaves to the form what that means: `selected` by any
+/// means, and a mouse button, whichever, `released` over it.
+template <typename Button>
+class ChoiceButton : public Button
+{
+public:
+    using Button::Button;
+
+    std::function<void()> selected;
+    std::function<void()> released;
+
+    void showValue(bool value)
+    {
+        const bool exclusive = this->autoExclusive();
+        this->setAutoExclusive(false); // else the one that is on could not be put off
+        this->setChecked(value);
+        this->setAutoExclusive(exclusive);
+    }
+
+protected:
+    void nextCheckState() override { selected(); }
+
+    void mouseReleaseEvent(QMouseEvent* event) override
+    {
+        const bool over = this->hitButton(event->position().toPoint());
+        Button::mouseReleaseEvent(event);
+        if (over)
+            released();
+    }
+};
+
+/// The combo box of the schemes: it tells when its list is closed, and paints its arrow in the colours of the windows.
+class SchemeBox : public QComboBox
+{
+public:
+    explicit SchemeBox(const Theme& theme) : theme_(theme)
+    {
+        setStyleSheet("QComboBox::drop-down { border: none; width: 24px; } QComboBox::down-arrow { image: none; }");
+    }
+
+    std::function<void()> closed;
+
+    void hidePopup() override
+    {
+        QComboBox::hidePopup();
+        closed();
+    }
+
+protected:
+    void paintEvent(QPaintEvent* event) override
+    {
+        QComboBox::paintEvent(event);
+        const QPointF middle(width() - 2.0 * Theme::grid, height() / 2.0);
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(QPen(toQColor(theme_.colours().cardQuietText), 1.5));
+        painter.drawPolyline(QPolygonF{middle + QPointF(-4, -2), middle + QPointF(0, 2), middle + QPointF(4, -2)});
+    }
+
+private:
+    const Theme& theme_;
+};
+
+/// The schemes of the list are looked at in passing: what cannot be read is told when it is chosen.
+class NoDialogs : public Dialogs
+{
+public:
+    void message(const std::string&) override {}
+    bool confirm(const std::string&) override { return false; }
+    std::string input(const std::string&, const std::string&, const std::string&) override { return {}; }
+    std::string openFile(const OpenFileRequest&) override { return {}; }
+};
+
+void showColour(QWidget& widget, QPalette::ColorRole role, const QColor& colour)
+{
+    QPalette palette = widget.palette();
+    palette.setColor(role, colour);
+    widget.setPalette(palette);
+}
+
+class OptionsView : public FormDialog
+{
+public:
+    OptionsView(Host& gameHost, OptionsForm& form)
+        : FormDialog(gameHost, "Form7", form.Caption),
+          form_(form),
+          Combo1_(new SchemeBox(gameHost.theme)),
+          preview_(new SchemePreview(gameHost.theme)),
+          UsrDictName_(new QLineEdit),
+          GetUserDictName_(new BoxButton(form.GetUserDictName, gameHost.theme))
+    {
+        setUpSchemeBox();
+        setUpUserDictionary();
+
+        auto* const columns = new QHBoxLayout;
+        columns->setSpacing(Theme::gap);
+        columns->addLayout(newFrames({newFrame(form.SoundFrame), newFrame(form.ArrangementFrame),
+                                      newFrame(form.DropFrame), newFrame(form.MeaningsFrame)}));
+        columns->addLayout(
+            newFrames({newSchemeFrame(), newDictionaryFrame(), newComputerFrame(), newFrame(form.StrategyFrame)}));
+
+        auto* const column = newColumn();
+        column->addLayout(columns);
+        column->addLayout(newButtons());
+        findChild<QPushButton*>("Startx")->setFocus();
+        showForm();
+    }
+
+protected:
+    void showForm() override
+    {
+        if (!form_.isVisible()) {
+            accept();
+            return;
+        }
+        for (const auto& show : shown_)
+            show();
+        Combo1_->setCurrentIndex(Combo1_->findText(pathToQString(form_.Combo1.Text)));
+        showColour(*Combo1_, QPalette::Base, host.theme.colour(form_.Combo1.backColor));
+        preview_->show(form_.scheme());
+        showText(*UsrDictName_, form_.UsrDictName);
+        GetUserDictName_->synchronise();
+    }
+
+    void closePressed() override
+    {
+        input([this] { form_.pressExit(); });
+    }
+
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        if (event->key() != Qt::Key_Escape)
+            FormDialog::keyPressEvent(event);
+    }
+
+private:
+    static void showText(QLineEdit& edit, const TextBox& box)
+    {
+        if (edit.text() != pathToQString(box.Text)) // the cursor stays while the player types
+            edit.setText(pathToQString(box.Text));
+        edit.setToolTip(pathToQString(box.ToolTipText));
+        edit.setEnabled(box.Enabled);
+    }
+
+    template <typename Button>
+    Button* newChoice(Choice& choice)
+    {
+        auto* const button = new ChoiceButton<Button>(toQString(choice.Caption));
+        button->setObjectName(toQString(choice.name));
+        // A check box changes with every click, an option only comes on; its form puts the others off.
+        button->selected = [this, &choice] {
+            input([&] { form_.setValue(choice, std::is_same_v<Button, QRadioButton> || !choice.Value); });
+        };
+        button->released = [this, &choice] { input([&] { form_.mouseReleased(choice); }); };
+        shown_.emplace_back([button, &choice] { button->showValue(choice.Value); });
+        return button;
+    }
+
+    QGroupBox* newFrame(ChoiceFrame& frame)
+    {
+        auto* const box = new QGroupBox(toQString(frame.Caption), this);
+        box->setToolTip(toQString(frame.ToolTipText));
+        auto* const choices = new QVBoxLayout(box);
+        choices->setSpacing(Theme::spacing);
+        for (Choice* const choice : frame.choices)
+            choices->addWidget(newChoice<QRadioButton>(*choice));
+        shown_.emplace_back([box, &frame] { box->setEnabled(frame.Enabled); });
+        return box;
+    }
+
+    QGroupBox* newSchemeFrame()
+    {
+        QGroupBox* const box = newFrame(form_.SchemeFrame);
+        box->layout()->addWidget(preview_); // above the box, whose list opens downwards
+        box->layout()->addWidget(Combo1_);
+        shown_.emplace_back(
+            [this, box] { showColour(*box, QPalette::Window, host.theme.colour(form_.SchemeFrame.backColor)); });
+        return box;
+    }
+
+    /// The name of the player's own dictionary stands beside its choice, the last one.
+    QGroupBox* newDictionaryFrame()
+    {
+        QGroupBox* const box = newFrame(form_.DictionaryFrame);
+        auto* const choices = static_cast<QBoxLayout*>(box->layout());
+        auto* const Option2 = box->findChild<QWidget*>("Option2");
+        choices->removeWidget(Option2);
+        auto* const custom = new QHBoxLayout;
+        custom->setSpacing(Theme::spacing);
+        custom->addWidget(Option2);
+        custom->addWidget(UsrDictName_, 1);
+        custom->addWidget(GetUserDictName_);
+        choices->addLayout(custom);
+        return box;
+    }
+
+    QGroupBox* newComputerFrame()
+    {
+        QGroupBox* const box = newFrame(form_.ComputerFrame);
+        box->layout()->addWidget(newChoice<QCheckBox>(form_.Check1));
+        return box;
+    }
+
+    /// A column of frames; what height is left over goes to the last one.
+    static QVBoxLayout* newFrames(std::initializer_list<QGroupBox*> frames)
+    {
+        auto* const column = new QVBoxLayout;
+        column->setSpacing(Theme::gap);
+        for (QGroupBox* const frame : frames)
+            column->addWidget(frame);
+        return column;
+    }
+
+    void setUpSchemeBox()
+    {
+        Combo1_->setObjectName("Combo1");
+        Combo1_->setPlaceholderText(pathToQString(form_.Combo1.Text));
+        Combo1_->setIconSize(SchemePreview::iconSize);
+        for (const std::string& name : form_.Combo1.list) {
+            ColourScheme& scheme = listed_.emplace_back(form_.folder(), noDialogs_);
+            scheme.load(name);
+            Combo1_->addItem(SchemePreview::icon(scheme, devicePixelRatio()), pathToQString(name));
+        }
+        connect(Combo1_, &QComboBox::highlighted, this,
+                [this](int index) { preview_->show(listed_.at(static_cast<std::size_t>(index))); });
+        connect(Combo1_, &QComboBox::textActivated, this, [this](const QString& name) {
+            input([&] { form_.chooseScheme(pathFromQString(name)); });
+            host.showModels();
+        });
+        Combo1_->closed = [this] { preview_->show(form_.scheme()); };
+    }
+
+    void setUpUserDictionary()
+    {
+        UsrDictName_->setObjectName("UsrDictName");
+        connect(UsrDictName_, &QLineEdit::textEdited, this,
+                [this](const QString& text) { input([&] { form_.typeUserDictName(pathFromQString(text)); }); });
+        GetUserDictName_->setObjectName("GetUserDictName");
+        connect(GetUserDictName_, &QAbstractButton::clicked, this,
+                [this] { input([this] { form_.browseUserDictionary(); }); });
+    }
+
+    QHBoxLayout* newButtons()
+    {
+        auto* const Startx = newButton("Startx", form_.Startx.Caption, form_.Startx.ToolTipText);
+        auto* const PSBoard = newButton("PSBoard", form_.PSBoard.Caption, form_.PSBoard.ToolTipText);
+        auto* const Exitx = newButton("Exitx", form_.Exitx.Caption, form_.Exitx.ToolTipText);
+        Startx->setProperty("primary", true);
+        Startx->setDefault(true);
+        connect(Startx, &QPushButton::clicked, this, [this] { input([this] { form_.pressStart(); }); });
+        connect(PSBoard, &QPushButton::clicked, this, [this] { input([this] { form_.presetBoard(); }); });
+        connect(Exitx, &QPushButton::clicked, this, [this] { closePressed(); });
+        return newButtonRow({Startx, PSBoard, Exitx});
+    }
+
+    OptionsForm& form_;
+    SchemeBox* Combo1_;
+    SchemePreview* preview_;
+    QLineEdit* UsrDictName_;
+    BoxButton* GetUserDictName_;
+    NoDialogs noDialogs_;
+    std::vector<ColourScheme> listed_;         ///< the schemes of the box
+    std::vector<std::function<void()>> shown_; ///< each shows one control of the form
+};
+
+} // namespace
+
+void OptionsDialog::show(OptionsForm& form)
+{
+    OptionsView view(host_, form);
+    host_.gate.exec(view);
+}
+
+} // namespace lexigrove

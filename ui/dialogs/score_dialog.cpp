@@ -1,0 +1,136 @@
+#include "ui/dialogs/score_dialog.hpp"
+
+#include "ui/dialogs/form_dialog.hpp"
+#include "ui/look/text.hpp"
+
+#include <QFontDatabase>
+#include <QFontInfo>
+#include <QHBoxLayout>
+#include <QListWidget>
+#include <QPainter>
+#include <QPushButton>
+#include <QShowEvent>
+#include <QStyledItemDelegate>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace lexigrove
+{
+
+namespace
+{
+
+/// The form's own fixed-width font, or the desktop's where that one is not installed.
+QFont listFont(const std::string& name)
+{
+    QFont font(toQString(name));
+    if (!QFontInfo(font).fixedPitch())
+        font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    font.setPixelSize(16);
+    return font;
+}
+
+/// Shows the tab of a score line as the gap between two columns.
+class ScoreLineDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        const QString line = index.data().toString();
+        const QRect row = option.rect.adjusted(Theme::gap, 0, -Theme::gap, 0);
+        const int nameLeft = option.fontMetrics.horizontalAdvance("00000000");
+        painter->setFont(option.font);
+        painter->setPen(option.palette.color(QPalette::Text));
+        painter->drawText(row, Qt::AlignVCenter, line.section('\t', 0, 0));
+        const QRect place = row.adjusted(nameLeft, 0, 0, 0);
+        const QString name = line.section('\t', 1);
+        painter->drawText(place, Qt::AlignVCenter | Qt::TextSingleLine,
+                          option.fontMetrics.elidedText(name, Qt::ElideRight, place.width()));
+    }
+
+    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const override
+    {
+        return {option.fontMetrics.horizontalAdvance(QString(32, '0')), 4 * Theme::grid};
+    }
+};
+
+class ScoreView : public FormDialog
+{
+public:
+    ScoreView(Host& gameHost, ScoreForm& form)
+        : FormDialog(gameHost, "ScoreForm", form.Caption),
+          form_(form),
+          List2_(new QListWidget),
+          AnotherGame_(newButton("AnotherGame", form.AnotherGame.Caption)),
+          ExitProg_(newButton("ExitProg", form.ExitProg.Caption)),
+          CloseForm_(newButton("CloseForm", form.CloseForm.Caption))
+    {
+        List2_->setObjectName("List2");
+        List2_->setFont(listFont(form.listFont));
+        List2_->setItemDelegate(new ScoreLineDelegate(List2_));
+        List2_->setSelectionMode(QAbstractItemView::NoSelection);
+        List2_->setFocusPolicy(Qt::NoFocus);
+        List2_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        List2_->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
+        List2_->setMinimumSize(48 * Theme::grid, 41 * Theme::grid);
+
+        AnotherGame_->setProperty("primary", true);
+        connect(AnotherGame_, &QPushButton::clicked, this, [this] { input([this] { form_.pressAnotherGame(); }); });
+        connect(ExitProg_, &QPushButton::clicked, this, [this] { input([this] { form_.pressExitProg(); }); });
+        connect(CloseForm_, &QPushButton::clicked, this, [this] { closePressed(); });
+
+        QVBoxLayout* const column = newColumn();
+        column->addWidget(List2_);
+        column->addLayout(newButtonRow({AnotherGame_, ExitProg_, CloseForm_}));
+    }
+
+protected:
+    /// The form asks for the name while the list is in sight.
+    void showEvent(QShowEvent* event) override
+    {
+        FormDialog::showEvent(event);
+        if (!event->spontaneous())
+            QMetaObject::invokeMethod(
+                this, [this] { input([this] { form_.activate(); }); }, Qt::QueuedConnection);
+    }
+
+    void showForm() override
+    {
+        if (!form_.isVisible()) {
+            accept();
+            return;
+        }
+        List2_->clear();
+        for (const std::string& line : form_.List2)
+            List2_->addItem(toQString(line));
+        AnotherGame_->setEnabled(form_.AnotherGame.Enabled);
+        ExitProg_->setEnabled(form_.ExitProg.Enabled);
+        CloseForm_->setEnabled(form_.CloseForm.Enabled);
+        CloseForm_->setFocus();
+    }
+
+    void closePressed() override
+    {
+        input([this] { form_.pressCloseForm(); });
+    }
+
+private:
+    ScoreForm& form_;
+    QListWidget* List2_;
+    QPushButton* AnotherGame_;
+    QPushButton* ExitProg_;
+    QPushButton* CloseForm_;
+};
+
+} // namespace
+
+void ScoreDialog::show(ScoreForm& form)
+{
+    ScoreView view(host_, form);
+    host_.gate.exec(view);
+}
+
+} // namespace lexigrove

@@ -1,0 +1,107 @@
+#include "ui/dialogs/statistics_dialog.hpp"
+
+#include "ui/dialogs/chart_view.hpp"
+#include "ui/dialogs/form_dialog.hpp"
+#include "ui/look/text.hpp"
+
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace lexigrove
+{
+
+namespace
+{
+
+constexpr int rowHeight = 28;
+
+class StatisticsView : public FormDialog
+{
+public:
+    StatisticsView(Host& gameHost, const StatisticsForm& form)
+        : FormDialog(gameHost, "Form4", form.Caption), form_(form)
+    {
+        auto* const areas = new QHBoxLayout;
+        areas->setSpacing(Theme::gap);
+        areas->addLayout(newCaptions());
+        areas->addWidget(newValues("YourColumn", form.YourColumn, 1));
+        areas->addWidget(newValues("Frame2", form.Frame2, 9));
+        areas->addSpacing(Theme::grid);
+        areas->addWidget(new ChartView(form), 0, Qt::AlignTop);
+
+        auto* const Exitx = newButton("Exitx", form.Exitx.Caption);
+        Exitx->setDefault(true);
+        Exitx->setMinimumWidth(14 * Theme::grid);
+        connect(Exitx, &QPushButton::clicked, this, [this] { closePressed(); });
+
+        QVBoxLayout* const column = newColumn();
+        column->addLayout(areas);
+        column->addWidget(Exitx, 0, Qt::AlignRight);
+        layout()->setSizeConstraint(QLayout::SetFixedSize);
+    }
+
+protected:
+    void showForm() override {}
+    void closePressed() override { accept(); }
+
+private:
+    static QLabel* newLabel(const std::string& text, Qt::Alignment alignment)
+    {
+        auto* const label = new QLabel(toQString(text));
+        label->setFixedHeight(rowHeight);
+        label->setAlignment(alignment | Qt::AlignVCenter);
+        label->setTextFormat(Qt::PlainText);
+        return label;
+    }
+
+    QVBoxLayout* newCaptions() const
+    {
+        auto* const rows = new QVBoxLayout;
+        rows->setContentsMargins(0, Theme::grid, 0, Theme::grid);
+        rows->setSpacing(0);
+        rows->addWidget(newLabel("", Qt::AlignLeft));
+        for (std::size_t row = 1; row <= 8; ++row)
+            rows->addWidget(newLabel(form_.rowCaptions[row], Qt::AlignLeft));
+        rows->addStretch();
+        return rows;
+    }
+
+    /// The heading and eight of the value labels.
+    QFrame* newValues(const char* objectName, const Label& heading, std::size_t first) const
+    {
+        auto* const column = new QFrame;
+        column->setObjectName(objectName);
+        column->setProperty("card", true);
+        column->setMinimumWidth(14 * Theme::grid);
+        auto* const rows = new QVBoxLayout(column);
+        rows->setContentsMargins(Theme::gap, Theme::grid, Theme::gap, Theme::grid);
+        rows->setSpacing(0);
+        QLabel* const title = newLabel(heading.Caption, Qt::AlignHCenter);
+        title->setProperty("quiet", true);
+        rows->addWidget(title);
+        for (std::size_t i = first; i < first + 8; ++i) {
+            QLabel* const value = newLabel(form_.sval[i], Qt::AlignHCenter);
+            value->setObjectName("sval" + QString::number(i));
+            value->setFont(Theme::font(14, true));
+            rows->addWidget(value);
+        }
+        rows->addStretch();
+        column->setEnabled(heading.Enabled);
+        return column;
+    }
+
+    const StatisticsForm& form_;
+};
+
+} // namespace
+
+void StatisticsDialog::show(const StatisticsForm& form)
+{
+    StatisticsView view(host_, form);
+    host_.gate.exec(view);
+}
+
+} // namespace lexigrove

@@ -1,0 +1,30 @@
+#include "ui/dialogs/word_list_model.hpp"
+
+#include "ui/look/text.hpp"
+
+namespace lexigrove
+{
+
+WordListModel::WordListModel(const WordView& words, QObject* parent) : QAbstractListModel(parent), words_(words) {}
+
+void WordListModel::refresh()
+{
+    beginResetModel();
+    shownRows_ = words_.rowCount();
+    endResetModel();
+}
+
+int WordListModel::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : shownRows_;
+}
+
+QVariant WordListModel::data(const QModelIndex& index, int role) const
+{
+    // In the middle of an operation the words can be fewer than the rows that the list still shows.
+    if (role != Qt::DisplayRole || !index.isValid() || index.row() >= words_.rowCount())
+        return {};
+    return toQString(words_.row(index.row()));
+}
+
+} // namespace lexigrove

@@ -1,0 +1,246 @@
+#include "ui/look/theme.hpp"
+
+#include "settings/readable_colours.hpp"
+
+#include <QApplication>
+#include <QPainter>
+#include <QPalette>
+#include <QStyleFactory>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <utility>
+
+namespace lexigrove
+{
+
+namespace
+{
+
+Colour fromQColor(const QColor& colour)
+{
+    return rgb(static_cast<unsigned>(colour.red()), static_cast<unsigned>(colour.green()),
+               static_cast<unsigned>(colour.blue()));
+}
+
+/// The toolkit's palette under the numbers of the system colours.
+SystemPalette desktopPalette()
+{
+    const QPalette palette = QApplication::palette();
+    SystemPalette desktop;
+    const auto set = [&](std::size_t index, QPalette::ColorRole role) {
+        desktop.entries[index] = fromQColor(palette.color(QPalette::Active, role));
+    };
+    set(0, QPalette::Window);
+    set(1, QPalette::Window);
+    set(2, QPalette::Highlight);
+    set(4, QPalette::Window);
+    set(5, QPalette::Base);
+    set(6, QPalette::Shadow);
+    set(7, QPalette::WindowText);
+    set(8, QPalette::Text);
+    set(9, QPalette::HighlightedText);
+    set(12, QPalette::Mid);
+    set(13, QPalette::Highlight);
+    set(14, QPalette::HighlightedText);
+    set(15, QPalette::Button);
+    set(16, QPalette::Mid);
+    set(18, QPalette::ButtonText);
+    set(20, QPalette::Light);
+    set(21, QPalette::Dark);
+    set(22, QPalette::Midlight);
+    set(23, QPalette::ToolTipText);
+    set(24, QPalette::ToolTipBase);
+    desktop.entries[17] = fromQColor(palette.color(QPalette::Disabled, QPalette::Text));
+    return desktop;
+}
+
+/// The system colours as they stand in this family of windows.
+SystemPalette familyPalette(const WindowColours& colours)
+{
+    SystemPalette family;
+    family.entries.fill(colours.text);
+    for (const std::size_t ground : {0U, 1U, 4U, 12U})
+        family.entries[ground] = colours.ground;
+    for (const std::size_t line : {6U, 10U, 11U, 16U, 20U, 21U, 22U})
+        family.entries[line] = colours.line;
+    family.entries[2] = family.entries[13] = colours.accent;
+    family.entries[9] = family.entries[14] = colours.accentText;
+    family.entries[5] = family.entries[24] = colours.card;
+    family.entries[8] = family.entries[23] = colours.cardText;
+    family.entries[15] = colours.button;
+    family.entries[18] = colours.buttonText;
+    family.entries[17] = colours.buttonDisabledText;
+    return family;
+}
+
+QPalette palette(const WindowColours& colours)
+{
+    QPalette result;
+    const auto set = [&](QPalette::ColorRole role, Colour colour) { result.setColor(role, toQColor(colour)); };
+    set(QPalette::Window, colours.ground);
+    set(QPalette::WindowText, colours.text);
+    set(QPalette::Base, colours.card);
+    set(QPalette::AlternateBase, mixed(colours.card, colours.cardSelection, 0.5));
+    set(QPalette::Text, colours.cardText);
+    set(QPalette::PlaceholderText, colours.cardQuietText);
+    set(QPalette::Button, colours.button);
+    set(QPalette::ButtonText, colours.buttonText);
+    set(QPalette::BrightText, colours.accentText);
+    set(QPalette::Highlight, colours.accent);
+    set(QPalette::HighlightedText, colours.accentText);
+    set(QPalette::Link, colours.accent);
+    set(QPalette::LinkVisited, colours.accent);
+    set(QPalette::ToolTipBase, colours.card);
+    set(QPalette::ToolTipText, colours.cardText);
+    set(QPalette::Light, colours.card);
+    set(QPalette::Midlight, colours.strip);
+    set(QPalette::Mid, colours.line);
+    set(QPalette::Dark, colours.line);
+    set(QPalette::Shadow, mixed(colours.ground, colours.text, 0.5));
+    for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        result.setColor(QPalette::Disabled, role, toQColor(colours.buttonDisabledText));
+    return result;
+}
+
+QString styleSheet(const WindowColours& colours)
+{
+    QString sheet = QStringLiteral(R"(
+QPushButton { background: @button; color: @buttonText; border: 1px solid @line; border-radius: 6px;
+    padding: 6px 8px; min-height: 18px; }
+QPushButton:hover { background: @buttonHover; }
+QPushButton:pressed { background: @buttonPressed; }
+QPushButton:focus { border-color: @accent; }
+QPushButton:disabled { color: @disabled; }
+QPushButton[primary="true"] { background: @accent; color: @accentText; border-color: @accent; font-weight: bold; }
+QPushButton[primary="true"]:hover { background: @accentHover; }
+QPushButton[primary="true"]:pressed { background: @accentPressed; }
+QPushButton[primary="true"]:focus { border-color: @text; }
+QPushButton[primary="true"]:disabled { background: @strip; color: @disabled; border-color: @line; }
+QDialogButtonBox QPushButton { min-width: 64px; }
+QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }
+QMenuBar { background: @ground; color: @text; border-bottom: 1px solid @line; padding: 2px 8px; }
+QMenuBar::item { background: transparent; padding: 5px 10px; border-radius: 4px; }
+QMenuBar::item:selected { background: @selection; color: @selectionText; }
+QMenu { background: @card; color: @cardText; border: 1px solid @line; padding: 4px; }
+QMenu::item { padding: 6px 24px 6px 20px; border-radius: 4px; }
+QMenu::item:selected { background: @accent; color: @accentText; }
+QMenu::item:disabled { color: @cardDisabled; background: transparent; }
+QMenu::separator { height: 1px; background: @line; margin: 4px 8px; }
+QToolTip { background: @card; color: @cardText; border: 1px solid @line; padding: 4px; }
+QFrame[card="true"] { background: @card; color: @cardText; border: 1px solid @line; border-radius: 6px; }
+QLabel[quiet="true"] { color: @quietText; }
+QLabel[quiet="true"]:disabled { color: @disabled; }
+QLineEdit, QListView, QListWidget, QPlainTextEdit { background: @card; color: @cardText; border: 1px solid @line;
+    border-radius: 4px; padding: 3px; selection-background-color: @accent; selection-color: @accentText; }
+QLineEdit:focus, QListView:focus, QListWidget:focus { border-color: @accent; }
+QLineEdit:disabled { color: @disabled; background: @ground; }
+QGroupBox { border: 1px solid @line; border-radius: 6px; margin-top: 20px; padding: 4px 6px; }
+QGroupBox::title { subcontrol-origin: margin; subcontrol-position: top left; padding: 0 1px 4px 1px; color: @quietText; }
+QGroupBox::title:disabled { color: @disabled; }
+QRadioButton, QCheckBox { spacing: 7px; }
+QRadioButton::indicator, QCheckBox::indicator { width: 14px; height: 14px; border: 1px solid @quietText; background: @card; }
+QRadioButton::indicator { border-radius: 8px; }
+QCheckBox::indicator { border-radius: 4px; }
+QRadioButton::indicator:hover, QCheckBox::indicator:hover { border-color: @accent; }
+QRadioButton::indicator:focus, QCheckBox::indicator:focus { border-color: @accent; }
+QRadioButton::indicator:checked { background: qradialgradient(cx: 0.5, cy: 0.5, radius: 0.5, fx: 0.5, fy: 0.5,
+    stop: 0 @accent, stop: 0.5 @accent, stop: 0.6 @card, stop: 1 @card); }
+QCheckBox::indicator:checked { background: @accent; background-clip: content; padding: 2px; width: 10px; height: 10px;
+    border-radius: 3px; }
+QRadioButton::indicator:disabled, QCheckBox::indicator:disabled { border-color: @line; }
+QRadioButton::indicator:checked:disabled { background: qradialgradient(cx: 0.5, cy: 0.5, radius: 0.5, fx: 0.5, fy: 0.5,
+    stop: 0 @disabled, stop: 0.5 @disabled, stop: 0.6 @card, stop: 1 @card); }
+QRadioButton:focus, QCheckBox:focus { color: @accent; }
+QComboBox { combobox-popup: 0; color: @cardText; border: 1px solid @line; border-radius: 4px; padding: 4px 8px;
+    min-height: 18px; background: palette(base); }
+QComboBox:focus, QComboBox:on { border-color: @accent; }
+QComboBox QAbstractItemView { background: @card; color: @cardText; border: 1px solid @line; padding: 4px;
+    selection-background-color: @accent; selection-color: @accentText; outline: none; }
+QComboBox QAbstractItemView::item { min-height: 26px; }
+QComboBox QAbstractItemView::item:selected { background: @accent; color: @accentText; border-radius: 4px; }
+QScrollBar:vertical { background: transparent; width: 10px; margin: 1px; }
+QScrollBar::handle:vertical { background: @line; border-radius: 4px; min-height: 24px; }
+QScrollBar::handle:vertical:hover { background: @quietText; }
+QScrollBar:horizontal { background: transparent; height: 10px; margin: 1px; }
+QScrollBar::handle:horizontal { background: @line; border-radius: 4px; min-width: 24px; }
+QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }
+QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
+)");
+    const std::array<std::pair<const char*, Colour>, 19> colourNames{{
+        {"@buttonText", colours.buttonText}, // a name stands before those that it begins with
+        {"@buttonHover", colours.buttonHover},
+        {"@buttonPressed", mixed(colours.button, colours.buttonText, 0.15)},
+        {"@button", colours.button},
+        {"@accentText", colours.accentText},
+        {"@accentHover", lifted(colours.accent, colours.accentText)},
+        {"@accentPressed", mixed(colours.accent, rgb(0, 0, 0), 0.15)},
+        {"@accent", colours.accent},
+        {"@disabled", mixed(colours.text, colours.ground, 0.55)},
+        {"@cardDisabled", mixed(colours.cardText, colours.card, 0.55)},
+        {"@cardText", colours.cardText},
+        {"@card", colours.card},
+        {"@selectionText", colours.cardSelectionText},
+        {"@selection", colours.cardSelection},
+        {"@quietText", colours.quietText},
+        {"@strip", colours.strip},
+        {"@line", colours.line},
+        {"@text", colours.text},
+        {"@ground", colours.ground},
+    }};
+    for (const auto& [name, colour] : colourNames)
+        sheet.replace(QLatin1String(name), toQColor(colour).name());
+    return sheet;
+}
+
+} // namespace
+
+QColor toQColor(Colour colour)
+{
+    return {static_cast<int>(redOf(colour)), static_cast<int>(greenOf(colour)), static_cast<int>(blueOf(colour))};
+}
+
+Theme::Theme() : desktop_(desktopPalette())
+{
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+}
+
+void Theme::follow(const ColourScheme& scheme)
+{
+    if (applied_ && scheme.entries() == shown_)
+        return;
+    applied_ = true;
+    shown_ = scheme.entries();
+    colours_ = deriveWindowColours(scheme);
+    family_ = familyPalette(colours_);
+    QApplication::setPalette(palette(colours_));
+    qApp->setStyleSheet(styleSheet(colours_));
+    emit changed();
+}
+
+QColor Theme::colour(Colour colour) const
+{
+    return toQColor(family_.resolve(colour));
+}
+
+QFont Theme::font(double pixelSize, bool bold)
+{
+    QFont font = QApplication::font();
+    font.setPixelSize(std::max(smallestText, static_cast<int>(std::lround(pixelSize))));
+    font.setBold(bold);
+    return font;
+}
+
+void Theme::paintCard(QPainter& painter, const QRectF& place, Colour face, Colour line, double lineWidth)
+{
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(toQColor(face));
+    painter.setPen(QPen(toQColor(line), lineWidth));
+    const double half = lineWidth / 2;
+    painter.drawRoundedRect(place.adjusted(half, half, -half, -half), radius, radius);
+    painter.restore();
+}
+
+} // namespace lexigrove

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "ui/look/theme.hpp"
+#include "ui/machine/event_gate.hpp"
+
+class QWidget;
+
+namespace lexigrove
+{
+
+/// What shows the models: the main window.
+class ModelsView
+{
+public:
+    virtual ~ModelsView() = default;
+
+    /// Shows what the models say now, where it differs from what is shown; the colours of the application included.
+    virtual void showModels() = 0;
+
+    /// The widget over which dialogs stand.
+    virtual QWidget* widget() = 0;
+};
+
+/// What every window of the game has at hand. The ports and windows are made before the game, and the main window after
+/// it, so the main window enters itself here.
+class Host
+{
+public:
+    Theme theme;
+    EventGate gate;
+
+    void setView(ModelsView* view) { view_ = view; }
+
+    /// The parent for a dialog that is about to be shown: the dialog that is open on top, else the main window (a
+    /// question of the start brings it up), null before it exists.
+    [[nodiscard]] QWidget* dialogParent() const;
+
+    /// The main window, null before it exists.
+    [[nodiscard]] QWidget* mainWindow() const { return view_ != nullptr ? view_->widget() : nullptr; }
+
+    /// To be called when a dialog has changed a model that the main window shows (a hint's path, the colours).
+    void showModels() const
+    {
+        if (view_ != nullptr)
+            view_->showModels();
+    }
+
+private:
+    ModelsView* view_ = nullptr;
+};
+
+} // namespace lexigrove

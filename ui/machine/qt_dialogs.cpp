@@ -1,0 +1,65 @@
+#include "ui/machine/qt_dialogs.hpp"
+
+#include "ui/look/text.hpp"
+
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QMessageBox>
+
+namespace lexigrove
+{
+
+namespace
+{
+
+/// The toolkit's form of a filter: "description (patterns)", the patterns separated by blanks.
+QStringList nameFilters(const std::string& filter)
+{
+    const QStringList parts = toQString(filter).split(QChar(u'\0'), Qt::SkipEmptyParts);
+    QStringList filters;
+    for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+        QString patterns = parts[i + 1];
+        filters.append(QStringLiteral("%1 (%2)").arg(parts[i], patterns.replace(u';', u' ')));
+    }
+    return filters;
+}
+
+} // namespace
+
+void QtDialogs::message(const std::string& text)
+{
+    QMessageBox box(QMessageBox::NoIcon, QStringLiteral("LexiGrove"), linesOf(text), QMessageBox::Ok,
+                    host_.dialogParent());
+    box.setTextFormat(Qt::PlainText);
+    host_.gate.exec(box);
+}
+
+bool QtDialogs::confirm(const std::string& text)
+{
+    QMessageBox box(QMessageBox::NoIcon, QStringLiteral("LexiGrove"), linesOf(text), QMessageBox::Yes | QMessageBox::No,
+                    host_.dialogParent());
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(QMessageBox::Yes);
+    box.setEscapeButton(QMessageBox::No);
+    return host_.gate.exec(box) == QMessageBox::Yes;
+}
+
+std::string QtDialogs::input(const std::string& title, const std::string& prompt, const std::string& defaultAnswer)
+{
+    QInputDialog box(host_.dialogParent());
+    box.setWindowTitle(toQString(title));
+    box.setLabelText(linesOf(prompt));
+    box.setTextValue(toQString(defaultAnswer));
+    return host_.gate.exec(box) == QDialog::Accepted ? fromQString(box.textValue()) : std::string();
+}
+
+std::string QtDialogs::openFile(const OpenFileRequest& request)
+{
+    QFileDialog box(host_.dialogParent(), toQString(request.title), pathToQString(request.initialFolder));
+    box.setFileMode(QFileDialog::ExistingFile);
+    box.setNameFilters(nameFilters(request.filter));
+    const bool chosen = host_.gate.exec(box) == QDialog::Accepted && !box.selectedFiles().isEmpty();
+    return chosen ? pathFromQString(box.selectedFiles().constFirst()) : std::string();
+}
+
+} // namespace lexigrove

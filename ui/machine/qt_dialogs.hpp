@@ -1,0 +1,24 @@
+#pragma once
+
+#include "platform/dialogs.hpp"
+#include "ui/machine/host.hpp"
+
+namespace lexigrove
+{
+
+/// The questions as dialogs over the window that is on top.
+class QtDialogs : public Dialogs
+{
+public:
+    explicit QtDialogs(Host& host) : host_(host) {}
+
+    void message(const std::string& text) override;
+    bool confirm(const std::string& text) override;
+    std::string input(const std::string& title, const std::string& prompt, const std::string& defaultAnswer) override;
+    std::string openFile(const OpenFileRequest& request) override;
+
+private:
+    Host& host_;
+};
+
+} // namespace lexigrove

@@ -1,0 +1,134 @@
+#include "ui/machine/qt_screen.hpp"
+
+#include <QApplication>
+#include <QEventLoop>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QTimer>
+
+#include <algorithm>
+
+namespace lexigrove
+{
+
+namespace
+{
+
+using namespace std::chrono_literals;
+
+/// The eye sees no more than about this many pictures a second.
+constexpr auto pictureLength = 8ms;
+
+} // namespace
+
+QtScreen::QtScreen(Host& host) : host_(host)
+{
+    qApp->installEventFilter(this);
+}
+
+void QtScreen::showAndRunEvents()
+{
+    host_.showModels();
+    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents); // a click keeps until the rules are done
+    shown_ = SteadyClock::now(); // taken after the painting: however slow that is, the rules get their share
+    host_.gate.checkpoint();
+}
+
+void QtScreen::yield()
+{
+    if (locked_)
+        return;
+    host_.gate.checkpoint();
+    if (SteadyClock::now() - shown_ >= pictureLength)
+        showAndRunEvents();
+}
+
+void QtScreen::animationStep(int rounds)
+{
+    host_.gate.checkpoint();
+    showAndRunEvents(); // every step is seen, also with a delay of 0, which only does not wait
+    if (rounds <= 0)
+        return;
+    const auto now = SteadyClock::now();
+    stepEnd_ = std::max(stepEnd_, now) + rounds * roundLength;
+    const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(stepEnd_ - now);
+    if (left < 1ms) // a timer cannot wait for less: short steps are waited for together
+        return;
+    QEventLoop loop;
+    QTimer::singleShot(left, Qt::PreciseTimer, &loop, &QEventLoop::quit);
+    host_.gate.exec(loop);
+}
+
+void QtScreen::setBusyPointer(bool busy)
+{
+    if (busy == busyPointer_)
+        return;
+    busyPointer_ = busy;
+    if (busy)
+        QApplication::setOverrideCursor(Qt::BusyCursor);
+    else
+        QApplication::restoreOverrideCursor();
+}
+
+void QtScreen::waitForAnyInput()
+{
+    host_.showModels();
+    QEventLoop loop;
+    struct Waiting {
+        Waiting(QEventLoop*& place, QEventLoop& value) : place_(place) { place_ = &value; }
+        ~Waiting() { place_ = nullptr; }
+        Waiting(const Waiting&) = delete;
+        Waiting& operator=(const Waiting&) = delete;
+        QEventLoop*& place_;
+    } const waiting(waiting_, loop);
+    host_.gate.exec(loop);
+}
+
+bool QtScreen::eventFilter(QObject* receiver, QEvent* event)
+{
+    return useUp(event) || QObject::eventFilter(receiver, event);
+}
+
+/// True when nobody else gets to see the event.
+bool QtScreen::useUp(QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::ShortcutOverride:
+    case QEvent::KeyPress: {
+        auto* key = static_cast<QKeyEvent*>(event);
+        if (waiting_ != nullptr && !key->isAutoRepeat()) {
+            usedKey_ = key->key();
+            waiting_->quit();
+        }
+        const bool used = waiting_ != nullptr || (usedKey_ != 0 && key->key() == usedKey_);
+        if (used)
+            event->accept(); // an accepted override keeps the key from being a shortcut
+        return used;
+    }
+    case QEvent::KeyRelease: {
+        const auto* key = static_cast<QKeyEvent*>(event);
+        if (usedKey_ == 0 || key->key() != usedKey_)
+            return false;
+        if (!key->isAutoRepeat())
+            usedKey_ = 0;
+        return true;
+    }
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+        usedButton_ = Qt::NoButton; // its release went elsewhere
+        if (waiting_ == nullptr)
+            return false;
+        usedButton_ = static_cast<QMouseEvent*>(event)->button();
+        waiting_->quit();
+        return true;
+    case QEvent::MouseButtonRelease:
+        if (usedButton_ == Qt::NoButton || static_cast<QMouseEvent*>(event)->button() != usedButton_)
+            return false;
+        usedButton_ = Qt::NoButton;
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace lexigrove

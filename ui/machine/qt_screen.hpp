@@ -1,0 +1,60 @@
+#pragma once
+
+#include "platform/screen.hpp"
+#include "ui/machine/host.hpp"
+
+#include <QObject>
+
+#include <chrono>
+
+class QEventLoop;
+
+namespace lexigrove
+{
+
+/// The screen as the rules see it: at every yield the main window shows the models, and the toolkit's events run.
+///
+/// A yield costs nothing when the last one was a moment ago: a redraw of every tile yields some hundreds of times.
+class QtScreen : public QObject, public Screen
+{
+    Q_OBJECT
+
+public:
+    explicit QtScreen(Host& host);
+
+    void yield() override;
+
+    /// A step lasts `roundLength` for every round, waited for in the event loop.
+    void animationStep(int rounds) override;
+
+    void setBusyPointer(bool busy) override;
+
+    /// While it is locked yields do nothing, so that nothing is painted and nobody leaves half-way.
+    void lockBoardUpdates(bool locked) override { locked_ = locked; }
+
+    void waitForAnyInput() override;
+
+    /// 250 rounds, the delay that the game starts with, make a step of ten milliseconds.
+    static constexpr std::chrono::microseconds roundLength{40};
+
+    bool eventFilter(QObject* receiver, QEvent* event) override;
+
+private:
+    using SteadyClock = std::chrono::steady_clock;
+
+    void showAndRunEvents();
+    [[nodiscard]] bool useUp(QEvent* event);
+
+    Host& host_;
+    bool locked_ = false;
+    bool busyPointer_ = false;
+    SteadyClock::time_point shown_;   ///< when the models were shown last
+    SteadyClock::time_point stepEnd_; ///< when the current step of an animation is over
+
+    // The input that ends a wait is used up with its release.
+    QEventLoop* waiting_ = nullptr;
+    int usedKey_ = 0;
+    Qt::MouseButton usedButton_ = Qt::NoButton;
+};
+
+} // namespace lexigrove

@@ -1,0 +1,121 @@
+#include "ui/machine/qt_sound_device.hpp"
+
+#include "ui/look/text.hpp"
+#include "ui/machine/sound_player.hpp"
+#include "ui/pages/browser.hpp"
+
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QFileInfo>
+#include <QPluginLoader>
+#include <QTimer>
+
+#include <string_view>
+
+namespace lexigrove
+{
+
+namespace
+{
+
+constexpr std::string_view playCommand = "play ";
+constexpr auto soundThread = "sound";
+constexpr int longestSound = 2200; ///< milliseconds that the program's end waits for a sound
+constexpr int lookAgainAfter = 25; ///< milliseconds
+constexpr int threadEndsWithin = 3500;
+
+/// The toolkit complains aloud where a machine has no sound. In the sound's thread it does so in silence.
+QtMessageHandler& otherThreadsHandler()
+{
+    static QtMessageHandler handler = nullptr; // the toolkit takes a plain function, which cannot keep it
+    return handler;
+}
+
+void handleMessage(QtMsgType type, const QMessageLogContext& context, const QString& text)
+{
+    const bool ofSound = QThread::currentThread()->objectName() == soundThread;
+    if (!ofSound && otherThreadsHandler() != nullptr)
+        otherThreadsHandler()(type, context, text);
+}
+
+std::unique_ptr<SoundPlayer> loadPlayer()
+{
+    for (const QString& folder : BrowserLoader::moduleFolders()) {
+        const QString file = folder + "/lexigrove-sound.so";
+        if (!QFileInfo::exists(file))
+            continue;
+        QPluginLoader loader(file);
+        if (auto* module = qobject_cast<SoundModule*>(loader.instance()))
+            return module->newPlayer();
+    }
+    return nullptr;
+}
+
+} // namespace
+
+/// What lives in the sound's thread.
+class SoundWorker : public QObject
+{
+public:
+    void play(const QString& file)
+    {
+        if (!loaded_) {
+            loaded_ = true;
+            player_ = loadPlayer();
+        }
+        if (player_)
+            player_->play(file);
+    }
+
+    /// Ends the thread when the last sound has ended.
+    void finish(QDeadlineTimer deadline)
+    {
+        if (player_ && player_->isPlaying() && !deadline.hasExpired()) {
+            QTimer::singleShot(lookAgainAfter, this, [this, deadline] { finish(deadline); });
+            return;
+        }
+        player_.reset();
+        thread()->quit();
+    }
+
+private:
+    bool loaded_ = false;
+    std::unique_ptr<SoundPlayer> player_;
+};
+
+QString fileToPlay(const std::string& command)
+{
+    return command.starts_with(playCommand) ? pathToQString(command.substr(playCommand.size())) : QString();
+}
+
+QtSoundDevice::QtSoundDevice() = default;
+
+QtSoundDevice::~QtSoundDevice()
+{
+    if (!worker_)
+        return;
+    QMetaObject::invokeMethod(worker_.get(),
+                              [worker = worker_.get()] { worker->finish(QDeadlineTimer(longestSound)); });
+    if (!thread_.wait(threadEndsWithin)) { // the machine's sound hangs: the program ends all the same
+        thread_.terminate();
+        thread_.wait();
+    }
+}
+
+void QtSoundDevice::send(const std::string& command)
+{
+    const QString file = fileToPlay(command);
+    if (file.isEmpty())
+        return;
+    if (!worker_) {
+        if (otherThreadsHandler() == nullptr)
+            otherThreadsHandler() = qInstallMessageHandler(handleMessage);
+        thread_.setObjectName(soundThread);
+        worker_ = std::make_unique<SoundWorker>();
+        worker_->moveToThread(&thread_);
+        thread_.start();
+    }
+    QMetaObject::invokeMethod(worker_.get(), [worker = worker_.get(), file] { worker->play(file); });
+}
+
+} // namespace lexigrove

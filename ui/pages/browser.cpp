@@ -1,0 +1,77 @@
+#include "ui/pages/browser.hpp"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QPluginLoader>
+
+#include <cstdio>
+#include <utility>
+
+namespace lexigrove
+{
+
+namespace
+{
+
+/// Keeps from the terminal what the engine says at its start about things that are as they are meant to be. Any other
+/// message passes.
+class EngineStart
+{
+public:
+    EngineStart() : before_(qInstallMessageHandler(passOn)) {}
+    ~EngineStart() { qInstallMessageHandler(before_); }
+    EngineStart(const EngineStart&) = delete;
+    EngineStart& operator=(const EngineStart&) = delete;
+
+private:
+    static void passOn(QtMsgType type, const QMessageLogContext& context, const QString& text)
+    {
+        for (const char* known : {
+                 "Qt WebEngine seems to be initialized from a plugin.", // pages need no OpenGL here
+                 "No suitable graphics backend found",                  // nor a graphics card
+                 "Sandboxing disabled by user.",                        // the module says so itself, and why
+             })
+            if (text.startsWith(known))
+                return;
+        std::fprintf(stderr, "%s\n", qPrintable(qFormatLogMessage(type, context, text)));
+    }
+
+    QtMessageHandler before_;
+};
+
+} // namespace
+
+BrowserLoader::BrowserLoader(QStringList folders) : folders_(std::move(folders)) {}
+
+QStringList BrowserLoader::moduleFolders()
+{
+    const QString here = QCoreApplication::applicationDirPath();
+    return {here, here + "/" LEXIGROVE_MODULE_FROM_EXECUTABLE, LEXIGROVE_MODULE_FOLDER};
+}
+
+std::unique_ptr<BrowserPage> BrowserLoader::newPage(const BrowserPageSetup& setup)
+{
+    const EngineStart start;
+    BrowserModule* const engine = module();
+    return engine != nullptr ? engine->newPage(setup) : nullptr;
+}
+
+BrowserModule* BrowserLoader::module()
+{
+    if (module_ != nullptr)
+        return module_;
+    failure_ = "The module lexigrove-browser is not installed.";
+    for (const QString& folder : folders_) {
+        const QString file = folder + "/lexigrove-browser.so";
+        if (!QFileInfo::exists(file))
+            continue;
+        QPluginLoader loader(file);
+        module_ = qobject_cast<BrowserModule*>(loader.instance());
+        if (module_ != nullptr)
+            return module_;
+        failure_ = loader.errorString();
+    }
+    return nullptr;
+}
+
+} // namespace lexigrove

@@ -1,0 +1,237 @@
+#include "ui/pages/browser_module.hpp"
+
+#include <QAuthenticator>
+#include <QFileInfo>
+#include <QLoggingCategory>
+#include <QOpenGLContext>
+#include <QWebEngineCertificateError>
+#include <QWebEngineDownloadRequest>
+#include <QWebEngineFullScreenRequest>
+#include <QWebEngineHistory>
+#include <QWebEnginePage>
+#include <QWebEngineProfile>
+#include <QWebEngineQuotaRequest>
+#include <QWebEngineRegisterProtocolHandlerRequest>
+#include <QWebEngineScript>
+#include <QWebEngineScriptCollection>
+#include <QWebEngineSettings>
+#include <QWebEngineUrlRequestInfo>
+#include <QWebEngineUrlRequestInterceptor>
+#include <QWebEngineView>
+
+#include <cstdio>
+#include <sched.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace lexigrove
+{
+
+namespace
+{
+
+/// Whether the kernel lets a process of this user into namespaces of its own, which the sandbox is built of.
+bool kernelAllowsSandbox()
+{
+    const pid_t child = fork();
+    if (child == 0)
+        _exit(unshare(CLONE_NEWUSER) == 0 && unshare(CLONE_NEWPID | CLONE_NEWNET) == 0 ? 0 : 1);
+    int status = 0;
+    return child > 0 && waitpid(child, &status, 0) == child && WIFEXITED(status) && WEXITSTATUS(status) == 0;
+}
+
+/// The engine runs in its sandbox wherever it can; where it cannot, it would not start at all.
+void decideOnSandbox()
+{
+    const char* reason = nullptr;
+    if (geteuid() == 0)
+        reason = "the game runs as root";
+    else if (!kernelAllowsSandbox())
+        reason = "the kernel refuses it";
+    if (reason == nullptr) {
+        qunsetenv("QTWEBENGINE_DISABLE_SANDBOX");
+        return;
+    }
+    qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
+    std::fprintf(stderr, "LexiGrove: pages are shown without the web engine's sandbox: %s.\n", reason);
+}
+
+/// Contexts of OpenGL would cost every start of the game, page or no page. Without them the engine shows nothing,
+/// unless the processor paints its pages.
+void decideOnPainting()
+{
+    const QOpenGLContext* const shared = QOpenGLContext::globalShareContext();
+    if (shared == nullptr || !shared->isValid())
+        qputenv("QT_QUICK_BACKEND", "software");
+}
+
+/// Refuses what the rules do not allow, before anything is asked of the network or the disk.
+class RequestGuard : public QWebEngineUrlRequestInterceptor
+{
+public:
+    explicit RequestGuard(const BrowserRules& rules) : rules_(rules) {}
+
+    void interceptRequest(QWebEngineUrlRequestInfo& info) override
+    {
+        const auto type = info.resourceType();
+        BrowserRequest request;
+        request.url = info.requestUrl();
+        request.page = info.firstPartyUrl();
+        request.isPage = type == QWebEngineUrlRequestInfo::ResourceTypeMainFrame;
+        request.isImage = type == QWebEngineUrlRequestInfo::ResourceTypeImage;
+        info.block(!rules_.allows(request));
+    }
+
+private:
+    BrowserRules rules_;
+};
+
+/// A page that asks nothing of the player and opens nothing beside itself.
+class GuardedPage : public QWebEnginePage
+{
+public:
+    GuardedPage(QWebEngineProfile* profile, const BrowserRules& rules) : QWebEnginePage(profile), rules_(rules)
+    {
+        QObject::connect(this, &QWebEnginePage::featurePermissionRequested, this,
+                         [this](const QUrl& origin, Feature feature) {
+                             setFeaturePermission(origin, feature, PermissionDeniedByUser);
+                         });
+        QObject::connect(this, &QWebEnginePage::fullScreenRequested, this,
+                         [](QWebEngineFullScreenRequest request) { request.reject(); });
+        QObject::connect(this, &QWebEnginePage::quotaRequested, this,
+                         [](QWebEngineQuotaRequest request) { request.reject(); });
+        QObject::connect(this, &QWebEnginePage::registerProtocolHandlerRequested, this,
+                         [](QWebEngineRegisterProtocolHandlerRequest request) { request.reject(); });
+        QObject::connect(this, &QWebEnginePage::certificateError, this,
+                         [](QWebEngineCertificateError error) { error.rejectCertificate(); });
+        const auto noPassword = [](QAuthenticator* authenticator) { *authenticator = QAuthenticator(); };
+        QObject::connect(this, &QWebEnginePage::authenticationRequired, this,
+                         [noPassword](const QUrl&, QAuthenticator* authenticator) { noPassword(authenticator); });
+        QObject::connect(
+            this, &QWebEnginePage::proxyAuthenticationRequired, this,
+            [noPassword](const QUrl&, QAuthenticator* authenticator, const QString&) { noPassword(authenticator); });
+    }
+
+protected:
+    bool acceptNavigationRequest(const QUrl& url, NavigationType, bool isMainFrame) override
+    {
+        return rules_.allows({url, isMainFrame ? url : this->url(), isMainFrame, false});
+    }
+    QWebEnginePage* createWindow(WebWindowType) override { return nullptr; }
+    QStringList chooseFiles(FileSelectionMode, const QStringList&, const QStringList&) override { return {}; }
+    void javaScriptAlert(const QUrl&, const QString&) override {}
+    bool javaScriptConfirm(const QUrl&, const QString&) override { return false; }
+    bool javaScriptPrompt(const QUrl&, const QString&, const QString&, QString*) override { return false; }
+    void javaScriptConsoleMessage(JavaScriptConsoleMessageLevel, const QString&, int, const QString&) override {}
+
+private:
+    BrowserRules rules_;
+};
+
+void setLimits(QWebEngineSettings& settings)
+{
+    for (const auto refused : {
+             QWebEngineSettings::JavascriptCanOpenWindows,
+             QWebEngineSettings::JavascriptCanAccessClipboard,
+             QWebEngineSettings::JavascriptCanPaste,
+             QWebEngineSettings::AllowWindowActivationFromJavaScript,
+             QWebEngineSettings::AllowGeolocationOnInsecureOrigins,
+             QWebEngineSettings::AllowRunningInsecureContent,
+             QWebEngineSettings::LocalContentCanAccessRemoteUrls,
+             QWebEngineSettings::LocalContentCanAccessFileUrls,
+             QWebEngineSettings::PluginsEnabled,
+             QWebEngineSettings::PdfViewerEnabled,
+             QWebEngineSettings::FullScreenSupportEnabled,
+             QWebEngineSettings::ScreenCaptureEnabled,
+             QWebEngineSettings::WebGLEnabled,
+             QWebEngineSettings::HyperlinkAuditingEnabled,
+             QWebEngineSettings::DnsPrefetchEnabled,
+             QWebEngineSettings::AutoLoadIconsForPage,
+             QWebEngineSettings::NavigateOnDropEnabled,
+         })
+        settings.setAttribute(refused, false);
+    settings.setAttribute(QWebEngineSettings::PlaybackRequiresUserGesture, true);
+    settings.setAttribute(QWebEngineSettings::WebRTCPublicInterfacesOnly, true);
+    settings.setAttribute(QWebEngineSettings::ErrorPageEnabled, true);
+    settings.setUnknownUrlSchemePolicy(QWebEngineSettings::DisallowUnknownUrlSchemes);
+}
+
+/// What gives a page its colours. It runs apart from the page's own scripts, and also where those do not run.
+QWebEngineScript colouring(const PageColours& colours)
+{
+    QString source;
+    for (const auto& [name, colour] : colours)
+        source += QString("document.documentElement.style.setProperty('%1', '%2');").arg(name, colour.name());
+    QWebEngineScript script;
+    script.setInjectionPoint(QWebEngineScript::DocumentReady);
+    script.setWorldId(QWebEngineScript::ApplicationWorld);
+    script.setSourceCode(source);
+    return script;
+}
+
+/// One view with a profile of its own, which lives in memory only and ends with it.
+class EnginePage : public BrowserPage
+{
+public:
+    explicit EnginePage(const BrowserPageSetup& setup)
+        : guard_(setup.rules), page_(&profile_, setup.rules), scripts_(setup.rules.scripts())
+    {
+        profile_.setUrlRequestInterceptor(&guard_);
+        profile_.setPersistentCookiesPolicy(QWebEngineProfile::NoPersistentCookies);
+        profile_.setHttpCacheType(QWebEngineProfile::MemoryHttpCache);
+        QObject::connect(&profile_, &QWebEngineProfile::downloadRequested, &profile_,
+                         [](QWebEngineDownloadRequest* download) { download->cancel(); });
+        setLimits(*page_.settings());
+        page_.setBackgroundColor(setup.ground);
+        if (setup.loaded)
+            QObject::connect(&page_, &QWebEnginePage::loadFinished, &page_, setup.loaded);
+        view_.setContextMenuPolicy(Qt::NoContextMenu);
+        view_.setAcceptDrops(false);
+        view_.setPage(&page_);
+    }
+
+    [[nodiscard]] QWidget* widget() override { return &view_; }
+
+    void navigate(const QUrl& address) override
+    {
+        // The engine's own page about a missing file is made by a script.
+        const bool missing = address.isLocalFile() && !QFileInfo::exists(address.toLocalFile());
+        page_.settings()->setAttribute(QWebEngineSettings::JavascriptEnabled, scripts_ || missing);
+        page_.setUrl(address);
+    }
+
+    [[nodiscard]] QUrl address() const override { return page_.url(); }
+    void back() override { page_.history()->back(); }
+    void forward() override { page_.history()->forward(); }
+
+    void setColours(const PageColours& colours) override
+    {
+        const QWebEngineScript script = colouring(colours);
+        page_.scripts().clear();
+        page_.scripts().insert(script);
+        page_.runJavaScript(script.sourceCode(), script.worldId());
+    }
+
+private:
+    RequestGuard guard_;
+    QWebEngineProfile profile_;
+    GuardedPage page_;
+    bool scripts_;
+    QWebEngineView view_;
+};
+
+} // namespace
+
+BrowserEngine::BrowserEngine()
+{
+    QLoggingCategory::setFilterRules("qt.webenginecontext=false"); // a page of technical data in the terminal
+    decideOnSandbox();
+    decideOnPainting();
+}
+
+std::unique_ptr<BrowserPage> BrowserEngine::newPage(const BrowserPageSetup& setup)
+{
+    return std::make_unique<EnginePage>(setup);
+}
+
+} // namespace lexigrove

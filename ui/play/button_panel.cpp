@@ -1,0 +1,87 @@
+#include "ui/play/button_panel.hpp"
+
+#include "ui/look/text.hpp"
+#include "ui/look/theme.hpp"
+
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include <array>
+
+namespace lexigrove
+{
+
+bool isTimeFor(CommandTime time, const GameFlow& flow)
+{
+    switch (time) {
+    case CommandTime::InGame:
+        return flow.inGame();
+    case CommandTime::InPlay:
+        return flow.inGame() && !flow.isPaused();
+    default:
+        return true;
+    }
+}
+
+ButtonPanel::ButtonPanel(const GameFlow& flow, QWidget* parent) : QWidget(parent), flow_(flow)
+{
+    setObjectName("Frame3");
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(Theme::spacing);
+    std::array<QHBoxLayout*, 2> rows{};
+    for (QHBoxLayout*& row : rows) {
+        row = new QHBoxLayout;
+        row->setSpacing(Theme::spacing);
+        column->addLayout(row);
+    }
+    for (const PanelButton& description : panelButtons()) {
+        QPushButton* button = add(description);
+        rows[static_cast<std::size_t>(description.row)]->addWidget(button, description.width);
+        entries_.push_back({description, button});
+        if (description.command == &GameFlow::enterWord)
+            enterWord_ = button;
+        else if (description.command == &GameFlow::pause)
+            pause_ = button;
+        else if (description.command == &GameFlow::soundButton)
+            sound_ = button;
+    }
+    enterWord_->setProperty("primary", true);
+    QSizePolicy policy = enterWord_->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    enterWord_->setSizePolicy(policy);
+}
+
+QPushButton* ButtonPanel::add(const PanelButton& description)
+{
+    auto* button = new QPushButton(description.text, this);
+    button->setObjectName(description.name);
+    button->setAccessibleName(description.text);
+    button->setToolTip(description.toolTip);
+    button->setFocusPolicy(Qt::TabFocus); // a click leaves the keyboard to the word
+    connect(button, &QPushButton::clicked, this, [this, command = description.command] { emit triggered(command); });
+    return button;
+}
+
+void ButtonPanel::synchronise()
+{
+    const GameState& state = flow_.game.state;
+    if (isEnabled() != state.Frame3.Enabled)
+        setEnabled(state.Frame3.Enabled);
+    for (const Entry& entry : entries_)
+        entry.button->setEnabled(isTimeFor(entry.description.time, flow_));
+    if (enterWord_->isHidden() == state.EnterWord.Visible)
+        enterWord_->setVisible(state.EnterWord.Visible);
+    const auto setCaption = [](QPushButton* button, const QString& caption) {
+        if (button->text() != caption) {
+            button->setText(caption);
+            button->setAccessibleName(caption);
+        }
+    };
+    setCaption(enterWord_, toQString(state.EnterWord.Caption));
+    setCaption(pause_, flow_.isPaused() ? tr("Resume") : tr("Pause"));
+    setCaption(sound_, toQString(flow_.sounds.SoundOnOff.Caption));
+}
+
+} // namespace lexigrove

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "ui/look/theme.hpp"
+
+#include <QFrame>
+#include <QLabel>
+
+#include <string>
+
+namespace lexigrove
+{
+
+/// A number of the game on a card, with what it is above it.
+class NumberCard : public QFrame
+{
+    Q_OBJECT
+
+public:
+    /// `name` is the object name of the number's label, `caption` what it counts.
+    NumberCard(const QString& name, const QString& caption, const QString& toolTip, QWidget* parent);
+
+    void show(const std::string& number);
+    void setNumberColour(const QColor& colour);
+    using QFrame::show;
+
+private:
+    QLabel* number_;
+};
+
+} // namespace lexigrove

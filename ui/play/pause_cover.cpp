@@ -1,0 +1,51 @@
+#include "ui/play/pause_cover.hpp"
+
+#include <QMouseEvent>
+#include <QPainter>
+
+#include <algorithm>
+
+namespace lexigrove
+{
+
+PauseCover::PauseCover(const Theme& theme, QWidget* parent) : QWidget(parent), theme_(theme)
+{
+    setObjectName("PauseCover");
+    hide();
+    connect(&theme, &Theme::changed, this, [this] { update(); });
+}
+
+void PauseCover::setCaption(const QString& caption, const QString& hint)
+{
+    if (caption == caption_ && hint == hint_)
+        return;
+    caption_ = caption;
+    hint_ = hint;
+    update();
+}
+
+void PauseCover::paintEvent(QPaintEvent* /*event*/)
+{
+    const WindowColours& colours = theme_.colours();
+    QPainter painter(this);
+    painter.fillRect(rect(), toQColor(colours.ground)); // the corners beside the card
+    Theme::paintCard(painter, rect(), colours.strip, colours.line);
+
+    const double size = std::clamp(width() / 12.0, 20.0, 48.0);
+    const QRectF upper(0, 0, width(), height() / 2.0 + size);
+    painter.setPen(toQColor(colours.text));
+    painter.setFont(Theme::font(size, true));
+    painter.drawText(upper, Qt::AlignHCenter | Qt::AlignBottom, caption_);
+    painter.setPen(toQColor(colours.quietText));
+    painter.setFont(Theme::font(Theme::quietTextSize + 1));
+    const QRectF lower = rect().adjusted(Theme::gap, static_cast<int>(upper.height()) + Theme::grid, -Theme::gap, 0);
+    painter.drawText(lower, Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, hint_);
+}
+
+void PauseCover::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (rect().contains(event->pos()))
+        emit clicked();
+}
+
+} // namespace lexigrove

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "ui/look/theme.hpp"
+
+#include <QWidget>
+
+namespace lexigrove
+{
+
+/// Covers a part of the window while the game is paused. A click on it resumes.
+class PauseCover : public QWidget
+{
+    Q_OBJECT
+
+public:
+    PauseCover(const Theme& theme, QWidget* parent);
+
+    /// The blinking caption, empty while it is dark, and a quiet line below it.
+    void setCaption(const QString& caption, const QString& hint = {});
+    [[nodiscard]] const QString& caption() const { return caption_; }
+
+signals:
+    void clicked();
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* /*event*/) override {} ///< taken: nothing below sees it
+    void mouseReleaseEvent(QMouseEvent* event) override;
+
+private:
+    const Theme& theme_;
+    QString caption_;
+    QString hint_;
+};
+
+} // namespace lexigrove

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "flow/game_flow.hpp"
+#include "ui/board/board_view.hpp"
+#include "ui/play/button_panel.hpp"
+#include "ui/play/clock_view.hpp"
+#include "ui/play/number_card.hpp"
+#include "ui/play/pause_cover.hpp"
+#include "ui/play/word_box.hpp"
+#include "ui/play/words_view.hpp"
+
+#include <QWidget>
+
+namespace lexigrove
+{
+
+/// Board and drop row on the left, as large as fits; on the right the clock and the numbers, the word being built, the
+/// buttons, the words made. The pause covers lie over board and words.
+class PlayArea : public QWidget
+{
+    Q_OBJECT
+
+public:
+    PlayArea(const GameFlow& flow, const Theme& theme, QWidget* parent);
+
+    void synchronise();
+
+    BoardView* board;
+    ClockFrame* clock;
+    ButtonPanel* buttons;
+    WordsView* words;
+
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
+signals:
+    void pauseCoverClicked();
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void buildSide();
+    void layOut();
+    void placeCovers();
+    void showPause();
+    void applyColours();
+
+    const GameFlow& flow_;
+    const Theme& theme_;
+    QWidget* side_;
+    NumberCard* yourScore_;
+    NumberCard* compScore_;
+    NumberCard* tilesLeft_;
+    WordBox* word_;
+    PauseCover* boardCover_;
+    PauseCover* wordsCover_;
+};
+
+} // namespace lexigrove

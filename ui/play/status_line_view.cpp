@@ -1,0 +1,134 @@
+#include "ui/play/status_line_view.hpp"
+
+#include "settings/readable_colours.hpp"
+#include "ui/look/text.hpp"
+
+#include <QFontMetrics>
+#include <QGridLayout>
+#include <QPainter>
+#include <QStyle>
+
+namespace lexigrove
+{
+
+namespace
+{
+
+constexpr int iconSize = 2 * Theme::grid;
+constexpr int textSize = 13;
+
+/// A triangle with an exclamation mark.
+class WarnIcon : public QWidget
+{
+public:
+    WarnIcon(const Theme& theme, QWidget* parent) : QWidget(parent), theme_(theme)
+    {
+        setObjectName("Warn");
+        setFixedSize(iconSize, iconSize);
+        QSizePolicy policy = sizePolicy();
+        policy.setRetainSizeWhenHidden(true);
+        setSizePolicy(policy);
+    }
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override
+    {
+        const Colour accent = theme_.colours().accent;
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.scale(width() / 16.0, height() / 16.0);
+        painter.setPen(QPen(toQColor(accent), 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        painter.setBrush(toQColor(accent));
+        painter.drawPolygon(QPolygonF{{{8, 2}, {14.5, 13.5}, {1.5, 13.5}}});
+        painter.setPen(QPen(toQColor(theme_.colours().accentText), 1.8, Qt::SolidLine, Qt::RoundCap));
+        painter.drawLine(QPointF(8, 6), QPointF(8, 9.4));
+        painter.drawPoint(QPointF(8, 12.2));
+    }
+
+private:
+    const Theme& theme_;
+};
+
+} // namespace
+
+StatusLineView::StatusLineView(const StatusLine& status, const GameState& state, const Theme& theme, QWidget* parent)
+    : QWidget(parent),
+      status_(status),
+      state_(state),
+      theme_(theme),
+      Warn(new WarnIcon(theme, this)),
+      Label1(new QLabel(this)),
+      Label4(new QLabel(this))
+{
+    setObjectName("StatusLine");
+    Label1->setObjectName("Label1");
+    Label1->setAccessibleName(tr("Status"));
+    Label4->setObjectName("Label4");
+    for (QLabel* label : {Label1, Label4}) {
+        label->setTextFormat(Qt::PlainText);
+        label->setProperty("quiet", true);
+        label->setFont(Theme::font(textSize));
+        label->setMinimumWidth(1); // a long message does not widen the window
+    }
+    Label4->setFont(Theme::font(Theme::smallestText));
+    Label4->setWordWrap(true);
+    Label4->hide();
+    auto* rows = new QGridLayout(this);
+    rows->setContentsMargins(Theme::margin, Theme::grid, Theme::margin, Theme::grid);
+    rows->setHorizontalSpacing(Theme::grid);
+    rows->addWidget(Warn, 0, 0);
+    rows->addWidget(Label1, 0, 1);
+    rows->addWidget(Label4, 1, 0, 1, 2);
+    rows->setColumnStretch(1, 1);
+    rows->setRowMinimumHeight(0, iconSize + 2);
+    connect(&theme, &Theme::changed, this, [this] { update(); });
+}
+
+void StatusLineView::synchronise()
+{
+    if (status_.Label1 != shown_) {
+        shown_ = status_.Label1;
+        full_ = onOneLine(shown_);
+        elide();
+    }
+    setLoud(status_.Warn || state_.computerTurnInProgress);
+    if (status_.Warn == Warn->isHidden())
+        Warn->setVisible(status_.Warn);
+    if (state_.developerMode == Label4->isHidden())
+        Label4->setVisible(state_.developerMode);
+    const QString description = toQString(state_.Label4.Caption);
+    if (description != Label4->text())
+        Label4->setText(description);
+}
+
+/// What the player has to know stands out from what the pointer happens to rest on.
+void StatusLineView::setLoud(bool loud)
+{
+    if (loud == loud_)
+        return;
+    loud_ = loud;
+    Label1->setProperty("quiet", !loud);
+    Label1->style()->unpolish(Label1);
+    Label1->style()->polish(Label1);
+}
+
+void StatusLineView::elide()
+{
+    const QString fitting = QFontMetrics(Label1->font()).elidedText(full_, Qt::ElideRight, Label1->width());
+    Label1->setText(fitting);
+    Label1->setToolTip(fitting == full_ ? QString() : full_);
+}
+
+void StatusLineView::resizeEvent(QResizeEvent* /*event*/)
+{
+    layout()->activate();
+    elide();
+}
+
+void StatusLineView::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter painter(this);
+    painter.fillRect(QRect(0, 0, width(), 1), toQColor(theme_.colours().line));
+}
+
+} // namespace lexigrove

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "game/game_state.hpp"
+#include "platform/status_line.hpp"
+#include "ui/look/theme.hpp"
+
+#include <QLabel>
+#include <QWidget>
+
+namespace lexigrove
+{
+
+/// The line at the bottom: the icon `Warn`, the label `Label1`, and in developer mode `Label4` below them.
+class StatusLineView : public QWidget
+{
+    Q_OBJECT
+
+public:
+    StatusLineView(const StatusLine& status, const GameState& state, const Theme& theme, QWidget* parent);
+
+    void synchronise();
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void elide();
+    void setLoud(bool loud);
+
+    const StatusLine& status_;
+    const GameState& state_;
+    const Theme& theme_;
+    QWidget* Warn;
+    QLabel* Label1;
+    QLabel* Label4;
+    std::string shown_;
+    bool loud_ = false;
+    QString full_; ///< the whole message, where the label shows only its beginning
+};
+
+} // namespace lexigrove
