@@ -116,7 +116,7 @@ Lines showMeaning(CommandContext& context, const std::string& typed)
     WordsGrid& WordsMade = context.flow.game.state.WordsMade;
     if (WordsMade.Rows() == 1)
         throw CommandError("no word has been made: " + typed);
-    WordsMade.setCurrent(numberIn("row", typed, 1, WordsMade.Rows() - 1), WordsGrid::wordColumn);
+    WordsMade.setCurrent(numberIn("row", typed, 1, WordsMade.Rows() - 1));
     context.flow.showMeaning();
     return {};
 }

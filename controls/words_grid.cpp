@@ -6,70 +6,86 @@
 namespace lexigrove
 {
 
-WordsGrid::WordsGrid() : rows_(1)
+namespace
 {
-    for (std::size_t column = 0; column < columnCount; ++column)
-        rows_[0].cells[column] = {columns[column].heading, system_colour::buttonFace, system_colour::buttonText};
+
+/// The small letter of a capital one in Windows-1252; any other character is itself.
+unsigned char smallLetter(char c)
+{
+    const auto code = static_cast<unsigned char>(c);
+    if ((code >= 'A' && code <= 'Z') || (code >= 0xC0 && code <= 0xDE && code != 0xD7))
+        return static_cast<unsigned char>(code + 0x20);
+    if (code == 0x8A || code == 0x8C || code == 0x8E) // S with caron, OE, Z with caron
+        return static_cast<unsigned char>(code + 0x10);
+    return code == 0x9F ? 0xFF : code; // Y with diaeresis
 }
+
+bool isBefore(const WordsRow& a, const WordsRow& b, int column)
+{
+    switch (column) {
+    case WordsGrid::numberColumn:
+        return a.number < b.number;
+    case WordsGrid::scoreColumn:
+        return a.score < b.score;
+    case WordsGrid::lengthColumn:
+        return a.word.size() < b.word.size();
+    default:
+        return std::ranges::lexicographical_compare(a.word, b.word, {}, smallLetter, smallLetter);
+    }
+}
+
+} // namespace
 
 void WordsGrid::clear()
 {
-    rows_.resize(1);
-    setCurrent(0, 0);
+    rows_.clear();
+    setCurrent(0);
 }
 
-void WordsGrid::addRow(std::string_view cells, std::string payload)
+void WordsGrid::add(WordsRow row)
 {
-    insertRow(Rows(), cells, std::move(payload));
+    row.number = Rows();
+    rows_.push_back(std::move(row));
+    ++revision_;
 }
 
-void WordsGrid::insertRow(int position, std::string_view cells, std::string payload)
+void WordsGrid::insertOnTop(WordsRow row)
 {
-    if (position < 1 || position > Rows())
-        throw std::out_of_range("a words grid takes rows from 1 to its row count");
-    GridRow row;
-    row.payload = std::move(payload);
-    for (WordsGridCell& cell : row.cells) {
-        const std::size_t tab = std::min(cells.find('\t'), cells.size());
-        cell.text = cells.substr(0, tab);
-        cells.remove_prefix(std::min(tab + 1, cells.size()));
-    }
-    rows_.insert(rows_.begin() + position, std::move(row));
-    if (row_ >= position)
+    row.number = Rows();
+    rows_.insert(rows_.begin(), std::move(row));
+    if (row_ > 0)
         ++row_;
     ++revision_;
 }
 
-const WordsGridCell& WordsGrid::cell(int row, int column) const
+const WordsRow& WordsGrid::row(int row) const
 {
-    return rowAt(row).cells.at(static_cast<std::size_t>(column));
+    return rows_.at(static_cast<std::size_t>(row) - 1);
 }
 
-const std::string& WordsGrid::payload(int row) const
+std::string WordsGrid::text(int row, int column) const
 {
-    return rowAt(row).payload;
+    const WordsGridColumn& shape = columns.at(static_cast<std::size_t>(column));
+    if (row == 0)
+        return shape.heading;
+    const WordsRow& shown = this->row(row);
+    switch (column) {
+    case numberColumn:
+        return std::to_string(shown.number);
+    case scoreColumn:
+        return std::to_string(shown.score);
+    case lengthColumn:
+        return std::to_string(shown.word.size());
+    default:
+        return shown.word;
+    }
 }
 
-void WordsGrid::setCellColours(int row, int column, Colour backColor, Colour foreColor)
+void WordsGrid::setCurrent(int row)
 {
-    WordsGridCell& cell = rowAt(row).cells.at(static_cast<std::size_t>(column));
-    cell.backColor = backColor;
-    cell.foreColor = foreColor;
-    ++revision_;
-}
-
-void WordsGrid::setHeadingForeColor(Colour foreColor)
-{
-    for (WordsGridCell& cell : rows_[0].cells)
-        cell.foreColor = foreColor;
-    ++revision_;
-}
-
-void WordsGrid::setCurrent(int row, int column)
-{
-    static_cast<void>(cell(row, column)); // refuses a cell that is not there
+    if (row < 0 || row >= Rows())
+        throw std::out_of_range("a words grid has no such row");
     row_ = row;
-    column_ = column;
     ++revision_;
 }
 
@@ -92,38 +108,14 @@ void WordsGrid::headingClicked(int x)
     if (column < 0)
         return;
     const bool descending = Tag == "A";
-    sort(column, descending ? SortDirection::Descending : SortDirection::Ascending);
+    const int current = row_ > 0 ? row(row_).number : 0;
+    std::ranges::stable_sort(rows_, [&](const WordsRow& a, const WordsRow& b) {
+        return descending ? isBefore(b, a, column) : isBefore(a, b, column);
+    });
+    if (current > 0) // no two rows have the same number
+        row_ = static_cast<int>(std::ranges::find(rows_, current, &WordsRow::number) - rows_.begin()) + 1;
     Tag = descending ? "D" : "A";
-}
-
-void WordsGrid::sort(int column, SortDirection direction)
-{
-    std::vector<std::string_view> keys;
-    for (int row = 1; row < Rows(); ++row)
-        keys.emplace_back(text(row, column));
-    const SortBy by = columns[static_cast<std::size_t>(column)].sortBy;
-
-    std::vector<GridRow> sorted;
-    sorted.reserve(rows_.size());
-    sorted.push_back(std::move(rows_[0]));
-    const int current = row_;
-    for (const std::size_t place : sortedOrder(keys, by, direction)) {
-        if (static_cast<int>(place) + 1 == current)
-            row_ = static_cast<int>(sorted.size());
-        sorted.push_back(std::move(rows_[place + 1]));
-    }
-    rows_ = std::move(sorted);
     ++revision_;
-}
-
-WordsGrid::GridRow& WordsGrid::rowAt(int row)
-{
-    return rows_.at(static_cast<std::size_t>(row));
-}
-
-const WordsGrid::GridRow& WordsGrid::rowAt(int row) const
-{
-    return rows_.at(static_cast<std::size_t>(row));
 }
 
 } // namespace lexigrove

@@ -1,12 +1,8 @@
 #pragma once
 
-#include "controls/colour.hpp"
-#include "controls/sort_order.hpp"
-
 #include <array>
 #include <cstdint>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace lexigrove
@@ -18,13 +14,17 @@ struct WordsGridColumn {
     const char* heading;
     int width; ///< units, see geometry.hpp
     CellAlignment alignment;
-    SortBy sortBy;
 };
 
-struct WordsGridCell {
-    std::string text;
-    Colour backColor = system_colour::windowBackground;
-    Colour foreColor = system_colour::windowText;
+enum class Maker { Player, Computer };
+
+/// A word of the grid.
+struct WordsRow {
+    int number = 0; ///< the grid's row count before the row came in; the grid sets it
+    int score = 0;
+    std::string word = {};
+    Maker maker = Maker::Player;
+    std::vector<std::uint8_t> path = {}; ///< the tile numbers of a hint, in order; empty for a word that was made
 };
 
 /// The words grid `WordsMade` of the main window and of the hints window: a heading row and one row a word with the
@@ -38,46 +38,39 @@ public:
     static constexpr int lengthColumn = 2;
     static constexpr int wordColumn = 3;
     static constexpr std::array<WordsGridColumn, columnCount> columns{{
-        {"#", 400, CellAlignment::Centre, SortBy::Number},
-        {"S", 400, CellAlignment::Centre, SortBy::Number},
-        {"L", 300, CellAlignment::Centre, SortBy::Number},
-        {"Word...", 1750, CellAlignment::Left, SortBy::Text},
+        {"#", 400, CellAlignment::Centre},
+        {"S", 400, CellAlignment::Centre},
+        {"L", 300, CellAlignment::Centre},
+        {"Word...", 1750, CellAlignment::Left},
     }};
 
-    WordsGrid();
-
-    /// Leaves the heading row alone, in its colours, and makes it the current row. The sort mark stays.
+    /// Leaves the heading row alone and makes it the current row. The sort mark stays.
     void clear();
 
-    /// Adds a row below all others, or so that it stands at `position` (1 to `Rows`; throws std::out_of_range
-    /// elsewhere). The cells are separated by tabs; missing ones are empty. The payload is what only the rules read,
-    /// such as a path.
-    void addRow(std::string_view cells, std::string payload = {});
-    void insertRow(int position, std::string_view cells, std::string payload = {});
+    /// Adds a row below all others, or directly below the heading.
+    void add(WordsRow row);
+    void insertOnTop(WordsRow row);
 
     /// The number of rows, the heading counted: 1 for an empty grid.
-    [[nodiscard]] int Rows() const { return static_cast<int>(rows_.size()); }
+    [[nodiscard]] int Rows() const { return static_cast<int>(rows_.size()) + 1; }
 
-    // Rows are 0 to Rows - 1 and columns 0 to 3; std::out_of_range elsewhere.
+    /// A word's row, 1 to Rows - 1; std::out_of_range elsewhere.
+    [[nodiscard]] const WordsRow& row(int row) const;
+    /// What a cell shows, the headings' cells included; std::out_of_range outside of the grid.
+    [[nodiscard]] std::string text(int row, int column) const;
 
-    [[nodiscard]] const WordsGridCell& cell(int row, int column) const;
-    [[nodiscard]] const std::string& text(int row, int column) const { return cell(row, column).text; }
-    [[nodiscard]] const std::string& payload(int row) const;
-    void setCellColours(int row, int column, Colour backColor, Colour foreColor);
-    void setHeadingForeColor(Colour foreColor);
-
-    /// The current cell; row 0 (the heading) when no word is current. The current row stays with its word when rows
-    /// come in above it or are sorted.
+    /// The current row; 0 (the heading) when no word is current. It stays with its word when rows come in above it or
+    /// are sorted. `setCurrent` takes 0 to Rows - 1; std::out_of_range elsewhere.
     [[nodiscard]] int Row() const { return row_; }
-    [[nodiscard]] int Col() const { return column_; }
-    void setCurrent(int row, int column);
+    void setCurrent(int row);
 
     /// The column at a horizontal position over the heading, from the running sum of the widths; -1 beside all columns.
     [[nodiscard]] static int columnAt(int x);
 
     /// Sorts by the column under `x` (units), if any: descending when the mark is "A", which then becomes "D";
     /// otherwise ascending, and it becomes "A". One mark serves all columns, so another column is sorted in the
-    /// direction opposite to the last sort.
+    /// direction opposite to the last sort. Words are compared without regard to case; equal rows keep their order in
+    /// both directions.
     void headingClicked(int x);
 
     /// The sort mark: "A", "D", or empty before the first sort.
@@ -87,18 +80,8 @@ public:
     [[nodiscard]] std::uint32_t revision() const { return revision_; }
 
 private:
-    struct GridRow {
-        std::array<WordsGridCell, columnCount> cells;
-        std::string payload;
-    };
-
-    void sort(int column, SortDirection direction);
-    [[nodiscard]] GridRow& rowAt(int row);
-    [[nodiscard]] const GridRow& rowAt(int row) const;
-
-    std::vector<GridRow> rows_; ///< the heading first
+    std::vector<WordsRow> rows_; ///< without the heading
     int row_ = 0;
-    int column_ = 0;
     std::uint32_t revision_ = 0;
 };
 

@@ -32,7 +32,7 @@ EnterResult WordEntry::enterWord()
     state_.statistics.recordWord(word, Statistics::playerBase);
     board_.rebuildNeighbours();
     selection_.clear();
-    addToWordsMade(word, score.score);
+    state_.WordsMade.insertOnTop({.score = score.score, .word = word});
     state_.redTileHold = false;
     return EnterResult::Entered;
 }
@@ -87,17 +87,6 @@ void WordEntry::awardBonusTile(int multiplier)
     board_.tile(number).MaskColor(static_cast<Colour>(multiplier));
     look_.showNormal(board_.tile(number));
     ++state_.bonusTilesOnBoard;
-}
-
-void WordEntry::addToWordsMade(const std::string& word, int score)
-{
-    state_.WordsMade.insertRow(1, wordsMadeRow(state_.WordsMade, word, score));
-}
-
-std::string wordsMadeRow(const WordsGrid& grid, const std::string& word, int score)
-{
-    return std::to_string(grid.Rows()) + '\t' + std::to_string(score) + '\t' + std::to_string(word.size()) + '\t' +
-           word;
 }
 
 } // namespace lexigrove

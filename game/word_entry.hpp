@@ -48,7 +48,6 @@ private:
     [[nodiscard]] bool isAccepted(const std::string& word) const;
     void defuseRedTiles();
     void awardBonusFor(std::size_t wordLength);
-    void addToWordsMade(const std::string& word, int score);
 
     GameState& state_;
     Board& board_;
@@ -59,9 +58,5 @@ private:
     SoundCues& sounds_;
     const Ports& ports_;
 };
-
-/// A row of `WordsMade`: number, score, length and word, separated by tabs. The number is the grid's row count before
-/// the row comes in, the heading row counted.
-std::string wordsMadeRow(const WordsGrid& grid, const std::string& word, int score);
 
 } // namespace lexigrove

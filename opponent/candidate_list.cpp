@@ -67,17 +67,11 @@ std::span<std::uint8_t> CandidateList::add(int score, int length)
     return {tiles_.data() + firstTile, static_cast<std::size_t>(length)};
 }
 
-std::string pathDigits(std::span<const std::uint8_t> path)
+std::string pathItem(std::span<const std::uint8_t> path, const std::array<char, SearchBoard::tileCount + 1>& letters)
 {
     std::string result;
     for (const std::uint8_t tile : path)
         appendDigits(result, tile, 2);
-    return result;
-}
-
-std::string pathItem(std::span<const std::uint8_t> path, const std::array<char, SearchBoard::tileCount + 1>& letters)
-{
-    std::string result = pathDigits(path);
     for (const std::uint8_t tile : path)
         result += letters[tile];
     return result;

@@ -63,9 +63,6 @@ private:
     int bestLengthPosition_ = 0;
 };
 
-/// The tile numbers of a path as one text, two digits each ("051213").
-std::string pathDigits(std::span<const std::uint8_t> path);
-
 /// A path as one text: every tile number in two digits, then the letters that the tiles spell ("051213CAT").
 std::string pathItem(std::span<const std::uint8_t> path, const std::array<char, SearchBoard::tileCount + 1>& letters);
 

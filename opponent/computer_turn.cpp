@@ -78,18 +78,9 @@ void ComputerTurn::play()
     const int score = letterSum(word);
     Label& CompScore = game_.state.CompScore;
     CompScore.Caption = std::to_string(numberOf(CompScore.Caption) + score);
-    listWord(word, score);
+    game_.state.WordsMade.insertOnTop({.score = score, .word = word, .maker = Maker::Computer});
     refillBoard();
     game_.state.statistics.recordWord(word, Statistics::computerBase);
-}
-
-/// The colour of the word's cell tells whose word it was.
-void ComputerTurn::listWord(const std::string& word, int score)
-{
-    WordsGrid& grid = game_.state.WordsMade;
-    grid.insertRow(1, wordsMadeRow(grid, word, score));
-    grid.setCellColours(1, WordsGrid::wordColumn, game_.scheme.plain(scheme_entry::computer),
-                        game_.scheme.computerFore());
 }
 
 void ComputerTurn::refillBoard()

@@ -23,7 +23,6 @@ private:
     [[nodiscard]] int choosePosition(const CandidateList& candidates) const;
     void showSelected(const CandidateList& candidates, int position);
     void play();
-    void listWord(const std::string& word, int score);
     void refillBoard();
     void end();
 

@@ -3,19 +3,6 @@
 namespace lexigrove
 {
 
-namespace
-{
-
-std::vector<int> tilesOf(const std::string& digits)
-{
-    std::vector<int> tiles;
-    for (std::size_t i = 0; i + 1 < digits.size(); i += 2)
-        tiles.push_back((digits[i] - '0') * 10 + (digits[i + 1] - '0'));
-    return tiles;
-}
-
-} // namespace
-
 HintsForm::HintsForm(Game& game, Meanings& meanings) : game_(game), meanings_(meanings)
 {
     BoxControl1.Caption("Close");
@@ -31,17 +18,18 @@ void HintsForm::activate(const CandidateList& candidates)
     visible_ = true;
     result_.clear();
     WordsMade.clear();
-    WordsMade.setHeadingForeColor(game_.scheme.computerFore());
     for (int position = 1; position <= candidates.count(); ++position) {
         if (candidates.item(position).empty()) {
             game_.ports.dialogs.message("form2");
             continue;
         }
-        WordsMade.addRow(wordsMadeRow(WordsMade, candidates.word(position), candidates.score(position)),
-                         pathDigits(candidates.path(position)));
-        WordsMade.setCurrent(WordsMade.Rows() - 1, 0);
+        const auto path = candidates.path(position);
+        WordsMade.add({.score = candidates.score(position),
+                       .word = candidates.word(position),
+                       .path = {path.begin(), path.end()}});
+        WordsMade.setCurrent(WordsMade.Rows() - 1);
     }
-    pathDigits_.clear();
+    pickedPath_.clear();
     shownPath_.clear();
     Caption = std::to_string(WordsMade.Rows() - 1) + " hints";
 }
@@ -49,9 +37,9 @@ void HintsForm::activate(const CandidateList& candidates)
 void HintsForm::pickRow(int row)
 {
     restoreLooks();
-    WordsMade.setCurrent(row, WordsMade.Col());
-    pathDigits_ = WordsMade.payload(row);
-    shownPath_ = tilesOf(pathDigits_);
+    WordsMade.setCurrent(row);
+    pickedPath_ = WordsMade.row(row).path;
+    shownPath_.assign(pickedPath_.begin(), pickedPath_.end());
     for (const int tile : shownPath_)
         game_.look.showSelected(game_.board.tile(tile));
 }
@@ -59,10 +47,10 @@ void HintsForm::pickRow(int row)
 void HintsForm::pressSelect()
 {
     result_.clear();
-    if (!pathDigits_.empty()) {
+    if (!pickedPath_.empty()) {
         restoreLooks();
         game_.selection.clearPath();
-        for (const int tile : tilesOf(pathDigits_))
+        for (const int tile : pickedPath_)
             game_.selection.append(tile);
         result_ = game_.selection.word();
         game_.state.WordTried.Caption = result_;
@@ -79,7 +67,7 @@ void HintsForm::pressClose()
 void HintsForm::pressMeaning()
 {
     const std::string word = currentWord(WordsMade);
-    if (word.empty() || word == "Word...")
+    if (word.empty())
         return;
     restoreLooks();
     meanings_.showMeaning(word);

@@ -56,7 +56,7 @@ private:
 
     Game& game_;
     Meanings& meanings_;
-    std::string pathDigits_; ///< of the hint picked last: tile numbers, two digits each
+    std::vector<std::uint8_t> pickedPath_; ///< of the hint picked last
     std::vector<int> shownPath_;
     std::string result_;
     bool visible_ = false;

@@ -24,7 +24,7 @@ void Meanings::showMeaning(const std::string& word)
 
 std::string currentWord(const WordsGrid& grid)
 {
-    return grid.Row() > 0 ? grid.text(grid.Row(), WordsGrid::wordColumn) : std::string();
+    return grid.Row() > 0 ? grid.row(grid.Row()).word : std::string();
 }
 
 } // namespace lexigrove

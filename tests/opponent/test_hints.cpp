@@ -52,7 +52,7 @@ TEST_F(HintsWindowTest, ShowsOnePathAtATime)
     played.click({20});
     played.frontEnd.onHints = [&](HintsForm& form) {
         EXPECT_EQ(played.flow.game.selection.length(), 0);
-        form.WordsMade.setCurrent(0, 0);
+        form.WordsMade.setCurrent(0);
         form.pressMeaning(); // the heading has none
         form.pickRow(2);
         EXPECT_TRUE(isHighlighted(1) && isHighlighted(2) && isHighlighted(3));
@@ -112,7 +112,7 @@ TEST(WordServices, AnswerOnTheStatusLine)
     }
 
     played.flow.enterWord();
-    played.state().WordsMade.setCurrent(1, 0);
+    played.state().WordsMade.setCurrent(1);
     const std::string window = "window meaning " + played.flow.services.addressOf("CAT");
     played.state().computerTurnInProgress = true;
     EXPECT_EQ(status(&GameFlow::showMeaning), "");

@@ -146,8 +146,9 @@ TEST_P(Playing, WordsAreTyped)
 TEST_P(Playing, HeadingsSortTheWordsAndRowsArePicked)
 {
     WordsGrid& grid = play_.flow().game.state.WordsMade;
-    for (const char* row : {"1\t9\t3\tDOG", "2\t30\t4\tACES", "3\t4\t3\tBEE"})
-        grid.insertRow(1, row);
+    grid.insertOnTop({.score = 9, .word = "DOG"});
+    grid.insertOnTop({.score = 30, .word = "ACES"});
+    grid.insertOnTop({.score = 4, .word = "BEE"});
     play_.window().showModels();
     auto& words = play_.child<WordsView>("WordsMade");
     for (const int width : {900, 1300}) {

@@ -141,7 +141,7 @@ void MainWindow::pickWord(int row)
 {
     if (flow_.isPaused()) // the words are covered
         return;
-    input([&] { flow_.asInput([&] { flow_.game.state.WordsMade.setCurrent(row, WordsGrid::wordColumn); }); });
+    input([&] { flow_.asInput([&] { flow_.game.state.WordsMade.setCurrent(row); }); });
 }
 
 /// Spells on with a touching tile; where none shows the letter, the whole word is spelt anew along another path.

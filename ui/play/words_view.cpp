@@ -143,15 +143,14 @@ void WordsView::paintRow(QPainter& painter, int row) const
     const QRect place = rowRect(row);
     const bool current = row > 0 && row == grid_.Row();
     for (int column = 0; column < WordsGrid::columnCount; ++column) {
-        const WordsGridCell& cell = grid_.cell(row, column);
         const bool word = column == WordsGrid::wordColumn;
-        const bool own = isSystemColour(cell.backColor); // no rule has coloured the cell
-        const Colour ground = own ? (current ? colours.cardSelection : colours.card) : cell.backColor;
+        const bool own = row == 0 || !word || grid_.row(row).maker == Maker::Player;
+        const Colour ground = own ? (current ? colours.cardSelection : colours.card) : colours.computerBack;
         // Headings are the computer's fore colour, which is made for its own ground: on the card it is the computer's
         // colour as a text.
         const Colour text = row == 0 ? colours.computerText
                             : own    ? (current ? colours.cardSelectionText : colours.cardText)
-                                     : cell.foreColor;
+                                     : colours.computerFore;
 
         const QRect cellPlace = columnRect(column).intersected(place);
         painter.fillRect(cellPlace, toQColor(ground));
@@ -160,7 +159,7 @@ void WordsView::paintRow(QPainter& painter, int row) const
         const bool left = WordsGrid::columns[static_cast<std::size_t>(column)].alignment == CellAlignment::Left;
         painter.drawText(cellPlace.adjusted(left ? Theme::grid : 0, 0, 0, 0),
                          Qt::AlignVCenter | static_cast<int>(left ? Qt::AlignLeft : Qt::AlignHCenter),
-                         toQString(cell.text));
+                         toQString(grid_.text(row, column)));
     }
     if (current)
         painter.fillRect(QRect(place.left(), place.top(), 3, place.height()), toQColor(colours.accent));
