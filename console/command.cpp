@@ -1,5 +1,7 @@
 #include "console/command.hpp"
 
+#include "game/board.hpp"
+
 #include <algorithm>
 #include <iterator>
 
@@ -9,16 +11,24 @@ namespace lexigrove
 CommandTable::CommandTable()
 {
     for (auto* const theme : {&setUpCommands, &positionCommands, &playCommands, &lookingCommands, &wordsCommands}) {
-        std::vector<Command> commands = theme();
+        std::vector<ConsoleCommand> commands = theme();
         std::move(commands.begin(), commands.end(), std::back_inserter(commands_));
     }
 }
 
-const Command* CommandTable::find(std::string_view name) const
+const ConsoleCommand* CommandTable::find(std::string_view name) const
 {
-    const auto found =
-        std::find_if(commands_.begin(), commands_.end(), [name](const Command& entry) { return entry.name == name; });
+    const auto found = std::find_if(commands_.begin(), commands_.end(),
+                                    [name](const ConsoleCommand& entry) { return entry.name == name; });
     return found == commands_.end() ? nullptr : &*found;
+}
+
+ConsoleCommand command(std::string_view name, Command input)
+{
+    return command(name, GameFlow::timeOf(input), [input](CommandContext& context) -> Lines {
+        context.flow.perform(input);
+        return {};
+    });
 }
 
 int tileArgument(Arguments& arguments)

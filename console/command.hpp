@@ -1,9 +1,9 @@
 #pragma once
 
 #include "console/arguments.hpp"
-#include "console/console_windows.hpp"
 #include "console/line_channel.hpp"
-#include "flow/game_flow.hpp"
+#include "flow/study.hpp"
+#include "platform/status_line.hpp"
 
 #include <functional>
 #include <string_view>
@@ -18,32 +18,25 @@ class CommandTable;
 /// What the commands reach.
 struct CommandContext {
     GameFlow& flow;
-    StatusLine& status;
-    ConsoleWindows& windows;
+    Study study;
+    const StatusLine& status;
     const CommandTable& commands;
     bool quitting = false; ///< set by `quit`
 };
 
-/// When a command can be given.
-enum class Needs {
-    Nothing,
-    Game, ///< from the first game on
-    Play, ///< while a game is not paused
-};
-
-/// A command: its name, and how its arguments are read and it is carried out. `run` gives the answer's lines, or throws
-/// CommandError before anything has changed.
-struct Command {
+/// A command of the protocol: its name, when it can be given, and how its arguments are read and it is carried out.
+/// `run` gives the answer's lines, or throws CommandError before anything has changed.
+struct ConsoleCommand {
     std::string_view name;
-    Needs needs;
+    When when;
     std::function<Lines(CommandContext&, Arguments&)> run;
 };
 
 /// A command that takes no arguments.
 template <typename Run>
-Command command(std::string_view name, Needs needs, Run run)
+ConsoleCommand command(std::string_view name, When when, Run run)
 {
-    return {name, needs, [run](CommandContext& context, Arguments& arguments) -> Lines {
+    return {name, when, [run](CommandContext& context, Arguments& arguments) -> Lines {
                 arguments.expectEnd();
                 return run(context);
             }};
@@ -51,14 +44,17 @@ Command command(std::string_view name, Needs needs, Run run)
 
 /// A command whose arguments `parse` reads: `run` sees them when the whole line was understood.
 template <typename Parse, typename Run>
-Command command(std::string_view name, Needs needs, Parse parse, Run run)
+ConsoleCommand command(std::string_view name, When when, Parse parse, Run run)
 {
-    return {name, needs, [parse, run](CommandContext& context, Arguments& arguments) -> Lines {
+    return {name, when, [parse, run](CommandContext& context, Arguments& arguments) -> Lines {
                 const auto parsed = parse(arguments);
                 arguments.expectEnd();
                 return run(context, parsed);
             }};
 }
+
+/// A command of the game that takes no arguments and prints nothing.
+ConsoleCommand command(std::string_view name, Command input);
 
 /// All commands, in the order in which they are documented.
 class CommandTable
@@ -67,20 +63,20 @@ public:
     CommandTable();
 
     /// The command of this name, or null.
-    [[nodiscard]] const Command* find(std::string_view name) const;
-    [[nodiscard]] const std::vector<Command>& all() const { return commands_; }
+    [[nodiscard]] const ConsoleCommand* find(std::string_view name) const;
+    [[nodiscard]] const std::vector<ConsoleCommand>& all() const { return commands_; }
 
 private:
-    std::vector<Command> commands_;
+    std::vector<ConsoleCommand> commands_;
 };
 
 // The commands by theme.
 
-std::vector<Command> setUpCommands();
-std::vector<Command> positionCommands(); ///< that set up a position, for studying it
-std::vector<Command> playCommands();
-std::vector<Command> lookingCommands();
-std::vector<Command> wordsCommands();
+std::vector<ConsoleCommand> setUpCommands();
+std::vector<ConsoleCommand> positionCommands(); ///< that set up a position, for studying it
+std::vector<ConsoleCommand> playCommands();
+std::vector<ConsoleCommand> lookingCommands();
+std::vector<ConsoleCommand> wordsCommands();
 
 // Arguments that several commands share.
 

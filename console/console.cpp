@@ -1,5 +1,8 @@
 #include "console/console.hpp"
 
+#include "controls/colour.hpp"
+#include "platform/ports.hpp"
+
 #include <algorithm>
 #include <cstdint>
 #include <random>
@@ -41,7 +44,7 @@ Console::Console(const std::string& folder, std::optional<double> timeOfDay, std
       clock_(makeClock(timeOfDay)),
       random_(timeOfDay ? 0 : machineSeed()),
       sound_(channel_, folder),
-      flow_({dialogs_, screen_, sound_, *clock_, random_, status_}, windows_.windows(), folder)
+      flow_({dialogs_, screen_, sound_, *clock_, random_, status_, windows_}, folder, SystemPalette())
 {
 }
 
@@ -52,7 +55,7 @@ void Console::run()
         if (const auto line = channel_.readLine()) {
             carryOut(*line);
         } else {
-            flow_.exit();
+            flow_.perform(Command::Exit);
             tellExit();
         }
     }
@@ -77,13 +80,11 @@ void Console::carryOut(const std::string& line)
 
 Lines Console::answer(const std::string& name, Arguments& arguments)
 {
-    const Command* const command = commands_.find(name);
+    const ConsoleCommand* const command = commands_.find(name);
     if (command == nullptr)
         throw CommandError("unknown command: " + name);
-    if (command->needs != Needs::Nothing && !flow_.inGame())
-        throw CommandError("no game");
-    if (command->needs == Needs::Play && flow_.isPaused())
-        throw CommandError("the game is paused");
+    if (!flow_.isTime(command->when))
+        throw CommandError(flow_.isPaused() ? "the game is paused" : "no game");
     return command->run(context_, arguments);
 }
 

@@ -44,7 +44,7 @@ private:
     ConsoleWindows windows_{channel_};
     GameFlow flow_;
     const CommandTable commands_;
-    CommandContext context_{flow_, status_, windows_, commands_};
+    CommandContext context_{flow_, Study(flow_), status_, commands_};
 };
 
 } // namespace lexigrove

@@ -34,6 +34,7 @@ public:
     void setBusyPointer(bool /*busy*/) override {}
     void lockBoardUpdates(bool /*locked*/) override {}
     void waitForAnyInput() override {}
+    void inputEnded() override {}
 };
 
 /// Sound cues as events: the file's name without the folder.

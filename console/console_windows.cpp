@@ -2,6 +2,9 @@
 
 #include "console/arguments.hpp"
 #include "console/option_settings.hpp"
+#include "opponent/hints_form.hpp"
+#include "scores/score_form.hpp"
+#include "word_services/meanings.hpp"
 
 namespace lexigrove
 {
@@ -63,7 +66,6 @@ void ConsoleWindows::show(OptionsForm& form)
         if (!answerOptions(form, channel_.readChoice()))
             channel_.writeEvent("options");
     }
-    presetLettersWait = false; // those chosen here are dealt at once
 }
 
 void ConsoleWindows::show(ScoreForm& form)

@@ -1,26 +1,17 @@
 #pragma once
 
 #include "console/line_channel.hpp"
-#include "flow/windows.hpp"
+#include "platform/windows.hpp"
 
 namespace lexigrove
 {
 
 /// The windows that the rules open, as events; the next input lines press their buttons. A reply that presses none has
 /// the event told again.
-class ConsoleWindows : public OptionsWindow,
-                       public ScoreWindow,
-                       public HintsWindow,
-                       public MeaningWindow,
-                       public StatisticsWindow,
-                       public MaintenanceWindow,
-                       public HelpWindow,
-                       public AboutWindow
+class ConsoleWindows : public Windows
 {
 public:
     explicit ConsoleWindows(LineChannel& channel) : channel_(channel) {}
-
-    [[nodiscard]] Windows windows() { return {*this, *this, *this, *this, *this, *this, *this, *this}; }
 
     void show(OptionsForm& form) override;
     void show(ScoreForm& form) override;
@@ -31,11 +22,8 @@ public:
 
     void show(const StatisticsForm& /*form*/) override {}
     void show(DictionaryMaintenance& /*form*/) override {}
-    void show(const HelpForm& /*form*/) override {}
-    void show(const AboutForm& /*form*/) override {}
-
-    /// Preset letters were chosen since the last game was dealt: they count for the next one only.
-    bool presetLettersWait = false;
+    void showHelp(const std::string& /*address*/) override {}
+    void showAbout() override {}
 
 private:
     LineChannel& channel_;

@@ -1,4 +1,11 @@
 #include "console/command.hpp"
+#include "controls/dc.hpp"
+#include "dictionary/dictionary.hpp"
+#include "game/board.hpp"
+#include "game/game_state.hpp"
+#include "game/letter_supply.hpp"
+#include "game/selection.hpp"
+#include "settings/options_form.hpp"
 
 #include <algorithm>
 #include <cctype>
@@ -23,15 +30,15 @@ std::string cell(const BoxControl& tile)
 
 Lines showBoard(CommandContext& context)
 {
-    const Board& board = context.flow.game.board;
+    const Board& board = context.flow.board();
     std::string dropRow;
-    for (std::size_t col = 1; col <= Board::columns; ++col)
-        dropRow += (col > 1 ? " " : "") + cell(board.TopDrop[col]);
+    for (int col = 1; col <= Board::columns; ++col)
+        dropRow += (col > 1 ? " " : "") + cell(board.waiting(col));
     Lines lines{dropRow, std::string(2 * Board::columns - 1, '-')};
-    for (int row = 1; row <= 8; ++row) {
+    for (int row = 1; row <= Board::rows; ++row) {
         std::string text;
         for (int col = 1; col <= Board::columns; ++col)
-            text += (col > 1 ? " " : "") + cell(board.tile(board.Grid(row, col)));
+            text += (col > 1 ? " " : "") + cell(board.tile(row, col));
         lines.push_back(text);
     }
     return lines;
@@ -39,12 +46,12 @@ Lines showBoard(CommandContext& context)
 
 Lines describeTile(CommandContext& context, int tile)
 {
-    return {context.flow.game.board.description(tile)};
+    return {context.flow.board().description(tile)};
 }
 
 Lines hoverTile(CommandContext& context, int tile)
 {
-    const Board& board = context.flow.game.board;
+    const Board& board = context.flow.board();
     if (!board.isVisible(tile))
         throw CommandError("tile " + std::to_string(tile) + " is not on the board");
     context.flow.hoverTile(tile);
@@ -53,7 +60,7 @@ Lines hoverTile(CommandContext& context, int tile)
 
 Lines neighbours(CommandContext& context, int tile)
 {
-    return {context.flow.game.board.Neibors(tile)};
+    return {context.flow.board().Neibors(tile)};
 }
 
 /// A caption or a number of the game that `value` prints.
@@ -64,30 +71,30 @@ struct Value {
 
 const GameState& stateOf(const CommandContext& context)
 {
-    return context.flow.game.state;
+    return context.flow.state();
 }
 
 using Context = CommandContext;
 
 constexpr Value values[] = {
-    {"WordTried", [](const Context& c) { return stateOf(c).WordTried.Caption; }},
-    {"CurrScore", [](const Context& c) { return stateOf(c).CurrScore.Caption; }},
-    {"YourScore", [](const Context& c) { return stateOf(c).YourScore.Caption; }},
-    {"CompScore", [](const Context& c) { return stateOf(c).CompScore.Caption; }},
-    {"TilesLeft", [](const Context& c) { return stateOf(c).TilesLeft.Caption; }},
+    {"WordTried", [](const Context& c) { return c.flow.selection().wordTried(); }},
+    {"CurrScore", [](const Context& c) { return stateOf(c).currScoreText(); }},
+    {"YourScore", [](const Context& c) { return std::to_string(stateOf(c).yourScore); }},
+    {"CompScore", [](const Context& c) { return std::to_string(stateOf(c).compScore); }},
+    {"TilesLeft", [](const Context& c) { return stateOf(c).tilesLeftText(); }},
     {"Label1", [](const Context& c) { return c.status.Label1; }},
-    {"EnterWord", [](const Context& c) { return stateOf(c).EnterWord.Caption; }},
+    {"EnterWord", [](const Context&) { return std::string("Enter Word"); }},
     {"caption", [](const Context& c) { return c.flow.caption(); }},
     {"ticks", [](const Context& c) { return std::to_string(stateOf(c).tickCount); }},
     {"pressure", [](const Context& c) { return std::to_string(stateOf(c).pressure); }},
     {"last_pressure", [](const Context& c) { return std::to_string(stateOf(c).lastPressure); }},
-    {"red_threshold", [](const Context& c) { return std::to_string(c.flow.dictionary.redThreshold()); }},
+    {"red_threshold", [](const Context& c) { return std::to_string(c.flow.dictionary().redThreshold()); }},
     {"red_tiles", [](const Context& c) { return std::to_string(stateOf(c).redTilesOnBoard); }},
     {"red_tiles_used", [](const Context& c) { return std::to_string(stateOf(c).redTilesUsed); }},
     {"bonus_tiles", [](const Context& c) { return std::to_string(stateOf(c).bonusTilesOnBoard); }},
     {"hints_used", [](const Context& c) { return std::to_string(stateOf(c).hintsUsed); }},
     {"words_made", [](const Context& c) { return std::to_string(stateOf(c).wordsMade); }},
-    {"delay", [](const Context& c) { return std::to_string(c.flow.options.settings.dropDelay); }},
+    {"delay", [](const Context& c) { return std::to_string(c.flow.options().settings.dropDelay); }},
     {"hold", [](const Context& c) { return std::string(stateOf(c).redTileHold ? "1" : "0"); }},
 };
 
@@ -108,24 +115,23 @@ Lines printValue(CommandContext& context, const Value* value)
 
 Lines path(CommandContext& context)
 {
-    const Selection& selection = context.flow.game.selection;
     std::string tiles;
-    for (int place = 1; place <= selection.length(); ++place)
-        tiles += (place > 1 ? " " : "") + std::to_string(selection.tileAt(place));
+    for (const int tile : context.flow.selection().tiles())
+        tiles += (tiles.empty() ? "" : " ") + std::to_string(tile);
     return {tiles};
 }
 
 Lines queue(CommandContext& context)
 {
     std::string letters;
-    for (const std::string& letter : context.flow.game.supply.RandomLetters)
+    for (const std::string& letter : context.flow.supply().RandomLetters)
         letters += letter;
     return {letters};
 }
 
 Lines pool(CommandContext& context)
 {
-    const auto& letters = context.flow.dictionary.letters.pool;
+    const auto& letters = context.flow.dictionary().letters.pool;
     return {std::string(letters.begin() + 1, letters.end())};
 }
 
@@ -140,7 +146,7 @@ std::string letterNumbers(const std::array<int, 27>& numbers)
 
 Lines letterCounts(CommandContext& context)
 {
-    return {letterNumbers(context.flow.dictionary.letters.letterCounts)};
+    return {letterNumbers(context.flow.dictionary().letters.letterCounts)};
 }
 
 Lines wordsMade(CommandContext& context)
@@ -166,16 +172,10 @@ Lines statistics(CommandContext& context)
     return lines;
 }
 
-Lines showStatistics(CommandContext& context)
-{
-    context.flow.showStatistics();
-    return {};
-}
-
 /// A digit that shows no figure is "-".
 Lines clockFace(CommandContext& context)
 {
-    const Dc& Dc1 = context.flow.Dc1;
+    const Dc& Dc1 = context.flow.clock();
     const auto digit = [&](int place) {
         const int figure = Dc1.shownDigit(place);
         return figure < 0 ? std::string("-") : std::to_string(figure);
@@ -187,22 +187,22 @@ Lines clockFace(CommandContext& context)
 
 } // namespace
 
-std::vector<Command> lookingCommands()
+std::vector<ConsoleCommand> lookingCommands()
 {
     return {
-        command("show", Needs::Game, showBoard),
-        command("tile", Needs::Game, tileArgument, describeTile),
-        command("hover", Needs::Game, tileArgument, hoverTile),
-        command("neighbours", Needs::Game, tileArgument, neighbours),
-        command("value", Needs::Nothing, valueArgument, printValue),
-        command("path", Needs::Game, path),
-        command("queue", Needs::Game, queue),
-        command("pool", Needs::Nothing, pool),
-        command("letter_counts", Needs::Nothing, letterCounts),
-        command("words_made", Needs::Game, wordsMade),
-        command("statistics", Needs::Game, statistics),
-        command("show_statistics", Needs::Play, showStatistics),
-        command("clock", Needs::Nothing, clockFace),
+        command("show", When::InGame, showBoard),
+        command("tile", When::InGame, tileArgument, describeTile),
+        command("hover", When::InGame, tileArgument, hoverTile),
+        command("neighbours", When::InGame, tileArgument, neighbours),
+        command("value", When::Always, valueArgument, printValue),
+        command("path", When::InGame, path),
+        command("queue", When::InGame, queue),
+        command("pool", When::Always, pool),
+        command("letter_counts", When::Always, letterCounts),
+        command("words_made", When::InGame, wordsMade),
+        command("statistics", When::InGame, statistics),
+        command("show_statistics", Command::Statistics),
+        command("clock", When::Always, clockFace),
     };
 }
 

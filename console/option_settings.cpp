@@ -1,5 +1,7 @@
 #include "console/option_settings.hpp"
 
+#include "dictionary/word_text.hpp"
+
 #include <algorithm>
 #include <array>
 
@@ -70,17 +72,16 @@ bool isFreeText(std::string_view key)
 void checkPreset(const std::string& value)
 {
     const auto isLetter = [](char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); };
-    if (value.size() > GameSettings::presetLength || !std::all_of(value.begin(), value.end(), isLetter))
+    if (value.size() > std::size_t{PresetLetters::count} || !std::all_of(value.begin(), value.end(), isLetter))
         throw CommandError("preset must be up to 100 letters A to Z: " + value);
 }
 
-std::string presetLetters(std::string value)
+void choosePresetLetters(PresetLetters& preset, const std::string& value)
 {
     if (value == "x")
-        return value;
-    for (char& c : value)
-        c = static_cast<char>(c >= 'a' ? c - 'a' + 'A' : c);
-    return value;
+        preset.closeScoreOffer();
+    else
+        preset.choose(upperCase(value));
 }
 
 } // namespace
@@ -135,7 +136,7 @@ void applyOption(OptionsForm& form, const OptionSetting& setting)
     } else if (key == "scheme") {
         form.chooseScheme(value);
     } else {
-        form.settings.presetLetters = presetLetters(value);
+        choosePresetLetters(form.settings.presetLetters, value);
     }
 }
 
@@ -150,7 +151,7 @@ Lines optionLines(const OptionsForm& form, const std::string& schemeName)
             line(animation, form),
             line(meanings, form),
             "scheme=" + schemeName,
-            "preset=" + form.settings.presetLetters};
+            "preset=" + form.settings.presetLetters.text()};
 }
 
 } // namespace lexigrove

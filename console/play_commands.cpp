@@ -1,4 +1,10 @@
 #include "console/command.hpp"
+#include "dictionary/word_text.hpp"
+#include "game/board.hpp"
+#include "game/game_state.hpp"
+#include "game/selection.hpp"
+
+#include <algorithm>
 
 namespace lexigrove
 {
@@ -40,27 +46,40 @@ Click clickArguments(Arguments& arguments)
     return click;
 }
 
+Lines wordSoFar(const GameFlow& flow)
+{
+    if (flow.selection().isEmpty())
+        return {};
+    return {flow.selection().wordTried() + " " + flow.state().currScoreText()};
+}
+
 Lines clickTile(CommandContext& context, const Click& click)
 {
     GameFlow& flow = context.flow;
-    if (!flow.game.board.isVisible(click.tile))
+    if (!flow.board().isVisible(click.tile))
         throw CommandError("tile " + std::to_string(click.tile) + " is not on the board");
     flow.clickTile(click.tile, click.button, click.shift);
-    const GameState& state = flow.game.state;
-    if (flow.game.selection.length() == 0)
-        return {};
-    return {state.WordTried.Caption + " " + state.CurrScore.Caption};
+    return wordSoFar(flow);
 }
 
-Lines enterWord(CommandContext& context)
+/// Letters in any case.
+std::string wordArgument(Arguments& arguments)
 {
-    context.flow.enterWord();
-    return {};
+    const std::string word = upperCase(arguments.required("word"));
+    if (!std::all_of(word.begin(), word.end(), [](char c) { return c >= 'A' && c <= 'Z'; }))
+        throw CommandError("word must be letters A to Z: " + word);
+    return word;
+}
+
+Lines typeWord(CommandContext& context, const std::string& word)
+{
+    context.flow.typeWord(word);
+    return wordSoFar(context.flow);
 }
 
 Lines drop(CommandContext& context, int col)
 {
-    const bool waits = context.flow.game.board.TopDrop[static_cast<std::size_t>(col)].Visible();
+    const bool waits = context.flow.board().waiting(col).Visible();
     context.flow.drop(col); // also over an empty place: a letter swap refuses it with a sound
     if (!waits)
         throw CommandError("no letter waits over column " + std::to_string(col));
@@ -68,18 +87,17 @@ Lines drop(CommandContext& context, int col)
 }
 
 /// The ticks of a timer; those that are left when the program ends are not told.
-template <void (GameFlow::*tick)()>
+template <Timer timer>
 Lines ticks(CommandContext& context, int count)
 {
     for (int i = 0; i < count && !context.flow.ended(); ++i)
-        (context.flow.*tick)();
+        context.flow.tick(timer);
     return {};
 }
 
 Lines pushTick(CommandContext& context)
 {
-    context.flow.pushTimerTick();
-    return {};
+    return ticks<Timer::Push>(context, 1);
 }
 
 Lines clickClock(CommandContext& context, MouseButton button)
@@ -90,20 +108,8 @@ Lines clickClock(CommandContext& context, MouseButton button)
 
 Lines pause(CommandContext& context)
 {
-    context.flow.pause();
+    context.flow.perform(Command::Pause);
     return {context.flow.isPaused() ? "paused" : "playing"};
-}
-
-Lines getHint(CommandContext& context)
-{
-    context.flow.getHint();
-    return {};
-}
-
-Lines checkSpelling(CommandContext& context)
-{
-    context.flow.checkSpelling();
-    return {};
 }
 
 std::string rowArgument(Arguments& arguments)
@@ -113,37 +119,38 @@ std::string rowArgument(Arguments& arguments)
 
 Lines showMeaning(CommandContext& context, const std::string& typed)
 {
-    WordsGrid& WordsMade = context.flow.game.state.WordsMade;
-    if (WordsMade.Rows() == 1)
+    const int rows = context.flow.state().WordsMade.Rows();
+    if (rows == 1)
         throw CommandError("no word has been made: " + typed);
-    WordsMade.setCurrent(numberIn("row", typed, 1, WordsMade.Rows() - 1));
-    context.flow.showMeaning();
+    context.flow.pickWord(numberIn("row", typed, 1, rows - 1));
+    context.flow.perform(Command::ShowMeaning);
     return {};
 }
 
 Lines pressSoundButton(CommandContext& context)
 {
-    context.flow.soundButton();
-    return {context.flow.sounds.SoundOnOff.Caption};
+    context.flow.perform(Command::Sound);
+    return {context.flow.soundCaption()};
 }
 
 } // namespace
 
-std::vector<Command> playCommands()
+std::vector<ConsoleCommand> playCommands()
 {
     return {
-        command("click", Needs::Play, clickArguments, clickTile),
-        command("enter", Needs::Play, enterWord),
-        command("drop", Needs::Play, columnArgument, drop),
-        command("red_tick", Needs::Game, ticksArgument, ticks<&GameFlow::redTimerTick>),
-        command("push_tick", Needs::Game, pushTick),
-        command("clock_tick", Needs::Nothing, ticksArgument, ticks<&GameFlow::clockTimerTick>),
-        command("clock_click", Needs::Nothing, buttonArgument, clickClock),
-        command("pause", Needs::Game, pause),
-        command("hint", Needs::Play, getHint),
-        command("check", Needs::Play, checkSpelling),
-        command("meaning", Needs::Play, rowArgument, showMeaning),
-        command("sound", Needs::Nothing, pressSoundButton),
+        command("click", When::InPlay, clickArguments, clickTile),
+        command("enter", Command::EnterWord),
+        command("type", When::InPlay, wordArgument, typeWord),
+        command("drop", When::InPlay, columnArgument, drop),
+        command("red_tick", When::InGame, ticksArgument, ticks<Timer::Red>),
+        command("push_tick", When::InGame, pushTick),
+        command("clock_tick", When::Always, ticksArgument, ticks<Timer::Clock>),
+        command("clock_click", When::Always, buttonArgument, clickClock),
+        command("pause", GameFlow::timeOf(Command::Pause), pause),
+        command("hint", Command::GetHint),
+        command("check", Command::CheckWord),
+        command("meaning", GameFlow::timeOf(Command::ShowMeaning), rowArgument, showMeaning),
+        command("sound", GameFlow::timeOf(Command::Sound), pressSoundButton),
     };
 }
 

@@ -1,4 +1,6 @@
 #include "console/command.hpp"
+#include "game/board.hpp"
+#include "settings/options_form.hpp"
 
 #include <algorithm>
 #include <cstdint>
@@ -52,75 +54,32 @@ TileEdit waitingTileEdit(Arguments& arguments)
     return edit;
 }
 
-/// The counts and lists that follow from the tiles.
-void takeBoardAsItStands(Game& game)
-{
-    std::int16_t red = 0;
-    std::int16_t bonus = 0;
-    for (int tile = 1; tile <= Board::tileCount; ++tile) {
-        if (!game.board.isVisible(tile))
-            continue;
-        if (game.board.maskcolor(tile) == multiplier::red)
-            ++red;
-        else if (game.board.isBonus(tile))
-            ++bonus;
-    }
-    game.state.redTilesOnBoard = red;
-    game.state.bonusTilesOnBoard = bonus;
-    game.board.rebuildNeighbours();
-    game.refreshLooks();
-}
-
 Lines editTile(CommandContext& context, const TileEdit& edit)
 {
-    GameFlow& flow = context.flow;
-    Board& board = flow.game.board;
-    if (board.row(edit.place) > board.columnHeight(board.col(edit.place)))
+    if (!context.flow.board().isInPlay(edit.place))
         throw CommandError("tile " + std::to_string(edit.place) + " is not in play");
-    flow.asInput([&] {
-        flow.letterSwap.cancel();
-        BoxControl& tile = board.tile(edit.place);
-        if (tile.Tag() == "X")
-            flow.game.selection.clear(); // the path holds the letter that it was clicked with
-        tile.Caption(edit.letter);
-        tile.MaskColor(edit.maskcolor);
-        tile.Visible(!edit.letter.empty());
-        takeBoardAsItStands(flow.game);
-    });
+    context.study.editTile(edit.place, edit.letter, edit.maskcolor);
     return {};
 }
 
 Lines editWaitingTile(CommandContext& context, const TileEdit& edit)
 {
-    GameFlow& flow = context.flow;
-    flow.asInput([&] {
-        flow.letterSwap.cancel();
-        BoxControl& waiting = flow.game.board.TopDrop[static_cast<std::size_t>(edit.place)];
-        waiting.Caption(edit.letter);
-        waiting.Left(flow.game.board.homeLeft(edit.place));
-        waiting.Top(layout::dropRowTop);
-        waiting.Visible(!edit.letter.empty());
-        takeBoardAsItStands(flow.game);
-    });
+    context.study.editWaiting(edit.place, edit.letter);
     return {};
 }
 
 Lines pressPresetBoard(CommandContext& context)
 {
-    GameFlow& flow = context.flow;
-    flow.asInput([&] {
-        if (flow.options.presetBoard())
-            context.windows.presetLettersWait = true;
-    });
+    context.study.chooseOptions([](OptionsForm& form) { form.presetBoard(); });
     return {};
 }
 
 /// A number of the game that a command may set.
 struct Setting {
     std::string_view name;
+    Study::Number number;
     int lowest;
     int highest;
-    void (*set)(GameFlow&, int);
 };
 
 constexpr int mostPoints = 1'000'000'000; // far from where adding a word's score would overflow
@@ -128,22 +87,15 @@ constexpr int most16 = std::numeric_limits<std::int16_t>::max();
 constexpr int least16 = std::numeric_limits<std::int16_t>::min();
 
 constexpr Setting settings[] = {
-    {"YourScore", -mostPoints, mostPoints,
-     [](GameFlow& flow, int value) { flow.game.state.YourScore.Caption = std::to_string(value); }},
-    {"CompScore", -mostPoints, mostPoints,
-     [](GameFlow& flow, int value) { flow.game.state.CompScore.Caption = std::to_string(value); }},
-    {"TilesLeft", least16, most16,
-     [](GameFlow& flow, int value) { flow.game.state.TilesLeft.Caption = std::to_string(value); }},
-    {"ticks", 0, most16,
-     [](GameFlow& flow, int value) { flow.game.state.tickCount = static_cast<std::int16_t>(value); }},
-    {"hints_used", 0, most16,
-     [](GameFlow& flow, int value) { flow.game.state.hintsUsed = static_cast<std::int16_t>(value); }},
-    {"red_threshold", least16, most16, [](GameFlow& flow, int value) { flow.dictionary.setRedThreshold(value); }},
-    {"last_pressure", -mostPoints, mostPoints, [](GameFlow& flow, int value) { flow.game.state.lastPressure = value; }},
-    {"bonus_tiles", 0, most16,
-     [](GameFlow& flow, int value) { flow.game.state.bonusTilesOnBoard = static_cast<std::int16_t>(value); }},
-    {"red_tiles_used", 0, most16,
-     [](GameFlow& flow, int value) { flow.game.state.redTilesUsed = static_cast<std::int16_t>(value); }},
+    {"YourScore", Study::Number::YourScore, -mostPoints, mostPoints},
+    {"CompScore", Study::Number::CompScore, -mostPoints, mostPoints},
+    {"TilesLeft", Study::Number::TilesLeft, least16, most16},
+    {"ticks", Study::Number::Ticks, 0, most16},
+    {"hints_used", Study::Number::HintsUsed, 0, most16},
+    {"red_threshold", Study::Number::RedThreshold, least16, most16},
+    {"last_pressure", Study::Number::LastPressure, -mostPoints, mostPoints},
+    {"bonus_tiles", Study::Number::BonusTiles, 0, most16},
+    {"red_tiles_used", Study::Number::RedTilesUsed, 0, most16},
 };
 
 struct NewValue {
@@ -168,21 +120,21 @@ NewValue newValue(Arguments& arguments)
 Lines setValue(CommandContext& context, const NewValue& value)
 {
     if (value.none)
-        context.flow.game.state.TilesLeft.Caption = "NONE";
+        context.study.endLetters();
     else
-        value.setting->set(context.flow, value.number);
+        context.study.set(value.setting->number, value.number);
     return {};
 }
 
 } // namespace
 
-std::vector<Command> positionCommands()
+std::vector<ConsoleCommand> positionCommands()
 {
     return {
-        command("edit", Needs::Game, tileEdit, editTile),
-        command("edit_top", Needs::Game, waitingTileEdit, editWaitingTile),
-        command("preset", Needs::Nothing, pressPresetBoard),
-        command("set", Needs::Game, newValue, setValue),
+        command("edit", When::InGame, tileEdit, editTile),
+        command("edit_top", When::InGame, waitingTileEdit, editWaitingTile),
+        command("preset", When::Always, pressPresetBoard),
+        command("set", When::InGame, newValue, setValue),
     };
 }
 

@@ -1,8 +1,8 @@
 #include "console/command.hpp"
+#include "dictionary/dictionary.hpp"
 #include "dictionary/field_cipher.hpp"
 #include "dictionary/word_text.hpp"
-#include "opponent/board_snapshot.hpp"
-#include "settings/window_colours.hpp"
+#include "settings/colour_scheme.hpp"
 
 namespace lexigrove
 {
@@ -12,7 +12,7 @@ namespace
 
 Lines wordCount(CommandContext& context)
 {
-    return {std::to_string(context.flow.dictionary.words.count())};
+    return {std::to_string(context.flow.dictionary().words.count())};
 }
 
 int entryArgument(Arguments& arguments)
@@ -22,19 +22,18 @@ int entryArgument(Arguments& arguments)
 
 Lines word(CommandContext& context, int entry)
 {
-    return {std::string(context.flow.dictionary.words.entry(entry))};
+    return {std::string(context.flow.dictionary().words.entry(entry))};
 }
 
 /// The empty word can be looked for: it is entry 0.
 Lines findWord(CommandContext& context, const std::string& sought)
 {
-    return {std::to_string(context.flow.dictionary.words.findWord(sought))};
+    return {std::to_string(context.flow.dictionary().words.findWord(sought))};
 }
 
 Lines traceWord(CommandContext& context, const std::string& sought)
 {
-    GameFlow& flow = context.flow;
-    const TracedWord traced = flow.search.traceWord(snapshotOf(flow.game.board), sought);
+    const TracedWord traced = context.study.trace(sought);
     Lines lines{std::to_string(traced.matchedLength)};
     lines.insert(lines.end(), traced.items.begin(), traced.items.end());
     return lines;
@@ -42,8 +41,7 @@ Lines traceWord(CommandContext& context, const std::string& sought)
 
 Lines sweep(CommandContext& context)
 {
-    GameFlow& flow = context.flow;
-    const CandidateList& found = flow.search.sweep(snapshotOf(flow.game.board), flow.dictionary.words);
+    const CandidateList& found = context.study.sweep();
     Lines lines{std::to_string(found.count()) + " " + std::to_string(found.bestScorePosition()) + " " +
                 std::to_string(found.bestLengthPosition())};
     for (int position = 1; position <= found.count(); ++position)
@@ -53,40 +51,22 @@ Lines sweep(CommandContext& context)
 
 Lines computerTurn(CommandContext& context)
 {
-    GameFlow& flow = context.flow;
-    flow.asInput([&] {
-        flow.letterSwap.cancel();
-        flow.computerTurn.take();
-    });
+    context.study.computerTurn();
     return {};
 }
 
-/// An operation of the maintenance window on a text, as if the window had been opened with it.
-template <void (DictionaryMaintenance::*operation)()>
+template <Study::Maintenance operation>
 Lines maintain(CommandContext& context, const std::string& text)
 {
-    DictionaryMaintenance& maintenance = context.flow.maintenance;
-    constexpr const char* anyWord = "A"; // opening asks for one, while the text to edit may be empty
-    if (!maintenance.open(anyWord, context.status))
+    if (!context.study.maintain(operation, text))
         throw CommandError(context.status.Label1);
-    maintenance.word = text;
-    context.flow.asInput([&] {
-        maintenance.activate();
-        (maintenance.*operation)();
-    });
     return {};
 }
 
 Lines showDictionary(CommandContext& context)
 {
-    maintain<&DictionaryMaintenance::showDictionary>(context, "");
-    return {std::to_string(context.flow.maintenance.List1.ListCount())};
-}
-
-Lines exportWords(CommandContext& context)
-{
-    context.flow.exportWords();
-    return {};
+    maintain<Study::Maintenance::ShowDictionary>(context, "");
+    return {std::to_string(context.study.listedWords())};
 }
 
 struct CipherArguments {
@@ -112,9 +92,7 @@ Lines decipherText(CommandContext& /*context*/, const CipherArguments& cipher)
 
 Lines scores(CommandContext& context)
 {
-    Lines lines;
-    context.flow.asInput([&] { lines = context.flow.scoreFile.load(); });
-    return {lines.rbegin(), lines.rend()};
+    return context.study.scores();
 }
 
 /// The final score, or -1 only to show the list.
@@ -125,25 +103,18 @@ int codeArgument(Arguments& arguments)
 
 Lines topTen(CommandContext& context, int code)
 {
-    GameFlow& flow = context.flow;
-    std::string answer;
-    flow.asInput([&] { answer = showTopTen(flow.scoreForm, context.windows, std::to_string(code)); });
-    return {answer};
+    return {context.study.showTopTen(code < 0 ? std::nullopt : std::optional(code))};
 }
 
 Lines loadConfiguration(CommandContext& context)
 {
-    GameFlow& flow = context.flow;
-    flow.asInput([&] {
-        const WindowColours colours = deriveWindowColours(flow.scheme);
-        flow.configuration.load(colours.ground, colours.card);
-    });
+    context.study.loadConfiguration();
     return {};
 }
 
 Lines saveConfiguration(CommandContext& context)
 {
-    context.flow.asInput([&] { context.flow.configuration.save(); });
+    context.study.saveConfiguration();
     return {};
 }
 
@@ -156,42 +127,39 @@ std::string schemeArgument(Arguments& arguments)
 
 Lines loadScheme(CommandContext& context, const std::string& name)
 {
-    GameFlow& flow = context.flow;
-    flow.asInput([&] {
-        flow.scheme.load(name);
-        flow.game.refreshLooks();
-    });
-    Lines lines{flow.scheme.currentName};
+    context.study.loadScheme(name);
+    const ColourScheme& scheme = context.flow.scheme();
+    Lines lines{scheme.currentName};
     for (std::size_t i = 0; i < ColourScheme::fileEntries; ++i)
-        lines.push_back(std::to_string(flow.scheme.entry(i)));
+        lines.push_back(std::to_string(scheme.entry(i)));
     return lines;
 }
 
 } // namespace
 
-std::vector<Command> wordsCommands()
+std::vector<ConsoleCommand> wordsCommands()
 {
     const auto sought = [](Arguments& arguments) { return arguments.next().value_or(""); };
     const auto traced = [](Arguments& arguments) { return arguments.required("word"); };
     return {
-        command("word_count", Needs::Nothing, wordCount),
-        command("word", Needs::Nothing, entryArgument, word),
-        command("find", Needs::Nothing, sought, findWord),
-        command("trace", Needs::Game, traced, traceWord),
-        command("sweep", Needs::Game, sweep),
-        command("computer_turn", Needs::Play, computerTurn),
-        command("spell_check", Needs::Game, restArgument, maintain<&DictionaryMaintenance::spellCheck>),
-        command("add_word", Needs::Game, restArgument, maintain<&DictionaryMaintenance::addWord>),
-        command("remove_word", Needs::Game, restArgument, maintain<&DictionaryMaintenance::removeWord>),
-        command("show_dictionary", Needs::Game, showDictionary),
-        command("export", Needs::Play, exportWords),
-        command("encipher", Needs::Nothing, cipherArguments, encipherText),
-        command("decipher", Needs::Nothing, cipherArguments, decipherText),
-        command("scores", Needs::Nothing, scores),
-        command("top10", Needs::Nothing, codeArgument, topTen),
-        command("load_config", Needs::Nothing, loadConfiguration),
-        command("save_config", Needs::Nothing, saveConfiguration),
-        command("load_scheme", Needs::Nothing, schemeArgument, loadScheme),
+        command("word_count", When::Always, wordCount),
+        command("word", When::Always, entryArgument, word),
+        command("find", When::Always, sought, findWord),
+        command("trace", When::InGame, traced, traceWord),
+        command("sweep", When::InGame, sweep),
+        command("computer_turn", When::InPlay, computerTurn),
+        command("spell_check", When::InGame, restArgument, maintain<Study::Maintenance::SpellCheck>),
+        command("add_word", When::InGame, restArgument, maintain<Study::Maintenance::AddWord>),
+        command("remove_word", When::InGame, restArgument, maintain<Study::Maintenance::RemoveWord>),
+        command("show_dictionary", When::InGame, showDictionary),
+        command("export", Command::ExportWords),
+        command("encipher", When::Always, cipherArguments, encipherText),
+        command("decipher", When::Always, cipherArguments, decipherText),
+        command("scores", When::Always, scores),
+        command("top10", When::Always, codeArgument, topTen),
+        command("load_config", When::Always, loadConfiguration),
+        command("save_config", When::Always, saveConfiguration),
+        command("load_scheme", When::Always, schemeArgument, loadScheme),
     };
 }
 

@@ -274,12 +274,12 @@ void Dc::readProperties(const PropertyBag& bag)
     changed_ = false;
 }
 
-void frame10Released(Dc& clock, int button)
+void frame10Released(Dc& clock, MouseButton button)
 {
-    if (button == leftButton) {
+    if (button == MouseButton::Left) {
         const int thicker = clock.DigitWidth() + 1;
         clock.DigitWidth(toInt16(thicker >= 7 ? 2 : thicker));
-    } else if (button == rightButton) {
+    } else if (button == MouseButton::Right) {
         const std::string theme = upperCase(clock.ClockColor());
         clock.ClockColor(theme == "GREEN" ? "BLUE" : theme == "BLUE" ? "RED" : "GREEN");
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/geometry.hpp"
+#include "controls/mouse_button.hpp"
 #include "controls/property_bag.hpp"
 
 #include <array>
@@ -147,6 +148,6 @@ private:
 
 /// A mouse button released over the frame `Frame10` that holds the clock: the left one makes the lines thicker (2 to 6
 /// and round again), the right one takes the next theme; any other does nothing.
-void frame10Released(Dc& clock, int button);
+void frame10Released(Dc& clock, MouseButton button);
 
 } // namespace lexigrove

@@ -28,8 +28,4 @@ struct Size {
     bool operator==(const Size&) const = default;
 };
 
-/// The numbers of the mouse buttons, as the controls' events carry them.
-constexpr int leftButton = 1;
-constexpr int rightButton = 2;
-
 } // namespace lexigrove

@@ -74,6 +74,8 @@ void Dictionary::read(Dialogs& dialogs, StatusLine& status, Random& random, cons
     holdsCodedLines_ = choice_ > 0 && isMaintainedHeader(words.entry(1));
     if (holdsCodedLines_)
         status.show(codedLinesNotice());
+    else
+        status.write("");
 }
 
 std::string Dictionary::codedLinesNotice() const

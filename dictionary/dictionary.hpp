@@ -46,7 +46,7 @@ public:
     /// ReadDictionary: loads the chosen dictionary and derives the letter tables from it. The level files read are
     /// always the three plain lists, whatever the table held. A failure (no file, above 250,000 lines, no characters,
     /// no room in the pool) shows its message and throws ProgramEnd. A level file in the maintained format loads line
-    /// for line, and the status line then says so.
+    /// for line, and the status line then says so; otherwise the line is empty afterwards.
     void read(Dialogs& dialogs, StatusLine& status, Random& random, const Clock& clock);
 
     /// The export: a level file in the older maintained coding is decoded into the word array, its words of three

@@ -57,7 +57,7 @@ DictionaryMaintenance::DictionaryMaintenance(Dictionary& dictionary, Dialogs& di
 
 bool DictionaryMaintenance::open(const std::string& selectedWord, StatusLine& status)
 {
-    if (selectedWord.empty() || selectedWord == "Your move") {
+    if (selectedWord.empty()) {
         status.show("Select a word first");
         return false;
     }

@@ -68,7 +68,7 @@ public:
 
     DictionaryMaintenance(Dictionary& dictionary, Dialogs& dialogs, Screen& screen, const Clock& clock);
 
-    /// The main window's add-word command, with the text of its selected-word label. True when the window is to be
+    /// The main window's add-word command, with the word selected on the board. True when the window is to be
     /// shown (the word is then handed to it); otherwise the status line says why not.
     bool open(const std::string& selectedWord, StatusLine& status);
 

@@ -1,180 +1,119 @@
 #pragma once
 
-#include "controls/dc.hpp"
-#include "dictionary/dictionary.hpp"
-#include "flow/letter_swap.hpp"
-#include "flow/windows.hpp"
-#include "game/game.hpp"
-#include "opponent/board_search.hpp"
-#include "opponent/computer_turn.hpp"
-#include "opponent/hints.hpp"
-#include "opponent/word_round.hpp"
-#include "platform/ports.hpp"
-#include "scores/score_file.hpp"
-#include "settings/configuration.hpp"
-#include "settings/meaning_services.hpp"
+#include "controls/mouse_button.hpp"
+#include "flow/command.hpp"
 
-#include <functional>
+#include <memory>
+#include <optional>
 #include <string>
+#include <vector>
 
 namespace lexigrove
 {
 
-/// The keys that set the drop-animation delay in developer mode.
-enum class DeveloperKey { End, NumpadMinus, NumpadPlus, Home };
+class Board;
+class ColourScheme;
+class Dc;
+class Dictionary;
+class LetterSupply;
+class OptionsForm;
+class Selection;
+enum class Arrangement;
+struct GameParts;
+struct GameState;
+struct Ports;
+struct SystemPalette;
 
 /// The whole game as a front end plays it: the front end pushes inputs and ticks, and afterwards, and at every yield,
-/// shows what the models say.
+/// shows what the views say.
 ///
 /// Inputs run to their end; while one runs, other inputs are refused and pressure ticks are skipped, because its
 /// questions, animations and waits let events in. No input throws: leaving the program, by whatever way, ends in
-/// `ended()`.
+/// `ended()`, and a failure that no rule foresees is told in a message box.
 class GameFlow
 {
 public:
-    static constexpr int gameSeconds = 600;        ///< of a game against the computer
-    static constexpr int pauseTimerInterval = 500; ///< `PauseTimer`, milliseconds
+    static constexpr int gameSeconds = 600; ///< of a game against the computer
 
-    /// `folder` is the program folder with its closing separator.
-    GameFlow(const Ports& ports, const Windows& windows, const std::string& folder);
+    /// `folder` is the program folder with its closing separator, `desktop` the colours that system colours stand for.
+    GameFlow(const Ports& ports, const std::string& folder, const SystemPalette& desktop);
+    ~GameFlow();
     GameFlow(const GameFlow&) = delete;
     GameFlow& operator=(const GameFlow&) = delete;
 
     // The program's course
 
-    /// Start-up, up to but without the options dialog: clock, configuration, dictionary choice, colour scheme.
-    void startUp();
-
+    /// Start-up, up to but without the options dialog. An arrangement is preset there in place of the stored one.
+    void startUp(std::optional<Arrangement> arrangement = {});
     /// Shows the options dialog and starts a game with its choices.
     void openOptionsAndStart();
-
-    /// Starts a game with the choices as they stand, without the options dialog. Preset letters that a game was dealt
-    /// from already are the caller's to empty.
+    /// Starts a game with the choices as they stand, without the options dialog.
     void startGame();
-
-    /// New Game from the menu, with its questions.
-    void menuNewGame();
-
-    /// Exit: offers the score, saves the configuration and ends the program. Closing the window does the same.
-    void exit();
-
-    /// True when the program is over: the front end closes.
-    [[nodiscard]] bool ended() const { return ended_; }
-
-    /// True from a game's start on.
-    [[nodiscard]] bool inGame() const { return inGame_; }
-
-    /// True while an input runs.
-    [[nodiscard]] bool isBusy() const { return busy_; }
-
-    // The player's inputs
-
-    /// A mouse button released over board tile 1 to 64; a hidden tile takes no input.
-    void clickTile(int tile, MouseButton button, bool shift);
-    /// The pointer rests on a tile.
-    void hoverTile(int tile);
-    void enterWord();
-    /// A mouse button released over the place of a waiting tile, column 1 to 8.
-    void drop(int col);
-    void getHint();
-    void checkSpelling();
-    void showMeaning();
-    /// Opens the maintenance window with the selected word.
-    void addWord();
-    void soundButton();
-    void pause();
-    /// Esc: cancels a letter swap, else clears the path.
-    void escape();
-    void releaseClockFrame(MouseButton button);
-    void sortWordsMade(int x);
-    void showTopTen();
-    void showStatistics();
-    void showHelp();
-    void showAbout();
-    /// F1.
-    void askDeveloperPassword();
-    void releaseDeveloperKey(DeveloperKey key);
-    void exportWords();
-
-    // The timers: a front end runs them for as long as the program lasts; the flow knows when a tick counts.
-
-    void redTimerTick();
-    void pushTimerTick();
-    void clockTimerTick();
-    /// `PauseTimer`: blinks the caption while paused.
-    void pauseTimerTick();
-
-    /// The clock received the focus, which counts as its expiry.
-    void clockGotFocus();
-
-    // Models
-
+    [[nodiscard]] bool ended() const { return ended_; }   ///< the program is over: the front end closes
+    [[nodiscard]] bool inGame() const { return inGame_; } ///< from a game's start on
     [[nodiscard]] bool isPaused() const { return paused_; }
-    /// "Paused" or empty, as the caption of the cover blinks.
-    [[nodiscard]] std::string pauseCaption() const { return paused_ && pauseCaptionShown_ ? "Paused" : ""; }
-    /// The tile that waits for the letter to swap with, 0 when none does.
-    [[nodiscard]] int swapTile() const { return letterSwap.tile(); }
-    /// The main window's caption.
-    [[nodiscard]] const std::string& caption() const { return dictionary.caption(); }
-    [[nodiscard]] const std::string& folder() const { return folder_; }
+    [[nodiscard]] bool isBusy() const { return busy_; } ///< while an input runs
+    [[nodiscard]] bool isTime(When when) const;
 
-    /// Runs a front end's own dealings with a model (a test position, an option) as one input: refused while another
-    /// runs.
-    void asInput(const std::function<void()>& action);
+    // Inputs
 
-private:
-    const Ports ports_;
-    const Windows windows_;
-    const std::string folder_;
+    void perform(Command command);
+    [[nodiscard]] static When timeOf(Command command);
+    void clickTile(int tile, MouseButton button, bool shift); ///< a mouse button released over tile 1 to 64
+    void hoverTile(int tile);                                 ///< the pointer rests on a tile
+    void drop(int col);                         ///< a mouse button released over column 1 to 8 of the drop row
+    void typeLetter(char letter);               ///< spells on; see `typedPath`
+    void typeWord(const std::string& word);     ///< one letter after the other, as far as the board goes
+    void pickWord(int row);                     ///< makes a row of `WordsMade` the current one
+    void sortWordsMade(int x);                  ///< a click on its headings, in its units
+    void releaseClockFrame(MouseButton button); ///< released over `Frame10`
+    void releaseDeveloperKey(DeveloperKey key);
+    void tick(Timer timer);
+    void clockGotFocus(); ///< which counts as its expiry
 
-public:
-    Dictionary dictionary;
-    ColourScheme scheme;
-    SoundCues sounds;
-    OptionsForm options;
-    Dc Dc1;
-    Game game;
-    MeaningServices services;
-    ScoreFile scoreFile;
-    ScoreForm scoreForm;
-    StatisticsForm statisticsForm{game.state.statistics};
-    DictionaryMaintenance maintenance;
-    HelpForm helpForm;
-    AboutForm aboutForm;
-    BoardSearch search;
-    ComputerTurn computerTurn{game, search, Dc1};
-    WordRound wordRound{game, computerTurn};
-    Meanings meanings;
-    HintsForm hintsForm{game, meanings};
-    Hints hints;
-    LetterSwap letterSwap{game};
-    Configuration configuration;
+    // Views
+
+    [[nodiscard]] const GameState& state() const;
+    [[nodiscard]] const Board& board() const;
+    [[nodiscard]] const Selection& selection() const;
+    [[nodiscard]] const LetterSupply& supply() const;
+    [[nodiscard]] const OptionsForm& options() const;
+    [[nodiscard]] const Dictionary& dictionary() const;
+    [[nodiscard]] const ColourScheme& scheme() const;
+    [[nodiscard]] const Dc& clock() const;
+    [[nodiscard]] bool soundIsOn() const;
+    [[nodiscard]] const std::string& soundCaption() const;   ///< of `SoundOnOff`
+    [[nodiscard]] const std::string& caption() const;        ///< the main window's
+    [[nodiscard]] std::string pauseCaption() const;          ///< "Paused" or empty, as it blinks
+    [[nodiscard]] int swapTile() const;                      ///< the tile that waits for a letter swap, 0 for none
+    [[nodiscard]] int guideColumn() const;                   ///< the column over which a drop is under way, 0 for none
+    [[nodiscard]] const std::vector<int>& shownHint() const; ///< the tiles of the hint that is shown on the board
 
 private:
-    using Action = std::function<void()>;
-    void perform(const Action& action);
-    void performInGame(const Action& action);
-    void performOther(const Action& action);
-    void performOtherInGame(const Action& action);
+    friend class Study;
+    struct Entry;
+    static const Entry& entryOf(Command command);
 
-    void setUpClock();
+    template <typename Rule>
+    void input(When when, Rule rule);
+    void endEarly();
+    void endInput();
+
     void beginGame();
-    void readDictionary();
-    void startClock();
-    void showWallClock();
     void clearGame();
     void showOptions();
     void anotherGame();
-    [[nodiscard]] bool isNormalGame() const { return options.settings.presetLetters.empty(); }
-    std::string offerScore();
+    void newGame();
+    void showWallClock();
     void loseGame(int col);
     void endOfGame();
     void clockExpired();
-    void tellWinner();
     void openingWindow();
-    [[noreturn]] void leave();
+    void pauseOrResume();
     void resume();
+    [[noreturn]] void leave();
 
+    const std::unique_ptr<GameParts> parts_;
     bool busy_ = false;
     bool ended_ = false;
     bool inGame_ = false;
@@ -182,5 +121,20 @@ private:
     bool pauseCaptionShown_ = false;
     bool clockRanBeforePause_ = false;
 };
+
+/// One input from its beginning to its end.
+template <typename Rule>
+void GameFlow::input(When when, Rule rule)
+{
+    if (busy_ || ended_ || !isTime(when))
+        return;
+    busy_ = true;
+    try {
+        rule(*parts_);
+    } catch (...) {
+        endEarly();
+    }
+    endInput();
+}
 
 } // namespace lexigrove

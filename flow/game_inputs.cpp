@@ -1,193 +1,196 @@
 #include "flow/game_flow.hpp"
-#include "opponent/spelling.hpp"
+#include "flow/game_parts.hpp"
+#include "game/word_typing.hpp"
+#include "word_services/spelling.hpp"
 
 #include <algorithm>
+#include <array>
 #include <limits>
 
 namespace lexigrove
 {
 
+/// When a command runs, what it means for a letter swap that waits, and its rule.
+struct GameFlow::Entry {
+    enum class Swap { Ends, Stays };
+
+    Command command;
+    When when;
+    Swap swap;
+    void (*run)(GameFlow& flow, GameParts& parts);
+};
+
+const GameFlow::Entry& GameFlow::entryOf(Command command)
+{
+    using Flow = GameFlow;
+    using Parts = GameParts;
+    using enum Entry::Swap;
+    static constexpr std::array entries{
+        Entry{Command::NewGame, When::NotPaused, Ends, [](Flow& flow, Parts&) { flow.newGame(); }},
+        Entry{Command::Pause, When::InGame, Ends, [](Flow& flow, Parts&) { flow.pauseOrResume(); }},
+        Entry{Command::Sound, When::Always, Ends, [](Flow&, Parts& p) { p.options.soundButton(); }},
+        Entry{Command::Exit, When::Always, Stays, [](Flow& flow, Parts&) { flow.leave(); }},
+        Entry{Command::EnterWord, When::InPlay, Ends, [](Flow&, Parts& p) { p.wordRound.enterWord(); }},
+        Entry{Command::ClearWord, When::InPlay, Stays,
+              [](Flow&, Parts& p) {
+                  if (p.letterSwap.isPending())
+                      p.letterSwap.cancel();
+                  else
+                      p.game.selection.clear();
+              }},
+        Entry{Command::TakeBack, When::InPlay, Stays,
+              [](Flow&, Parts& p) {
+                  if (!p.game.selection.isEmpty())
+                      p.game.selection.tileClicked(p.game.selection.lastTile(), MouseButton::Left);
+              }},
+        Entry{Command::GetHint, When::InPlay, Ends, [](Flow&, Parts& p) { p.hints.getHint(); }},
+        Entry{Command::CheckWord, When::InPlay, Ends,
+              [](Flow&, Parts& p) { checkSpelling(p.game.selection, p.dictionary, p.sounds, p.ports.status); }},
+        Entry{Command::ShowMeaning, When::InPlay, Ends, [](Flow&, Parts& p) { p.meanings.showOfCurrentRow(); }},
+        Entry{Command::AddWord, When::InPlay, Ends,
+              [](Flow&, Parts& p) {
+                  if (!p.maintenance.open(p.game.selection.word(), p.ports.status))
+                      return;
+                  p.game.state.redTileHold = true;
+                  p.ports.windows.show(p.maintenance);
+              }},
+        Entry{Command::TopTen, When::InPlay, Ends,
+              [](Flow& flow, Parts& p) {
+                  flow.openingWindow();
+                  showTopTen(p.scoreForm, p.ports.windows, {});
+              }},
+        Entry{Command::Statistics, When::InPlay, Ends,
+              [](Flow& flow, Parts& p) {
+                  flow.openingWindow();
+                  p.game.state.statistics.setHintsUsed(p.game.state.hintsUsed);
+                  p.statisticsForm.activate(p.game.state.computerGame, p.dictionary.letters.letterCounts);
+                  p.ports.windows.show(p.statisticsForm);
+              }},
+        Entry{Command::Help, When::Always, Ends,
+              [](Flow& flow, Parts& p) {
+                  flow.openingWindow();
+                  p.ports.windows.showHelp(p.folder + "lexigrove.htm");
+              }},
+        Entry{Command::About, When::Always, Ends,
+              [](Flow& flow, Parts& p) {
+                  flow.openingWindow();
+                  p.ports.windows.showAbout();
+              }},
+        Entry{Command::AskPassword, When::Always, Ends,
+              [](Flow&, Parts& p) {
+                  p.game.state.developerMode = false;
+                  if (p.ports.dialogs.input("LexiGrove", "Enter password", "") == "718kestr")
+                      p.game.state.developerMode = true;
+              }},
+        Entry{Command::ExportWords, When::InPlay, Ends,
+              [](Flow&, Parts& p) { (void)p.dictionary.exportWords(p.ports.dialogs, p.ports.random, p.ports.clock); }},
+    };
+    return *std::find_if(entries.begin(), entries.end(), [=](const Entry& entry) { return entry.command == command; });
+}
+
+When GameFlow::timeOf(Command command)
+{
+    return entryOf(command).when;
+}
+
+void GameFlow::perform(Command command)
+{
+    const Entry& entry = entryOf(command);
+    input(entry.when, [&](GameParts& p) {
+        if (entry.swap == Entry::Swap::Ends)
+            p.letterSwap.cancel();
+        entry.run(*this, p);
+    });
+}
+
+// ---- What takes more than its name
+
 void GameFlow::clickTile(int tile, MouseButton button, bool shift)
 {
-    performInGame([=, this] {
-        if (!game.board.isVisible(tile) || !game.state.Picture1.Enabled)
+    input(When::InPlay, [=](GameParts& p) {
+        if (!p.game.board.isVisible(tile))
             return;
-        const bool again = letterSwap.isPending() && letterSwap.tile() == tile;
+        const bool again = p.letterSwap.isPending() && p.letterSwap.tile() == tile;
         if (shift || again) {
-            letterSwap.request(tile);
+            p.letterSwap.request(tile);
             return;
         }
-        letterSwap.cancel();
-        if (button == MouseButton::Right && game.selection.entryPending) {
-            game.selection.entryPending = false;
-            wordRound.enterWord();
+        p.letterSwap.cancel();
+        if (button == MouseButton::Right && p.game.selection.entryPending) {
+            p.game.selection.entryPending = false;
+            p.wordRound.enterWord();
         } else {
-            game.selection.tileClicked(tile, button);
+            p.game.selection.tileClicked(tile, button);
         }
     });
 }
 
 void GameFlow::hoverTile(int tile)
 {
-    if (!inGame_ || busy_ || paused_ || !game.board.isVisible(tile))
-        return;
-    ports_.status.Warn = false;
-    ports_.status.write(game.board.hoverCaption(tile));
-    game.state.Label4.Caption = game.board.description(tile);
-}
-
-void GameFlow::enterWord()
-{
-    performOtherInGame([this] { wordRound.enterWord(); });
+    input(When::InPlay, [=](GameParts& p) {
+        if (!p.game.board.isVisible(tile))
+            return;
+        p.ports.status.Warn = false;
+        p.ports.status.write(p.game.board.hoverCaption(tile));
+        p.game.state.hoveredTile = tile;
+    });
 }
 
 void GameFlow::drop(int col)
 {
-    performInGame([=, this] {
-        if (letterSwap.isPending())
-            letterSwap.exchange(col);
-        else if (game.board.TopDrop[static_cast<std::size_t>(col)].Visible())
-            game.dropRow.dropIntoColumn(col);
+    input(When::InPlay, [=](GameParts& p) {
+        if (p.letterSwap.isPending())
+            p.letterSwap.exchange(col);
+        else if (p.game.board.waiting(col).Visible())
+            p.game.dropRow.dropIntoColumn(col);
     });
 }
 
-void GameFlow::getHint()
+void GameFlow::typeLetter(char letter)
 {
-    performOtherInGame([this] { hints.getHint(); });
+    input(When::InPlay, [=](GameParts& p) {
+        p.letterSwap.cancel(); // typing is another action
+        spellOn(p.game, letter);
+    });
 }
 
-void GameFlow::checkSpelling()
+void GameFlow::typeWord(const std::string& word)
 {
-    performOtherInGame([this] { lexigrove::checkSpelling(game.state, dictionary, sounds, ports_.status); });
-}
-
-void GameFlow::showMeaning()
-{
-    performOtherInGame([this] { meanings.showOfCurrentRow(); });
-}
-
-void GameFlow::addWord()
-{
-    performOtherInGame([this] {
-        if (maintenance.open(game.state.WordTried.Caption, ports_.status)) {
-            game.state.redTileHold = true;
-            windows_.maintenance.show(maintenance);
+    input(When::InPlay, [&](GameParts& p) {
+        p.letterSwap.cancel();
+        for (const char letter : word) {
+            if (!spellOn(p.game, letter))
+                return;
         }
     });
 }
 
-void GameFlow::soundButton()
+void GameFlow::pickWord(int row)
 {
-    performOther([this] { options.soundButton(); });
+    input(When::InPlay, [=](GameParts& p) { p.game.state.WordsMade.setCurrent(row); });
 }
 
-void GameFlow::pause()
+void GameFlow::sortWordsMade(int x)
 {
-    if (!inGame_)
-        return;
-    perform([this] {
-        if (paused_) {
-            resume();
-            return;
-        }
-        letterSwap.cancel();
-        paused_ = true;
-        pauseCaptionShown_ = true;
-        clockRanBeforePause_ = Dc1.running();
-        Dc1.SuspendCountDown();
-    });
-}
-
-void GameFlow::resume()
-{
-    if (!paused_)
-        return;
-    paused_ = false;
-    if (clockRanBeforePause_)
-        Dc1.ResumeCountDown();
-}
-
-void GameFlow::escape()
-{
-    performInGame([this] {
-        if (letterSwap.isPending())
-            letterSwap.cancel();
-        else
-            game.selection.clear();
+    input(When::InPlay, [=](GameParts& p) {
+        p.letterSwap.cancel();
+        p.game.state.WordsMade.headingClicked(x);
     });
 }
 
 void GameFlow::releaseClockFrame(MouseButton button)
 {
-    performOther([=, this] {
-        if (button == MouseButton::Left)
-            frame10Released(Dc1, leftButton);
-        else if (button == MouseButton::Right)
-            frame10Released(Dc1, rightButton);
-    });
-}
-
-void GameFlow::sortWordsMade(int x)
-{
-    performOtherInGame([=, this] { game.state.WordsMade.headingClicked(x); });
-}
-
-/// What every action does that opens a window from the main one: a sound, and no pressure until the next word.
-void GameFlow::openingWindow()
-{
-    game.state.redTileHold = true;
-    sounds.play(cue::menu);
-}
-
-void GameFlow::showTopTen()
-{
-    performOtherInGame([this] {
-        openingWindow();
-        lexigrove::showTopTen(scoreForm, windows_.scores, ScoreForm::showOnly);
-    });
-}
-
-void GameFlow::showStatistics()
-{
-    performOtherInGame([this] {
-        openingWindow();
-        game.state.statistics.setHintsUsed(game.state.hintsUsed);
-        statisticsForm.activate(game.state.computerGame, dictionary.letters.letterCounts);
-        windows_.statistics.show(statisticsForm);
-    });
-}
-
-void GameFlow::showHelp()
-{
-    performOther([this] {
-        openingWindow();
-        helpForm.Tag = helpAddress(folder_);
-        windows_.help.show(helpForm);
-    });
-}
-
-void GameFlow::showAbout()
-{
-    performOther([this] {
-        openingWindow();
-        windows_.about.show(aboutForm);
-    });
-}
-
-void GameFlow::askDeveloperPassword()
-{
-    performOther([this] {
-        game.state.developerMode = false;
-        if (ports_.dialogs.input("LexiGrove", "Enter password", "") == "718kestr")
-            game.state.developerMode = true;
+    input(When::Always, [=](GameParts& p) {
+        p.letterSwap.cancel();
+        frame10Released(p.Dc1, button);
     });
 }
 
 void GameFlow::releaseDeveloperKey(DeveloperKey key)
 {
-    if (!game.state.developerMode)
+    if (!parts_->game.state.developerMode)
         return;
-    int& delay = options.settings.dropDelay;
+    int& delay = parts_->options.settings.dropDelay;
     constexpr int step = 10;
     constexpr int highest = std::numeric_limits<std::int16_t>::max();
     switch (key) {
@@ -206,48 +209,146 @@ void GameFlow::releaseDeveloperKey(DeveloperKey key)
     }
 }
 
-void GameFlow::exportWords()
+/// What every action does that opens a window from the main one: a sound, and no pressure until the next word.
+void GameFlow::openingWindow()
 {
-    performOtherInGame([this] { (void)dictionary.exportWords(ports_.dialogs, ports_.random, ports_.clock); });
+    parts_->game.state.redTileHold = true;
+    parts_->sounds.play(cue::menu);
+}
+
+void GameFlow::pauseOrResume()
+{
+    if (paused_) {
+        resume();
+        return;
+    }
+    paused_ = true;
+    pauseCaptionShown_ = true;
+    clockRanBeforePause_ = parts_->Dc1.running();
+    parts_->Dc1.SuspendCountDown();
+}
+
+void GameFlow::resume()
+{
+    if (!paused_)
+        return;
+    paused_ = false;
+    if (clockRanBeforePause_)
+        parts_->Dc1.ResumeCountDown();
 }
 
 // ---- The timers
 
-void GameFlow::redTimerTick()
+void GameFlow::tick(Timer timer)
 {
-    performInGame([this] { game.redTiles.redTimerTick(); });
-}
-
-void GameFlow::pushTimerTick()
-{
-    performInGame([this] {
-        const RedTiles::PushResult push = game.redTiles.pushTimerTick();
-        if (push.what == RedTiles::Push::Pushed)
-            letterSwap.cancel();
-        if (push.what == RedTiles::Push::Lost)
-            loseGame(push.col);
-    });
-}
-
-/// The clock goes on while a window is open; an expiry that meets one is told when it has closed, for it is raised
-/// again at every tick.
-void GameFlow::clockTimerTick()
-{
-    const bool expired = Dc1.tick(ports_.clock.secondsSinceMidnight());
-    if (expired)
-        perform([this] { clockExpired(); });
-}
-
-void GameFlow::pauseTimerTick()
-{
-    if (paused_)
-        pauseCaptionShown_ = !pauseCaptionShown_;
+    switch (timer) {
+    case Timer::Red:
+        input(When::InPlay, [](GameParts& p) { p.game.redTiles.redTimerTick(); });
+        break;
+    case Timer::Push:
+        input(When::InPlay, [this](GameParts& p) {
+            const RedTiles::PushResult push = p.game.redTiles.pushTimerTick();
+            if (push.what == RedTiles::Push::Pushed)
+                p.letterSwap.cancel();
+            if (push.what == RedTiles::Push::Lost)
+                loseGame(push.col);
+        });
+        break;
+    case Timer::Clock:
+        // It goes on while a window is open; an expiry that meets one is told when it has closed, for it is raised
+        // again at every tick.
+        if (parts_->Dc1.tick(parts_->ports.clock.secondsSinceMidnight()))
+            input(When::Always, [this](GameParts& /*parts*/) { clockExpired(); });
+        parts_->ports.screen.inputEnded();
+        break;
+    case Timer::Pause:
+        pauseCaptionShown_ = paused_ && !pauseCaptionShown_;
+        parts_->ports.screen.inputEnded();
+        break;
+    }
 }
 
 void GameFlow::clockGotFocus()
 {
-    if (Dc1.gotFocus())
-        perform([this] { clockExpired(); });
+    if (parts_->Dc1.gotFocus())
+        input(When::Always, [this](GameParts& /*parts*/) { clockExpired(); });
+}
+
+// ---- The views
+
+const GameState& GameFlow::state() const
+{
+    return parts_->game.state;
+}
+
+const Board& GameFlow::board() const
+{
+    return parts_->game.board;
+}
+
+const Selection& GameFlow::selection() const
+{
+    return parts_->game.selection;
+}
+
+const LetterSupply& GameFlow::supply() const
+{
+    return parts_->game.supply;
+}
+
+const OptionsForm& GameFlow::options() const
+{
+    return parts_->options;
+}
+
+const Dictionary& GameFlow::dictionary() const
+{
+    return parts_->dictionary;
+}
+
+const ColourScheme& GameFlow::scheme() const
+{
+    return parts_->scheme;
+}
+
+const Dc& GameFlow::clock() const
+{
+    return parts_->Dc1;
+}
+
+bool GameFlow::soundIsOn() const
+{
+    return parts_->sounds.isOn();
+}
+
+const std::string& GameFlow::soundCaption() const
+{
+    return parts_->sounds.SoundOnOff.Caption;
+}
+
+const std::string& GameFlow::caption() const
+{
+    return parts_->dictionary.caption();
+}
+
+std::string GameFlow::pauseCaption() const
+{
+    return paused_ && pauseCaptionShown_ ? "Paused" : "";
+}
+
+int GameFlow::swapTile() const
+{
+    return parts_->letterSwap.tile();
+}
+
+int GameFlow::guideColumn() const
+{
+    return parts_->game.dropRow.guideColumn();
+}
+
+const std::vector<int>& GameFlow::shownHint() const
+{
+    return parts_->hintsForm.shownPath();
 }
 
 } // namespace lexigrove

@@ -53,30 +53,18 @@ void Board::layOut(Arrangement arrangement)
     arrangement_ = arrangement;
     clear();
 
-    int number = 0;
-    for (int col = 1; col <= columns; ++col) {
-        for (int row = 1; row <= 8; ++row) {
-            ++number;
-            const int left = homeLeft(col);
-            int top = (row - 1) * layout::cellSize + layout::boardTop;
-            if (isShortColumn(arrangement, col))
-                top += (layout::cellSize + 1) / 2;
-            tile(number).Left(left);
-            tile(number).Top(top);
-            tile(number).Visible(row <= columnHeight(col));
-            grid_[index(row)][index(col)] = static_cast<std::int16_t>(number);
-            row_[index(number)] = static_cast<std::int16_t>(row);
-            col_[index(number)] = static_cast<std::int16_t>(col);
-            cellLeft_[index(row)][index(col)] = left;
-            cellTop_[index(row)][index(col)] = top;
-        }
-        TopDrop[index(col)].Left(homeLeft(col));
-        TopDrop[index(col)].Top(layout::dropRowTop);
-        TopDrop[index(col)].Visible(true);
+    for (int number = 1; number <= tileCount; ++number) {
+        BoxControl& control = tile(number);
+        control.Left(columnLeft(col(number)));
+        control.Top(cellTop(row(number), col(number)));
+        control.Visible(isInPlay(number));
     }
-
-    neighbours_ = arrangement == Arrangement::Square ? squareNeighbours() : staggeredNeighbours();
-    savedNeighbours_ = neighbours_;
+    for (int col = 1; col <= columns; ++col) {
+        waiting(col).Left(columnLeft(col));
+        waiting(col).Top(layout::dropRowTop);
+        waiting(col).Visible(true);
+    }
+    touching_ = arrangement == Arrangement::Square ? squareNeighbours() : staggeredNeighbours();
 }
 
 void Board::clear()
@@ -87,17 +75,21 @@ void Board::clear()
         waiting.Visible(false);
 }
 
-void Board::rebuildNeighbours()
+/// Short columns are shifted down by half a cell.
+int Board::cellTop(int row, int col) const
 {
-    for (int n = 1; n <= tileCount; ++n) {
-        NeighbourList list;
-        for (const int m : savedNeighbours(n)) {
-            const int standing = Grid(initialRow(m), initialCol(m));
-            if (isVisible(standing))
-                list.append(standing);
-        }
-        neighbours_[index(n)] = list;
+    const int shift = isShortColumn(arrangement_, col) ? layout::cellSize / 2 : 0;
+    return layout::boardTop + (row - 1) * layout::cellSize + shift;
+}
+
+NeighbourList Board::neighbours(int tile) const
+{
+    NeighbourList visible;
+    for (const int neighbour : touching_[index(tile)]) {
+        if (isVisible(neighbour))
+            visible.append(neighbour);
     }
+    return visible;
 }
 
 int Board::columnHeight(int col) const
@@ -105,16 +97,11 @@ int Board::columnHeight(int col) const
     return isShortColumn(arrangement_, col) ? 7 : 8;
 }
 
-bool Board::isBonus(int number) const
-{
-    return maskcolor(number) > multiplier::plain && maskcolor(number) <= multiplier::highestBonus;
-}
-
 int Board::emptyCells(int col) const
 {
     int count = 0;
     for (int row = 1; row <= columnHeight(col); ++row)
-        count += isVisible(Grid(row, col)) ? 0 : 1;
+        count += tile(row, col).Visible() ? 0 : 1;
     return count;
 }
 
@@ -123,7 +110,7 @@ std::string Board::description(int number) const
     std::string neighbourLetters;
     for (const int neighbour : neighbours(number))
         neighbourLetters += letter(neighbour) + ',';
-    return "index=" + std::to_string(number) + ", seq=" + std::to_string(seq(number)) + "<" + letter(number) +
+    return "index=" + std::to_string(number) + ", seq=" + std::to_string(number) + "<" + letter(number) +
            "> row=" + std::to_string(row(number)) + ", col=" + std::to_string(col(number)) +
            ", Neibors=" + Neibors(number) + neighbourLetters + ", value=" + std::to_string(valueOf(letter(number))) +
            ", maskcolor=" + std::to_string(maskcolor(number)) + ", tag= " + tile(number).Tag();
@@ -132,9 +119,9 @@ std::string Board::description(int number) const
 std::string Board::hoverCaption(int number) const
 {
     std::string caption = "Letter " + letter(number) + " - score =" + std::to_string(valueOf(letter(number)));
-    if (isBonus(number)) {
+    if (multiplier::isBonus(maskcolor(number))) {
         static constexpr const char* names[] = {"double", "triple", "quadruple"};
-        caption += std::string(", will give ") + names[maskcolor(number) - 2] + " word score";
+        caption += std::string(", will give ") + names[maskcolor(number) - multiplier::doubled] + " word score";
     }
     return caption;
 }

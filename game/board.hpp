@@ -1,24 +1,16 @@
 #pragma once
 
 #include "controls/box_control.hpp"
+#include "controls/multiplier.hpp"
 #include "game/neighbours.hpp"
 
 #include <array>
-#include <cstdint>
 #include <string>
 
 namespace lexigrove
 {
 
 enum class Arrangement { Square, Staggered };
-
-/// What a tile's `MaskColor` means for the board: the word multiplier, or a red tile.
-namespace multiplier
-{
-constexpr Colour plain = 1;
-constexpr Colour highestBonus = 4; ///< 2, 3 and 4 are double, triple and quadruple word score
-constexpr Colour red = 9;
-} // namespace multiplier
 
 /// Waiting tiles and board share one coordinate system, in units (see controls/geometry.hpp).
 namespace layout
@@ -49,50 +41,52 @@ class Board
 public:
     static constexpr int tileCount = 64;
     static constexpr int columns = 8;
+    static constexpr int rows = 8;
 
     Board();
 
     /// Every tile control lets events run on this screen at the end of a redraw; null for none.
     void setScreen(Screen* screen);
 
-    /// Lay out board: places and shows the tiles and the drop row, fills `row`, `col` and `Grid`, computes the
-    /// neighbour lists of the arrangement and keeps their saved copy.
+    /// Lay out board: places and shows the tiles and the drop row of the arrangement.
     void layOut(Arrangement arrangement);
 
     /// Hides every tile and every waiting tile.
     void clear();
-
-    /// Rebuilds every neighbour list from its saved copy with the tiles that are visible now, so that what touches on
-    /// the screen can be clicked, and nothing else.
-    void rebuildNeighbours();
 
     [[nodiscard]] Arrangement arrangement() const { return arrangement_; }
 
     /// 8, or 7 for an odd column of the Staggered arrangement.
     [[nodiscard]] int columnHeight(int col) const;
 
-    [[nodiscard]] int Grid(int row, int col) const { return grid_[index(row)][index(col)]; }
-    [[nodiscard]] int row(int tile) const { return row_[index(tile)]; }
-    [[nodiscard]] int col(int tile) const { return col_[index(tile)]; }
-    [[nodiscard]] int initialRow(int tile) const { return row_[index(tile)]; }
-    [[nodiscard]] int initialCol(int tile) const { return col_[index(tile)]; }
-    [[nodiscard]] int seq(int tile) const { return tile; }
-    [[nodiscard]] int cellLeft(int row, int col) const { return cellLeft_[index(row)][index(col)]; }
-    [[nodiscard]] int cellTop(int row, int col) const { return cellTop_[index(row)][index(col)]; }
-    [[nodiscard]] int homeLeft(int col) const { return layout::boardLeft + (col - 1) * layout::cellSize; }
+    /// Whether the tile has a place in the arrangement.
+    [[nodiscard]] bool isInPlay(int tile) const { return row(tile) <= columnHeight(col(tile)); }
 
-    [[nodiscard]] const NeighbourList& neighbours(int tile) const { return neighbours_[index(tile)]; }
-    [[nodiscard]] const NeighbourList& savedNeighbours(int tile) const { return savedNeighbours_[index(tile)]; }
+    // Tiles 1 to 64, rows and columns 1 to 8.
+
+    [[nodiscard]] static constexpr int Grid(int row, int col) { return (col - 1) * rows + row; }
+    [[nodiscard]] static constexpr int row(int tile) { return (tile - 1) % rows + 1; }
+    [[nodiscard]] static constexpr int col(int tile) { return (tile - 1) / rows + 1; }
+
+    // Where a cell is, in units. A waiting tile waits at the left of its column.
+
+    [[nodiscard]] static constexpr int columnLeft(int col) { return layout::boardLeft + (col - 1) * layout::cellSize; }
+    [[nodiscard]] int cellTop(int row, int col) const;
+
+    /// The visible tiles that touch a tile, in the order of the arrangement's table.
+    [[nodiscard]] NeighbourList neighbours(int tile) const;
     [[nodiscard]] std::string Neibors(int tile) const { return neighbours(tile).text(); }
 
     [[nodiscard]] BoxControl& tile(int number) { return Tiles[index(number)]; }
     [[nodiscard]] const BoxControl& tile(int number) const { return Tiles[index(number)]; }
+    [[nodiscard]] BoxControl& tile(int row, int col) { return tile(Grid(row, col)); }
+    [[nodiscard]] const BoxControl& tile(int row, int col) const { return tile(Grid(row, col)); }
+    /// The waiting tile over a column.
+    [[nodiscard]] BoxControl& waiting(int col) { return TopDrop[index(col)]; }
+    [[nodiscard]] const BoxControl& waiting(int col) const { return TopDrop[index(col)]; }
     [[nodiscard]] bool isVisible(int number) const { return tile(number).Visible(); }
     [[nodiscard]] const std::string& letter(int number) const { return tile(number).Caption(); }
     [[nodiscard]] Colour maskcolor(int number) const { return tile(number).MaskColor(); }
-
-    /// A bonus tile: double, triple or quadruple.
-    [[nodiscard]] bool isBonus(int number) const;
 
     /// The number of hidden tiles in the column's rows: its empty cells, which are always at the top.
     [[nodiscard]] int emptyCells(int col) const;
@@ -111,13 +105,7 @@ private:
     static constexpr std::size_t index(int number) { return static_cast<std::size_t>(number); }
 
     Arrangement arrangement_ = Arrangement::Square;
-    std::array<std::int16_t, tileCount + 1> row_{};
-    std::array<std::int16_t, tileCount + 1> col_{};
-    std::array<std::array<std::int16_t, 9>, 9> grid_{};
-    std::array<std::array<int, 9>, 9> cellLeft_{};
-    std::array<std::array<int, 9>, 9> cellTop_{};
-    NeighbourTable neighbours_;
-    NeighbourTable savedNeighbours_;
+    NeighbourTable touching_{}; ///< of the arrangement, whatever is visible
 };
 
 } // namespace lexigrove

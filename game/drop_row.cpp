@@ -23,25 +23,24 @@ private:
 
 void DropRow::dropIntoColumn(int col)
 {
-    if (board_.isVisible(board_.Grid(1, col))) {
+    if (board_.tile(1, col).Visible()) {
         sounds_.play(cue::error);
         return;
     }
     const GuideLine guide(guideColumn_, col);
     const int empty = board_.emptyCells(col);
     const std::vector<int> collected = collect(col, empty);
-    const int left = board_.TopDrop[static_cast<std::size_t>(col)].Left();
+    const int left = board_.waiting(col).Left();
 
     // From the lowest empty cell upward; the next waiting tile slides over the column as soon as the one before has
     // landed.
     int row = empty;
     for (std::size_t i = 0; i < collected.size() && row >= 1; ++i, --row) {
-        BoxControl& waiting = board_.TopDrop[static_cast<std::size_t>(collected[i])];
-        land(waiting, board_.tile(board_.Grid(row, col)), row, col);
+        BoxControl& waiting = board_.waiting(collected[i]);
+        land(waiting, row, col);
         if (i + 1 < collected.size())
-            slideWaitingTileOver(board_.TopDrop[static_cast<std::size_t>(collected[i + 1])], left);
+            slideWaitingTileOver(board_.waiting(collected[i + 1]), left);
     }
-    board_.rebuildNeighbours();
     supply_.refillTopRow();
 }
 
@@ -50,7 +49,7 @@ std::vector<int> DropRow::collect(int col, int wanted) const
 {
     std::vector<int> collected{col};
     const auto take = [&](int j) {
-        if (static_cast<int>(collected.size()) >= wanted || !board_.TopDrop[static_cast<std::size_t>(j)].Visible())
+        if (static_cast<int>(collected.size()) >= wanted || !board_.waiting(j).Visible())
             return false;
         collected.push_back(j);
         return true;
@@ -62,12 +61,13 @@ std::vector<int> DropRow::collect(int col, int wanted) const
     return collected;
 }
 
-void DropRow::land(BoxControl& waiting, BoxControl& target, int row, int col)
+void DropRow::land(BoxControl& waiting, int row, int col)
 {
+    BoxControl& target = board_.tile(row, col);
     animateWaitingTileDown(waiting, board_.cellTop(row, col));
     sounds_.play(cue::swap);
     target.Caption(waiting.Caption());
-    target.Move(board_.cellLeft(row, col), board_.cellTop(row, col), layout::cellSize, layout::cellSize);
+    target.Move(Board::columnLeft(col), board_.cellTop(row, col), layout::cellSize, layout::cellSize);
     target.Tag("");
     target.MaskColor(multiplier::plain);
     look_.showNormal(target);

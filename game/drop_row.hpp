@@ -34,7 +34,7 @@ private:
     [[nodiscard]] std::vector<int> collect(int col, int wanted) const;
     void animateWaitingTileDown(BoxControl& waiting, int top);
     void slideWaitingTileOver(BoxControl& waiting, int left);
-    void land(BoxControl& waiting, BoxControl& target, int row, int col);
+    void land(BoxControl& waiting, int row, int col);
 
     Board& board_;
     LetterSupply& supply_;

@@ -7,15 +7,12 @@ namespace lexigrove
 
 void GameState::resetForNewGame()
 {
-    WordTried = {"", ownBack, ownFore};
-    CurrScore = {"", ownBack, ownFore};
-    YourScore.Caption = "0";
-    CompScore.Caption = "0";
-    TilesLeft.Caption.clear();
-    Label4.Caption.clear();
-    EnterWord.Visible = true;
-    Frame3.Enabled = true;
-    Picture1.Enabled = true;
+    yourScore = 0;
+    compScore = 0;
+    prompt = Prompt::None;
+    currScore.reset();
+    letterDraw = LetterDraw::NotDealt;
+    hoveredTile = 0;
     WordsMade.clear();
     computerTurnInProgress = false;
 
@@ -28,6 +25,24 @@ void GameState::resetForNewGame()
     tickCount = 0;
     pressure = 0;
     lastPressure = 0;
+}
+
+std::string GameState::tilesLeftText() const
+{
+    switch (letterDraw) {
+    case LetterDraw::NotDealt:
+        return {};
+    case LetterDraw::Ended:
+        return "NONE";
+    case LetterDraw::Going:
+        break;
+    }
+    return std::to_string(tilesLeft);
+}
+
+std::string GameState::currScoreText() const
+{
+    return currScore ? std::to_string(currScore->score) : "";
 }
 
 void countUp(std::int16_t& counter)

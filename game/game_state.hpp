@@ -1,35 +1,33 @@
 #pragma once
 
-#include "controls/label.hpp"
 #include "controls/words_grid.hpp"
+#include "game/word_score.hpp"
 #include "scores/statistics.hpp"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 namespace lexigrove
 {
 
-/// What the windows and the rules of one game share. Numbers shown in labels live in the labels' captions and are read
-/// back from there.
-struct GameState {
-    /// The colours of a label that no rule has coloured: the window's own.
-    static constexpr Colour ownBack = system_colour::windowBackground;
-    static constexpr Colour ownFore = system_colour::windowText;
+/// What `WordTried` shows in place of the word being built.
+enum class Prompt { None, YourMove, ComputerMove };
 
-    // The main window's controls
-    Label WordTried{"", ownBack, ownFore}; ///< the word being built, "Your move" or "Computer move..."
-    Label CurrScore{"", ownBack, ownFore}; ///< its score
-    Label YourScore{"0"};                  ///< the player's score
-    Label CompScore{"0"};                  ///< the computer's score
-    Label TilesLeft;                       ///< letters still to come; "NONE": no further letters are drawn
-    Label Label4;                          ///< the developer description of the tile under the pointer
-    Label EnterWord{"Enter Word"};
-    Label Frame3;   ///< the buttons of the player's actions
-    Label Picture1; ///< the board panel
+/// Whether letters come from the queue, and so what `TilesLeft` shows: nothing before the deal, the count, "NONE".
+enum class LetterDraw { NotDealt, Going, Ended };
+
+/// What the rules of one game share, as values. Texts are made from them where somebody shows them.
+struct GameState {
+    int yourScore = 0; ///< `YourScore`
+    int compScore = 0; ///< `CompScore`
+    Prompt prompt = Prompt::None;
+    std::optional<WordScore> currScore; ///< `CurrScore`: of the word being built; nothing before its first letter
+    LetterDraw letterDraw = LetterDraw::NotDealt;
+    int tilesLeft = 0;   ///< letters still to come; may fall below 0, for a board may hold more than it counts
+    int hoveredTile = 0; ///< the tile that `Label4` describes, 0 for none
     WordsGrid WordsMade;
 
-    // Flags
     bool developerMode = false;
     bool computerGame = false;
     bool redTileHold = false;            ///< stops both pressure timers
@@ -46,8 +44,15 @@ struct GameState {
     std::int32_t pressure = 0; ///< as the last red tick computed it
     std::int32_t lastPressure = 0;
 
-    /// Back to the start of a game: labels, words and every counter that is counted per game.
+    /// Back to the start of a game. Developer mode, the kind of game, the hold and the sort mark of the words stay.
     void resetForNewGame();
+
+    /// The caption of `TilesLeft`.
+    [[nodiscard]] std::string tilesLeftText() const;
+    /// The caption of `CurrScore`.
+    [[nodiscard]] std::string currScoreText() const;
+    /// `EnterWord` is hidden while the computer looks for its word.
+    [[nodiscard]] bool showsEnterWord() const { return prompt != Prompt::ComputerMove; }
 };
 
 /// 16-bit counters that count time stop at their highest value rather than wrap.

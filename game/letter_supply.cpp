@@ -49,16 +49,18 @@ void LetterSupply::dealLetters()
             RandomLetters.push_back(board_.letter(hidden));
     }
 
-    if (const std::string& preset = settings_.presetLetters; !preset.empty()) {
+    if (const std::string& preset = settings_.presetLetters.letters(); !preset.empty()) {
         for (int tile = 1; tile <= Board::tileCount; ++tile)
             board_.tile(tile).Caption(presetLetter(preset, tile));
         RandomLetters.clear();
         for (int place = Board::tileCount + 1; place <= poolSize; ++place)
             RandomLetters.push_back(presetLetter(preset, place));
+        settings_.presetLetters.dealt();
     }
 
     fillTopRow();
-    state_.TilesLeft.Caption = staggered ? "32" : "24";
+    state_.letterDraw = LetterDraw::Going;
+    state_.tilesLeft = staggered ? 32 : 24;
     state_.bonusTilesOnBoard = 0;
     state_.redTilesOnBoard = 0;
 }
@@ -87,22 +89,22 @@ std::string LetterSupply::nextLetter()
 void LetterSupply::refillTopRow()
 {
     std::string pattern = "????????";
-    for (std::size_t k = 1; k <= Board::columns; ++k) {
-        const BoxControl& waiting = board_.TopDrop[k];
+    for (int k = 1; k <= Board::columns; ++k) {
+        const BoxControl& waiting = board_.waiting(k);
         if (waiting.Visible()) {
             const int column = (waiting.Left() - 30) / layout::cellSize + 1;
             pattern[static_cast<std::size_t>(column - 1)] = waiting.Caption().empty() ? ' ' : waiting.Caption().front();
         }
     }
 
-    if (state_.TilesLeft.Caption != "NONE") {
+    if (state_.letterDraw != LetterDraw::Ended) {
         for (int k = 1; k <= Board::columns; ++k) {
             if (pattern[static_cast<std::size_t>(k - 1)] != '?')
                 continue;
             const std::string letter = nextLetter();
             if (letter.empty())
                 break;
-            state_.TilesLeft.Caption = std::to_string(numberOf(state_.TilesLeft.Caption) - 1);
+            --state_.tilesLeft;
             waitAtHome(k, letter);
         }
     }
@@ -114,12 +116,11 @@ void LetterSupply::refillTopRow()
     }
 }
 
-/// A waiting tile without a letter is hidden.
 void LetterSupply::waitAtHome(int col, const std::string& letter)
 {
-    BoxControl& waiting = board_.TopDrop[static_cast<std::size_t>(col)];
+    BoxControl& waiting = board_.waiting(col);
     waiting.Caption(letter);
-    waiting.Left(board_.homeLeft(col));
+    waiting.Left(Board::columnLeft(col));
     waiting.Top(layout::dropRowTop);
     waiting.Visible(!letter.empty());
 }

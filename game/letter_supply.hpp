@@ -17,7 +17,7 @@ namespace lexigrove
 class LetterSupply
 {
 public:
-    LetterSupply(GameState& state, Board& board, LetterTables& letters, const GameSettings& settings, Random& random,
+    LetterSupply(GameState& state, Board& board, LetterTables& letters, GameSettings& settings, Random& random,
                  const Clock& clock)
         : state_(state), board_(board), letters_(letters), settings_(settings), random_(random), clock_(clock)
     {
@@ -38,17 +38,19 @@ public:
     /// never runs out of letters: its queue is topped up with the freshly shuffled pool.
     void refillTopRow();
 
+    /// Puts a letter on the waiting tile over a column, at its home; without a letter the tile is hidden.
+    void waitAtHome(int col, const std::string& letter);
+
     /// Upcoming letters, the next one first. A letter is one character; an empty text is a place without a letter.
     std::deque<std::string> RandomLetters;
 
 private:
     void fillTopRow();
-    void waitAtHome(int col, const std::string& letter);
 
     GameState& state_;
     Board& board_;
     LetterTables& letters_;
-    const GameSettings& settings_;
+    GameSettings& settings_;
     Random& random_;
     const Clock& clock_;
 };

@@ -21,9 +21,9 @@ void RedTiles::redTimerTick()
 
 std::int32_t RedTiles::pressure() const
 {
-    const Statistics& s = state_.statistics;
-    return 3 * s.number(1) + 2 * s.number(2) + s.number(3) - s.number(5) + 2 * state_.hintsUsed +
-           2 * state_.redTilesUsed + state_.tickCount;
+    const auto made = [this](int entry) { return state_.statistics.number(Statistics::playerBase + entry); };
+    return 3 * made(1) + 2 * made(2) + made(3) - made(5) + 2 * state_.hintsUsed + 2 * state_.redTilesUsed +
+           state_.tickCount;
 }
 
 void RedTiles::makeRedTile()
@@ -70,10 +70,10 @@ RedTiles::PushResult RedTiles::pushTimerTick()
     if (board_.isVisible(bottom) && board_.maskcolor(bottom) == multiplier::red)
         return {Push::Lost, col};
 
-    if (board_.isVisible(bottom) && board_.isBonus(bottom))
+    if (board_.isVisible(bottom) && multiplier::isBonus(board_.maskcolor(bottom)))
         state_.bonusTilesOnBoard = static_cast<std::int16_t>(std::max(0, state_.bonusTilesOnBoard - 1));
     pushColumn(col);
-    if (board_.TopDrop[static_cast<std::size_t>(col)].Visible())
+    if (board_.waiting(col).Visible())
         dropRow_.dropIntoColumn(col);
     return {Push::Pushed, col};
 }
@@ -88,7 +88,6 @@ void RedTiles::pushColumn(int col)
 {
     selection_.clear();
     removal_.moveColumnDown(board_.columnHeight(col), col);
-    board_.rebuildNeighbours();
 }
 
 } // namespace lexigrove

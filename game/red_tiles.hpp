@@ -19,8 +19,6 @@ namespace lexigrove
 class RedTiles
 {
 public:
-    static constexpr int redTimerInterval = 1000;   ///< `UpdateRedTriggerTimer`, milliseconds
-    static constexpr int pushTimerInterval = 64000; ///< `MoveColDownTimer`, milliseconds
     static constexpr int mostRedTiles = 4;
 
     RedTiles(GameState& state, Board& board, Selection& selection, TileRemoval& removal, DropRow& dropRow,

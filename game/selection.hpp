@@ -1,26 +1,25 @@
 #pragma once
 
+#include "controls/mouse_button.hpp"
 #include "game/board.hpp"
 #include "game/game_state.hpp"
 #include "game/tile_look.hpp"
+#include "game/word_score.hpp"
 #include "platform/screen.hpp"
 #include "settings/sound_cues.hpp"
 
-#include <array>
-#include <cstdint>
 #include <string>
+#include <vector>
 
 namespace lexigrove
 {
-
-enum class MouseButton { Left, Right, Middle };
 
 /// The word path: the chain of touching tiles that is being built, in click order. The computer's turn and a taken hint
 /// play through the same path.
 class Selection
 {
 public:
-    Selection(GameState& state, Board& board, TileLook& look, SoundCues& sounds)
+    Selection(GameState& state, Board& board, const TileLook& look, SoundCues& sounds)
         : state_(state), board_(board), look_(look), sounds_(sounds)
     {
     }
@@ -29,50 +28,41 @@ public:
     /// shortens or restarts the path.
     void tileClicked(int tile, MouseButton button);
 
-    /// Empties the path: every entry, the tags and highlights, `WordTried` and `CurrScore`; takes back entry pending.
+    /// Empties the path with its tags and highlights; `WordTried` and `CurrScore` are empty, and no entry is pending.
     void clear();
 
-    /// Empties the path and leaves the captions alone.
+    /// Empties the path and leaves its score and what is prompted alone.
     void clearPath();
 
     /// Puts a tile at the end of the path: tag "X", highlighted.
     void append(int tile);
 
-    /// `WordTried` and `CurrScore` from the path; a right click arms entry pending.
-    void updateWordDisplay(MouseButton button);
+    /// The path's tiles in click order, and the last of them, 0 for an empty path.
+    [[nodiscard]] const std::vector<int>& tiles() const { return tiles_; }
+    [[nodiscard]] int lastTile() const { return tiles_.empty() ? 0 : tiles_.back(); }
+    [[nodiscard]] bool isEmpty() const { return tiles_.empty(); }
 
-    [[nodiscard]] int length() const { return length_; }
-    [[nodiscard]] int lastTile() const { return lastTile_; }
-    /// Tile and letter at place 1 to length() of the path.
-    [[nodiscard]] int tileAt(int place) const { return tiles_[static_cast<std::size_t>(place)]; }
-    [[nodiscard]] const std::string& letterAt(int place) const { return letters_[static_cast<std::size_t>(place)]; }
-
-    /// The path letters joined.
+    /// The path letters joined, as they were when their tiles were clicked.
     [[nodiscard]] std::string word() const;
+
+    /// What `WordTried` shows: the word, "Your move" or "Computer move...".
+    [[nodiscard]] std::string wordTried() const;
 
     bool entryPending = false; ///< armed by a right click: the next one enters the word
 
 private:
+    void updateWordDisplay(MouseButton button);
     void removeLast();
 
     GameState& state_;
     Board& board_;
-    TileLook& look_;
+    const TileLook& look_;
     SoundCues& sounds_;
-    int length_ = 0;
-    int lastTile_ = 0;
-    std::array<std::int16_t, Board::tileCount + 1> tiles_{};
-    std::array<std::string, Board::tileCount + 1> letters_;
+    std::vector<int> tiles_;
+    std::vector<std::string> letters_;
 };
 
-/// What a word over the path is worth.
-struct WordScore {
-    int score = 0;      ///< best multiplier times the letter sum
-    int bonusCount = 0; ///< tiles that raised the running best, in path order
-    int best = 1;       ///< the multiplier that counts: 1 to 4
-};
-
-/// Only the highest multiplier of the path counts; a red tile has none.
-WordScore wordScore(const std::string& word, const Selection& path, const Board& board);
+/// What the word of a path is worth: only its highest multiplier counts; a red tile has none.
+WordScore wordScore(const Selection& path, const Board& board);
 
 } // namespace lexigrove

@@ -1,7 +1,5 @@
 #include "game/tile_look.hpp"
 
-#include "game/game_state.hpp"
-
 namespace lexigrove
 {
 
@@ -20,7 +18,7 @@ void showEdges(BoxControl& tile, const ColourScheme& scheme)
 
 void TileLook::showNormal(BoxControl& tile) const
 {
-    const int multiplier = static_cast<int>(tile.MaskColor());
+    const Colour multiplier = tile.MaskColor();
     showEdges(tile, scheme_);
     tile.ForeColor(scheme_.tileLetter(multiplier));
     tile.KeepUp();
@@ -32,11 +30,6 @@ void TileLook::showSelected(BoxControl& tile) const
     tile.ForeColor(scheme_.selectedLetter());
     tile.backcolor(scheme_.selectedFace());
     tile.KeepDown(); // last: a redraw of a held tile would show its frame again
-}
-
-Colour TileLook::scoreGround(int bestMultiplier) const
-{
-    return bestMultiplier > 1 ? scheme_.tileFace(bestMultiplier) : GameState::ownBack;
 }
 
 } // namespace lexigrove

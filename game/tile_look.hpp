@@ -18,9 +18,6 @@ public:
     /// Part of a path: face and letter exchange their colours, and the tile is held down.
     void showSelected(BoxControl& tile) const;
 
-    /// Back colour of `CurrScore`: the colour of a double, triple or quadruple tile, else the normal one.
-    [[nodiscard]] Colour scoreGround(int bestMultiplier) const;
-
 private:
     const ColourScheme& scheme_;
 };

@@ -7,10 +7,9 @@ namespace lexigrove
 
 EnterResult WordEntry::enterWord()
 {
-    const std::string& tried = state_.WordTried.Caption;
-    if (state_.computerGame && (tried.empty() || tried == "Your move"))
-        return EnterResult::Passed;
     const std::string word = selection_.word();
+    if (state_.computerGame && word.empty())
+        return EnterResult::Passed;
     if (word.size() < 2)
         return EnterResult::TooShort;
     if (!isAccepted(word)) {
@@ -21,16 +20,15 @@ EnterResult WordEntry::enterWord()
 
     state_.redTileHold = true;
     defuseRedTiles();
-    const WordScore score = wordScore(word, selection_, board_);
+    const WordScore score = wordScore(selection_, board_);
     removal_.removePathTiles();
     state_.bonusTilesOnBoard = static_cast<std::int16_t>(state_.bonusTilesOnBoard - score.bonusCount);
     if (word.size() > 5)
         sounds_.play(cue::longWord);
-    state_.YourScore.Caption = std::to_string(numberOf(state_.YourScore.Caption) + score.score);
+    state_.yourScore += score.score;
     awardBonusFor(word.size());
     ++state_.wordsMade;
     state_.statistics.recordWord(word, Statistics::playerBase);
-    board_.rebuildNeighbours();
     selection_.clear();
     state_.WordsMade.insertOnTop({.score = score.score, .word = word});
     state_.redTileHold = false;
@@ -47,8 +45,8 @@ bool WordEntry::isAccepted(const std::string& word) const
 
 void WordEntry::defuseRedTiles()
 {
-    for (int place = 1; place <= selection_.length(); ++place) {
-        BoxControl& tile = board_.tile(selection_.tileAt(place));
+    for (const int number : selection_.tiles()) {
+        BoxControl& tile = board_.tile(number);
         if (tile.MaskColor() != multiplier::red)
             continue;
         --state_.redTilesOnBoard;
@@ -64,17 +62,15 @@ void WordEntry::awardBonusFor(std::size_t wordLength)
     const int threshold = level == 0 ? 5 : level + 3;
     const int beyond = static_cast<int>(wordLength) - threshold;
     if (beyond >= 0)
-        awardBonusTile(2 + std::min(beyond, 2));
+        awardBonusTile(multiplier::doubled + static_cast<Colour>(std::min(beyond, 2)));
 }
 
-void WordEntry::awardBonusTile(int multiplier)
+void WordEntry::awardBonusTile(Colour multiplier)
 {
     constexpr int mostBonusTiles = 4;
     if (state_.bonusTilesOnBoard >= mostBonusTiles || state_.computerGame)
         return;
-    const auto isPlain = [](const BoxControl& tile) {
-        return tile.Visible() && tile.MaskColor() == lexigrove::multiplier::plain;
-    };
+    const auto isPlain = [](const BoxControl& tile) { return tile.Visible() && tile.MaskColor() == multiplier::plain; };
     if (std::none_of(board_.Tiles.begin() + 1, board_.Tiles.end(), isPlain))
         return;
 
@@ -84,7 +80,7 @@ void WordEntry::awardBonusTile(int multiplier)
         number = placeFromDraw(ports_.random.reseedAndDraw(ports_.clock), Board::tileCount);
     } while (!isPlain(board_.tile(number)));
 
-    board_.tile(number).MaskColor(static_cast<Colour>(multiplier));
+    board_.tile(number).MaskColor(multiplier);
     look_.showNormal(board_.tile(number));
     ++state_.bonusTilesOnBoard;
 }

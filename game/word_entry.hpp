@@ -42,7 +42,7 @@ public:
 
     /// Makes a plain tile, drawn at random, a bonus tile with this multiplier (2, 3 or 4). Nothing happens in a game
     /// against the computer, with four bonus tiles on the board, or where no visible tile is plain.
-    void awardBonusTile(int multiplier);
+    void awardBonusTile(Colour multiplier);
 
 private:
     [[nodiscard]] bool isAccepted(const std::string& word) const;

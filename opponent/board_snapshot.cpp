@@ -11,10 +11,7 @@ SearchBoard snapshotOf(const Board& board)
         const std::string& letter = board.letter(tile);
         if (board.isVisible(tile) && !letter.empty())
             snapshot.letters[i] = letter.front();
-        for (const std::uint8_t neighbour : board.neighbours(tile)) {
-            if (board.isVisible(neighbour))
-                snapshot.neighbours[i].append(neighbour);
-        }
+        snapshot.neighbours[i] = board.neighbours(tile);
     }
     return snapshot;
 }

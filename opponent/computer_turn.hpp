@@ -4,6 +4,10 @@
 #include "game/game.hpp"
 #include "opponent/board_search.hpp"
 
+#include <cstdint>
+#include <span>
+#include <string>
+
 namespace lexigrove
 {
 
@@ -21,7 +25,7 @@ public:
 private:
     void begin();
     [[nodiscard]] int choosePosition(const CandidateList& candidates) const;
-    void showSelected(const CandidateList& candidates, int position);
+    void showSelected(std::span<const std::uint8_t> path);
     void play();
     void refillBoard();
     void end();

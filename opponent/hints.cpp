@@ -38,7 +38,7 @@ void Hints::getHint()
     game_.selection.clear();
     ++state.hintsUsed;
     form_.activate(candidates);
-    window_.show(form_);
+    game_.ports.windows.show(form_);
     if (!form_.result().empty())
         round_.enterWord();
     game_.refreshLooks();
@@ -49,8 +49,7 @@ void Hints::getHint()
 bool Hints::pay()
 {
     const int price = hintPrice(game_.dictionary.level());
-    Label& YourScore = game_.state.YourScore;
-    const int score = numberOf(YourScore.Caption);
+    int& score = game_.state.yourScore;
     if (score < price && !game_.state.developerMode) {
         game_.sounds.play(cue::error);
         game_.ports.status.show("your score must be at least" + std::to_string(price) + " to get a hint");
@@ -58,7 +57,7 @@ bool Hints::pay()
     }
     game_.sounds.play(cue::menu);
     game_.state.redTileHold = true;
-    YourScore.Caption = std::to_string(std::max(0, score - price));
+    score = std::max(0, score - price);
     return true;
 }
 

@@ -15,8 +15,8 @@ int hintPrice(int level);
 class Hints
 {
 public:
-    Hints(Game& game, BoardSearch& search, WordRound& round, HintsForm& form, HintsWindow& window)
-        : game_(game), search_(search), round_(round), form_(form), window_(window)
+    Hints(Game& game, BoardSearch& search, WordRound& round, HintsForm& form)
+        : game_(game), search_(search), round_(round), form_(form)
     {
     }
 
@@ -30,7 +30,6 @@ private:
     BoardSearch& search_;
     WordRound& round_;
     HintsForm& form_;
-    HintsWindow& window_;
 };
 
 } // namespace lexigrove

@@ -53,7 +53,6 @@ void HintsForm::pressSelect()
         for (const int tile : pickedPath_)
             game_.selection.append(tile);
         result_ = game_.selection.word();
-        game_.state.WordTried.Caption = result_;
     }
     visible_ = false;
 }

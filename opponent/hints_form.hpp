@@ -4,7 +4,7 @@
 #include "controls/words_grid.hpp"
 #include "game/game.hpp"
 #include "opponent/candidate_list.hpp"
-#include "opponent/meanings.hpp"
+#include "word_services/meanings.hpp"
 
 #include <string>
 #include <vector>
@@ -60,16 +60,6 @@ private:
     std::vector<int> shownPath_;
     std::string result_;
     bool visible_ = false;
-};
-
-/// Shows the hints window.
-class HintsWindow
-{
-public:
-    virtual ~HintsWindow() = default;
-
-    /// Shows the form modally and returns when `Select` or `Close` has hidden it (closing the window is `Close`).
-    virtual void show(HintsForm& form) = 0;
 };
 
 } // namespace lexigrove

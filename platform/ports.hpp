@@ -6,6 +6,7 @@
 #include "platform/screen.hpp"
 #include "platform/sound_device.hpp"
 #include "platform/status_line.hpp"
+#include "platform/windows.hpp"
 
 namespace lexigrove
 {
@@ -18,6 +19,7 @@ struct Ports {
     const Clock& clock;
     Random& random;
     StatusLine& status;
+    Windows& windows;
 };
 
 } // namespace lexigrove

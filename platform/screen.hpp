@@ -25,6 +25,9 @@ public:
 
     /// Lets events run until a key or a mouse button is pressed; that input is used up.
     virtual void waitForAnyInput() = 0;
+
+    /// Must not throw. An input or a tick of the game has ended: the models may differ from what is shown.
+    virtual void inputEnded() = 0;
 };
 
 /// Holds the busy pointer for the length of a scope.

@@ -10,23 +10,24 @@ ScoreForm::ScoreForm(ScoreFile& scores, Dialogs& dialogs)
 {
 }
 
-void ScoreForm::request(const std::string& code)
+void ScoreForm::request(std::optional<int> score)
 {
-    requestCode_ = code;
-    answer_.clear();
+    score_ = score;
+    answer_ = Answer::Close;
     visible_ = true;
 }
 
 void ScoreForm::activate()
 {
-    const bool isFinalScore = requestCode_ != showOnly;
-    AnotherGame.Enabled = isFinalScore;
-    ExitProg.Enabled = isFinalScore;
+    AnotherGame.Enabled = score_.has_value();
+    ExitProg.Enabled = score_.has_value();
 
     const std::vector<std::string> list = scores_.load();
     fillList(list);
-    const int score = std::min(numberOf(requestCode_), ScoreFile::highestScore);
-    if (isFinalScore && scoreOf(list.front()) < score) {
+    if (!score_)
+        return;
+    const int score = std::min(*score_, ScoreFile::highestScore);
+    if (scoreOf(list.front()) < score) {
         std::string name;
         while (name.empty())
             name = dialogs_.input("LexiGrove Top 10 List", "You have made TOP 10 list, Enter your name", "");
@@ -37,18 +38,18 @@ void ScoreForm::activate()
 void ScoreForm::pressAnotherGame()
 {
     if (AnotherGame.Enabled)
-        hide("NOGAME");
+        hide(Answer::NewGame);
 }
 
 void ScoreForm::pressExitProg()
 {
     if (ExitProg.Enabled)
-        hide("NOMORE");
+        hide(Answer::ExitProgram);
 }
 
 void ScoreForm::pressCloseForm()
 {
-    hide("");
+    hide(Answer::Close);
 }
 
 void ScoreForm::fillList(const std::vector<std::string>& ascending)
@@ -56,16 +57,29 @@ void ScoreForm::fillList(const std::vector<std::string>& ascending)
     List2.assign(ascending.rbegin(), ascending.rend());
 }
 
-void ScoreForm::hide(const char* answer)
+void ScoreForm::hide(Answer answer)
 {
     answer_ = answer;
     visible_ = false;
 }
 
-std::string showTopTen(ScoreForm& form, ScoreWindow& window, const std::string& code)
+std::string ScoreForm::answerCode() const
 {
-    form.request(code);
-    window.show(form);
+    switch (answer_) {
+    case Answer::NewGame:
+        return "NOGAME";
+    case Answer::ExitProgram:
+        return "NOMORE";
+    case Answer::Close:
+        break;
+    }
+    return {};
+}
+
+ScoreForm::Answer showTopTen(ScoreForm& form, Windows& windows, std::optional<int> score)
+{
+    form.request(score);
+    windows.show(form);
     return form.answer();
 }
 

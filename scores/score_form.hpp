@@ -2,8 +2,10 @@
 
 #include "controls/label.hpp"
 #include "platform/dialogs.hpp"
+#include "platform/windows.hpp"
 #include "scores/score_file.hpp"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -14,13 +16,12 @@ namespace lexigrove
 class ScoreForm
 {
 public:
-    /// The request code that only shows the list; any other code is the player's final score in decimal.
-    static constexpr const char* showOnly = "-1";
+    enum class Answer { Close, NewGame, ExitProgram };
 
     ScoreForm(ScoreFile& scores, Dialogs& dialogs);
 
-    /// Sets the request code of the next showing and empties the answer.
-    void request(const std::string& code);
+    /// What the next showing is for: the player's final score, or nothing only to show the list. Empties the answer.
+    void request(std::optional<int> score);
 
     /// To be called by the front end when the window has come up: fills `List2`, and records the score when it beats
     /// the lowest of the list, asking for the name until there is one.
@@ -31,11 +32,14 @@ public:
     void pressExitProg();
     void pressCloseForm();
 
-    [[nodiscard]] const std::string& requestCode() const { return requestCode_; }
     [[nodiscard]] bool isVisible() const { return visible_; }
+    [[nodiscard]] Answer answer() const { return answer_; }
 
-    /// "NOGAME" after `AnotherGame`, "NOMORE" after `ExitProg`, empty after `CloseForm`.
-    [[nodiscard]] const std::string& answer() const { return answer_; }
+    /// The request as its code: the score in decimal, "-1" without one.
+    [[nodiscard]] std::string requestCode() const { return std::to_string(score_.value_or(-1)); }
+
+    /// The answer as its code: "NOGAME" after `AnotherGame`, "NOMORE" after `ExitProg`, empty after `CloseForm`.
+    [[nodiscard]] std::string answerCode() const;
 
     std::string Caption = "LexiGrov Top 10 Scores";
     std::vector<std::string> List2; ///< the ten score lines, highest first: five digits, tab, name
@@ -46,26 +50,16 @@ public:
 
 private:
     void fillList(const std::vector<std::string>& ascending);
-    void hide(const char* answer);
+    void hide(Answer answer);
 
     ScoreFile& scores_;
     Dialogs& dialogs_;
-    std::string requestCode_ = showOnly;
-    std::string answer_;
+    std::optional<int> score_;
+    Answer answer_ = Answer::Close;
     bool visible_ = false;
 };
 
-/// Shows the top-ten window.
-class ScoreWindow
-{
-public:
-    virtual ~ScoreWindow() = default;
-
-    /// Shows the form, activates it, and returns when one of its buttons has hidden it (closing it is `CloseForm`).
-    virtual void show(ScoreForm& form) = 0;
-};
-
-/// Shows the top ten for a request code and returns the answer.
-std::string showTopTen(ScoreForm& form, ScoreWindow& window, const std::string& code);
+/// Shows the top ten, with a final score to be recorded or without, and returns the answer.
+ScoreForm::Answer showTopTen(ScoreForm& form, Windows& windows, std::optional<int> score);
 
 } // namespace lexigrove

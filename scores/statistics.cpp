@@ -1,6 +1,5 @@
 #include "scores/statistics.hpp"
 
-#include "controls/label.hpp"
 #include "dictionary/letter_tables.hpp"
 
 #include <algorithm>
@@ -11,13 +10,13 @@ namespace lexigrove
 
 void Statistics::recordWord(std::string_view word, int base)
 {
-    addOne(base + wordsMade);
+    ++at(base + wordsMade);
     const int length = static_cast<int>(word.size());
     if (length >= 2) // shorter ones, from a player's own list, have no row of their own
-        addOne(base + std::min(length, fiveOrMoreLetters));
+        ++at(base + std::min(length, fiveOrMoreLetters));
     if (length >= number(base + longestLength)) {
-        at(base + longestLength) = std::to_string(length);
-        at(base + longestWord) = std::string(word) + " ";
+        at(base + longestLength) = length;
+        longestWords_[base == playerBase ? 0 : 1] = word;
     }
     for (const char letter : word) {
         if (const int index = letterIndex(letter))
@@ -27,28 +26,26 @@ void Statistics::recordWord(std::string_view word, int base)
 
 void Statistics::setHintsUsed(int count)
 {
-    at(playerBase + hintsUsed) = count == 0 ? "" : std::to_string(count);
+    at(playerBase + hintsUsed) = count;
 }
 
 void Statistics::reset()
 {
-    table_.fill({});
-    lettersUsed_.fill(0);
+    *this = {};
 }
 
-int Statistics::number(int index) const
+std::string Statistics::entry(int index) const
 {
-    return numberOf(entry(index));
+    if (index == playerBase + longestWord || index == computerBase + longestWord) {
+        const std::string& word = longestWords_[index == playerBase + longestWord ? 0 : 1];
+        return word.empty() ? "" : word + " ";
+    }
+    return number(index) == 0 ? "" : std::to_string(number(index));
 }
 
-int Statistics::totalLettersUsed()
+int Statistics::totalLettersUsed() const
 {
-    return lettersUsed_[0] = std::accumulate(lettersUsed_.begin() + 1, lettersUsed_.end(), 0);
-}
-
-void Statistics::addOne(int index)
-{
-    at(index) = std::to_string(number(index) + 1);
+    return std::accumulate(lettersUsed_.begin(), lettersUsed_.end(), 0);
 }
 
 } // namespace lexigrove

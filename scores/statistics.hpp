@@ -7,8 +7,8 @@
 namespace lexigrove
 {
 
-/// How the current game went, for the player and for the computer: a table of 17 texts and a counter for each letter
-/// used in words. Everything starts empty at each game's start (`reset`).
+/// How the current game went, for the player and for the computer: a table of 17 entries and a counter for each letter
+/// used in words. Everything starts at nothing at each game's start (`reset`).
 class Statistics
 {
 public:
@@ -29,26 +29,28 @@ public:
     /// place.
     void recordWord(std::string_view word, int base);
 
-    /// Writes the hints used so far into the player's entry; 0 leaves it empty.
+    /// Writes the hints used so far into the player's entry.
     void setHintsUsed(int count);
 
     void reset();
 
-    /// Entry 0 to 16 as it stands, and the number in it (an empty entry is 0).
-    [[nodiscard]] const std::string& entry(int index) const { return table_.at(static_cast<std::size_t>(index)); }
-    [[nodiscard]] int number(int index) const;
+    /// The number of entry 0 to 16; 0 for the longest words.
+    [[nodiscard]] int number(int index) const { return numbers_.at(static_cast<std::size_t>(index)); }
 
-    /// Letters used in words: 1 to 26 for A to Z; 0 is their total as of the last `totalLettersUsed`.
+    /// Entry 0 to 16 as a text: nothing for a number that is 0.
+    [[nodiscard]] std::string entry(int index) const;
+
+    /// Letters used in words: 1 to 26 for A to Z; 0 stays 0.
     [[nodiscard]] const std::array<int, 27>& lettersUsed() const { return lettersUsed_; }
+    [[nodiscard]] int totalLettersUsed() const;
 
-    /// Sums the 26 counters into counter 0 and returns the sum.
-    int totalLettersUsed();
+    friend bool operator==(const Statistics&, const Statistics&) = default;
 
 private:
-    std::string& at(int index) { return table_.at(static_cast<std::size_t>(index)); }
-    void addOne(int index);
+    int& at(int index) { return numbers_.at(static_cast<std::size_t>(index)); }
 
-    std::array<std::string, entryCount> table_;
+    std::array<int, entryCount> numbers_{};
+    std::array<std::string, 2> longestWords_; ///< the player's and the computer's
     std::array<int, 27> lettersUsed_{};
 };
 

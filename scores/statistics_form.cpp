@@ -42,7 +42,7 @@ void addLetters(Chart& chart, int letterWidth)
 
 } // namespace
 
-StatisticsForm::StatisticsForm(Statistics& statistics)
+StatisticsForm::StatisticsForm(const Statistics& statistics)
     : rowCaptions{"",
                   "Number of Words made",
                   "Number of 2 letter Words",

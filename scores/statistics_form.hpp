@@ -51,7 +51,7 @@ inline constexpr int chartFontSize = 10;
 class StatisticsForm
 {
 public:
-    explicit StatisticsForm(Statistics& statistics);
+    explicit StatisticsForm(const Statistics& statistics);
 
     /// Fills the window from the table, on every activation. `lettersProvided` 1 to 26 are the pool's letter counts,
     /// which are percentages too, because the pool holds 100 letters. In a solo game the computer's column is disabled
@@ -72,7 +72,7 @@ public:
     Label Exitx;
 
 private:
-    Statistics& statistics_;
+    const Statistics& statistics_;
     std::array<int, 27> provided_{};
     std::array<int, 27> used_{};
 };

@@ -128,26 +128,26 @@ std::vector<std::string> ColourScheme::filesInFolder() const
     return names;
 }
 
-Colour ColourScheme::tileFace(int multiplier) const
+Colour ColourScheme::tileFace(Colour multiplier) const
 {
     switch (multiplier) {
-    case 2:
+    case multiplier::doubled:
         return plain(scheme_entry::doubleTile);
-    case 3:
+    case multiplier::tripled:
         return plain(scheme_entry::tripleTile);
-    case 4:
+    case multiplier::quadrupled:
         return plain(scheme_entry::quadrupleTile);
-    case 9:
+    case multiplier::red:
         return plain(scheme_entry::redTile);
     default:
         return plain(scheme_entry::tileFace);
     }
 }
 
-Colour ColourScheme::tileLetter(int multiplier) const
+Colour ColourScheme::tileLetter(Colour multiplier) const
 {
     const Colour face = tileFace(multiplier);
-    return multiplier == 1 ? readableText(plain(scheme_entry::tileLetter), face) : readableOn(face);
+    return multiplier == multiplier::plain ? readableText(plain(scheme_entry::tileLetter), face) : readableOn(face);
 }
 
 bool readSchemeLine(std::string_view line, Colour& colour)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/colour.hpp"
+#include "controls/multiplier.hpp"
 #include "platform/dialogs.hpp"
 
 #include <array>
@@ -59,14 +60,14 @@ public:
     /// An entry as a plain colour: a system colour is looked up in `palette`.
     [[nodiscard]] Colour plain(std::size_t index) const { return palette.resolve(entries_.at(index)) & 0xFFFFFFU; }
 
-    /// The face of a tile by its multiplier (1 plain; 2, 3, 4 bonus; 9 red) and the letter on it, as plain colours: the
+    /// The face of a tile by its multiplier (controls/multiplier.hpp) and the letter on it, as plain colours: the
     /// scheme's letter on a plain tile, black or white on a coloured one, whichever reads better.
-    [[nodiscard]] Colour tileFace(int multiplier) const;
-    [[nodiscard]] Colour tileLetter(int multiplier) const;
+    [[nodiscard]] Colour tileFace(Colour multiplier) const;
+    [[nodiscard]] Colour tileLetter(Colour multiplier) const;
 
     /// A tile in the path, whatever its multiplier: the plain tile's face and letter exchange their colours.
-    [[nodiscard]] Colour selectedFace() const { return tileLetter(1); }
-    [[nodiscard]] Colour selectedLetter() const { return tileFace(1); }
+    [[nodiscard]] Colour selectedFace() const { return tileLetter(multiplier::plain); }
+    [[nodiscard]] Colour selectedLetter() const { return tileFace(multiplier::plain); }
 
     /// The fore colour on the computer's back colour.
     [[nodiscard]] Colour computerFore() const { return readableOn(plain(scheme_entry::computer)); }

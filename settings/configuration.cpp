@@ -136,7 +136,7 @@ bool Configuration::read(Colour windowBackground, Colour list1Background)
     } catch (const FileError&) {
         return false;
     }
-    if (options.Option11.Value)
+    if (!options.animates())
         options.settings.dropDelay = 0;
     options.setSound();
     return true;

@@ -1,28 +1,71 @@
 #pragma once
 
 #include <string>
+#include <utility>
 
 namespace lexigrove
 {
 
+/// How the computer picks its word.
+enum class Strategy { HighestScore, LongestWord, Any };
+
+/// The preset letters text: 100 letters for the board and the queue (1 to 64 fill the tiles, 65 to 100 the queue) or
+/// none, and whether the score of the game may enter the top ten. A game is normal, and its score offered, only while
+/// there is neither a text nor the mark.
+class PresetLetters
+{
+public:
+    static constexpr int count = 100;
+
+    /// Letters A to Z for the next game; fewer than `count` leave the other places without a letter.
+    void choose(std::string letters)
+    {
+        letters_ = std::move(letters);
+        state_ = letters_.empty() ? State::None : State::Chosen;
+    }
+
+    /// No preset board: the next game is a normal one.
+    void clear() { choose({}); }
+
+    /// Marks the game as one whose score is not recorded (again); its letters are forgotten.
+    void closeScoreOffer()
+    {
+        letters_.clear();
+        state_ = State::Unrecorded;
+    }
+
+    /// A game was dealt from the letters: they do not count for the one after it.
+    void dealt()
+    {
+        if (state_ == State::Chosen)
+            state_ = State::Dealt;
+    }
+
+    /// Whether letters wait for the next game.
+    [[nodiscard]] bool wait() const { return state_ == State::Chosen; }
+    [[nodiscard]] bool isNormalGame() const { return state_ == State::None; }
+    [[nodiscard]] const std::string& letters() const { return letters_; }
+
+    /// The letters, or "x" for the mark.
+    [[nodiscard]] std::string text() const { return state_ == State::Unrecorded ? "x" : letters_; }
+
+private:
+    enum class State { None, Chosen, Dealt, Unrecorded };
+
+    State state_ = State::None;
+    std::string letters_;
+};
+
 /// The choices that reach beyond the options dialog.
 struct GameSettings {
     static constexpr int startDelay = 250;
-    static constexpr int presetLength = 100;
 
-    /// Drop-animation delay: event-yield rounds per animation step, 0 to 32,767; 0 drops without animation.
+    /// Drop-animation delay: event-yield rounds per animation step, 0 to 32,767; 0 does not wait.
     int dropDelay = startDelay;
 
-    /// How the computer picks its word; exactly one is set after a choice.
-    bool highestScoreMode = true;
-    bool longestWordMode = false;
-    bool anyWordMode = false;
+    Strategy strategy = Strategy::HighestScore;
 
-    /// 100 letters A to Z (1 to 64 fill the tiles, 65 to 100 the queue), empty, or "x" for a game whose score is not
-    /// recorded.
-    std::string presetLetters;
-
-    int boardTileCount = 64;
+    PresetLetters presetLetters;
 };
 
 } // namespace lexigrove

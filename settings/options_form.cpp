@@ -131,11 +131,10 @@ void OptionsForm::typeUserDictName(const std::string& text)
 
 bool OptionsForm::presetBoard()
 {
-    settings.boardTileCount = 64;
-    const std::string letters = askForPresetLetters(context_.dialogs, GameSettings::presetLength);
+    const std::string letters = askForPresetLetters(context_.dialogs, PresetLetters::count);
     if (letters.empty())
         return false;
-    settings.presetLetters = letters;
+    settings.presetLetters.choose(letters);
     context_.dialogs.message("Tiles preset, press Start to commence game");
     return true;
 }
@@ -183,7 +182,7 @@ void OptionsForm::hide(Answer answer)
 void OptionsForm::takeChoices()
 {
     setSound();
-    if (Option11.Value)
+    if (!animates())
         settings.dropDelay = 0;
     setStrategy();
     applyDictionaryChoice();
@@ -199,11 +198,12 @@ void OptionsForm::setSound()
 
 void OptionsForm::setStrategy()
 {
-    if (!Option12.Value && !Option13.Value && !Option14.Value)
-        return;
-    settings.highestScoreMode = Option12.Value;
-    settings.longestWordMode = Option13.Value;
-    settings.anyWordMode = Option14.Value;
+    if (Option12.Value)
+        settings.strategy = Strategy::HighestScore;
+    if (Option13.Value)
+        settings.strategy = Strategy::LongestWord;
+    if (Option14.Value)
+        settings.strategy = Strategy::Any;
 }
 
 void OptionsForm::applyDictionaryChoice()

@@ -9,6 +9,7 @@
 #include "settings/option_controls.hpp"
 #include "settings/sound_cues.hpp"
 
+#include <array>
 #include <string>
 #include <vector>
 
@@ -101,6 +102,13 @@ public:
 
     [[nodiscard]] bool isSquare() const { return s8x8.Value; }
     [[nodiscard]] bool isComputerGame() const { return Check1.Value; }
+    /// Whether columns and waiting letters are shown moving.
+    [[nodiscard]] bool animates() const { return !Option11.Value; }
+    /// The choices of "Word Meanings from", in the order in which the services are tested.
+    [[nodiscard]] std::array<bool, 4> meaningChoices() const
+    {
+        return {Option6.Value, Option7.Value, Option8.Value, Option9.Value};
+    }
 
     /// The values that the choices set and the game reads.
     GameSettings settings;
@@ -152,16 +160,6 @@ private:
     OptionsContext context_;
     bool visible_ = false;
     Answer answer_ = Answer::None;
-};
-
-/// Shows the options dialog.
-class OptionsWindow
-{
-public:
-    virtual ~OptionsWindow() = default;
-
-    /// Shows the form and returns when `Startx` or `Exitx` has hidden it; the form holds which.
-    virtual void show(OptionsForm& form) = 0;
 };
 
 } // namespace lexigrove

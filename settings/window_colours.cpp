@@ -10,7 +10,7 @@ namespace
 Colour linkColour(const ColourScheme& scheme, Colour accent)
 {
     constexpr double plainToSee = 2.5;
-    for (const int multiplier : {3, 2, 4}) {
+    for (const Colour multiplier : {multiplier::tripled, multiplier::doubled, multiplier::quadrupled}) {
         if (contrastRatio(scheme.tileFace(multiplier), scheme.selectedFace()) >= plainToSee)
             return scheme.tileFace(multiplier);
     }
@@ -58,11 +58,11 @@ WindowColours deriveWindowColours(const ColourScheme& scheme)
     colours.cardSelection = mixed(colours.card, colours.cardText, rowShare);
     colours.cardSelectionText = readableText(colours.cardText, colours.cardSelection);
 
-    colours.accent = shadeFor(scheme.tileFace(2), colours.ground, colours.card, accentContrast);
+    colours.accent = shadeFor(scheme.tileFace(multiplier::doubled), colours.ground, colours.card, accentContrast);
     colours.accentText = readableText(colours.card, colours.accent);
 
-    colours.button = scheme.tileFace(1);
-    colours.buttonText = scheme.tileLetter(1);
+    colours.button = scheme.tileFace(multiplier::plain);
+    colours.buttonText = scheme.tileLetter(multiplier::plain);
     colours.buttonHover = lifted(colours.button, colours.buttonText);
     colours.buttonDisabledText = mixed(colours.buttonText, colours.button, disabledShare);
 

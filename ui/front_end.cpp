@@ -1,5 +1,7 @@
 #include "ui/front_end.hpp"
 
+#include "platform/ports.hpp"
+
 #include <random>
 
 namespace lexigrove
@@ -7,9 +9,8 @@ namespace lexigrove
 
 FrontEnd::FrontEnd(const std::string& folder)
     : random_(std::random_device{}()),
-      flow({dialogs_, screen_, sound_, clock_, random_, status_}, windows_.windows(), folder)
+      flow({dialogs_, screen_, sound_, clock_, random_, status_, windows_}, folder, host.theme.desktop())
 {
-    flow.scheme.palette = host.theme.desktop();
 }
 
 } // namespace lexigrove

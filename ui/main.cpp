@@ -22,21 +22,15 @@ int play(const StartOptions& options)
     MainWindow& window = game.window;
     QObject::connect(&window, &MainWindow::ended, qApp, &QApplication::quit, Qt::QueuedConnection);
 
-    window.input([&] {
-        flow.startUp();
-        if (options.arrangement)
-            flow.options.select(*options.arrangement == Arrangement::Square ? flow.options.s8x8 : flow.options.s7x8);
-    });
+    flow.startUp(options.arrangement);
     if (flow.ended())
         return EXIT_SUCCESS;
     window.show();
     QTimer::singleShot(0, &window, [&] {
-        window.input([&] {
-            if (options.startAtOnce)
-                flow.startGame();
-            else
-                flow.openOptionsAndStart();
-        });
+        if (options.startAtOnce)
+            flow.startGame();
+        else
+            flow.openOptionsAndStart();
     });
     return QApplication::exec();
 }

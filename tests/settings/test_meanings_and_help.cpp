@@ -1,6 +1,6 @@
 #include "settings/about.hpp"
 #include "settings/help_form.hpp"
-#include "settings/meaning_services.hpp"
+#include "word_services/meaning_services.hpp"
 #include "tests/settings/options_world.hpp"
 
 #include <gmock/gmock.h>

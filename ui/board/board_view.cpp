@@ -1,6 +1,9 @@
 #include "ui/board/board_view.hpp"
 
+#include "game/game_state.hpp"
+#include "game/selection.hpp"
 #include "settings/readable_colours.hpp"
+#include "ui/machine/mouse.hpp"
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -15,13 +18,6 @@ namespace
 
 constexpr double slotRadius = 0.08; ///< of a cell
 
-MouseButton buttonOf(Qt::MouseButton button)
-{
-    if (button == Qt::LeftButton)
-        return MouseButton::Left;
-    return button == Qt::RightButton ? MouseButton::Right : MouseButton::Middle;
-}
-
 /// A control as it looks while it is pressed.
 BoxControl heldDown(BoxControl control)
 {
@@ -31,8 +27,8 @@ BoxControl heldDown(BoxControl control)
 
 } // namespace
 
-BoardView::BoardView(const GameFlow& flow, const Theme& theme, QWidget* parent)
-    : QWidget(parent), flow_(flow), theme_(theme), board_(flow.game.board), tiles_(theme)
+BoardView::BoardView(GameFlow& flow, const Theme& theme, QWidget* parent)
+    : QWidget(parent), flow_(flow), theme_(theme), board_(flow.board()), tiles_(theme)
 {
     setObjectName("Picture1");
     setAccessibleName(tr("Board"));
@@ -55,8 +51,8 @@ QRect BoardView::tileRect(int tile) const
 
 QRect BoardView::dropRect(int col) const
 {
-    const BoxControl& waiting = board_.TopDrop[static_cast<std::size_t>(col)];
-    return shape_.tilePlace(waiting, board_.homeLeft(col), layout::dropRowTop).toAlignedRect();
+    const BoxControl& waiting = board_.waiting(col);
+    return shape_.tilePlace(waiting, Board::columnLeft(col), layout::dropRowTop).toAlignedRect();
 }
 
 int BoardView::tileAt(const QPointF& place) const
@@ -95,20 +91,19 @@ QRectF BoardView::placeOf(const Spot& spot) const
 
 BoardView::Marks BoardView::currentMarks() const
 {
-    Marks marks{{}, flow_.swapTile(), flow_.game.dropRow.guideColumn(), 0};
+    Marks marks{{}, flow_.swapTile(), flow_.guideColumn(), 0};
     for (int col = 1; flow_.inGame() && col <= Board::columns; ++col) {
-        const bool waits = board_.TopDrop[static_cast<std::size_t>(col)].Visible();
-        if (waits && !board_.isVisible(board_.Grid(1, col)))
+        const bool waits = board_.waiting(col).Visible();
+        if (waits && !board_.tile(1, col).Visible())
             marks.openColumns |= 1U << col;
     }
-    const Selection& selection = flow_.game.selection;
-    for (int place = 1; place <= selection.length(); ++place) {
-        const int tile = selection.tileAt(place);
+    const Selection& selection = flow_.selection();
+    for (const int tile : selection.tiles()) {
         if (board_.isVisible(tile) && !board_.tile(tile).Tag().empty()) // not one that is just leaving the board
             marks.path.push_back(tile);
     }
-    if (selection.length() == 0)
-        marks.path = flow_.hintsForm.shownPath();
+    if (selection.isEmpty())
+        marks.path = flow_.shownHint();
     return marks;
 }
 
@@ -126,7 +121,7 @@ void BoardView::synchronise()
     for (int tile = 1; tile <= Board::tileCount; ++tile)
         repaintIfChanged(board_.tile(tile), shownTiles_[static_cast<std::size_t>(tile)]);
     for (int col = 1; col <= Board::columns; ++col)
-        repaintIfChanged(board_.TopDrop[static_cast<std::size_t>(col)], shownWaiting_[static_cast<std::size_t>(col)]);
+        repaintIfChanged(board_.waiting(col), shownWaiting_[static_cast<std::size_t>(col)]);
 
     const SlidingPanel& panel = board_.Picture2;
     const QRectF place = panel.Visible ? shape_.place(panel.Left, panel.Top, layout::cellSize, panel.Height) : QRectF();
@@ -142,7 +137,7 @@ void BoardView::synchronise()
 
 bool BoardView::takesInput() const
 {
-    return flow_.inGame() && !flow_.isPaused() && flow_.game.state.Picture1.Enabled;
+    return flow_.inGame() && !flow_.isPaused() && !flow_.state().computerTurnInProgress;
 }
 
 // ---- The pointer
@@ -169,7 +164,7 @@ void BoardView::mouseMoveEvent(QMouseEvent* event)
     if (pressed_ != Spot{} && event->buttons() == Qt::NoButton)
         setSpot(pressed_, {});
     if (another && spot.tile != 0)
-        emit tileHovered(spot.tile);
+        flow_.hoverTile(spot.tile);
 }
 
 void BoardView::leaveEvent(QEvent* /*event*/)
@@ -183,9 +178,9 @@ void BoardView::mouseReleaseEvent(QMouseEvent* event)
     setSpot(pressed_, {});
     const Spot spot = spotAt(event->position());
     if (spot.tile != 0)
-        emit tileReleased(spot.tile, buttonOf(event->button()), event->modifiers().testFlag(Qt::ShiftModifier));
+        flow_.clickTile(spot.tile, mouseButton(event->button()), event->modifiers().testFlag(Qt::ShiftModifier));
     else if (spot.col != 0)
-        emit dropReleased(spot.col);
+        flow_.drop(spot.col);
 }
 
 // ---- Painting
@@ -198,7 +193,7 @@ void BoardView::paintEvent(QPaintEvent* event)
     paintGround(painter, dirty);
     paintTiles(painter, dirty);
     for (int col = 1; col <= Board::columns; ++col) {
-        const BoxControl& waiting = board_.TopDrop[static_cast<std::size_t>(col)];
+        const BoxControl& waiting = board_.waiting(col);
         if (waiting.Visible() && shape_.tilePlace(waiting).intersects(dirty))
             paintControl(painter, waiting, {0, col});
     }
@@ -225,9 +220,9 @@ void BoardView::paintGround(QPainter& painter, const QRectF& dirty) const
         for (int col = 1; col <= Board::columns; ++col) {
             paintSlot(dropRect(col), mixed(colours.strip, colours.ground, 0.5));
             for (int row = 1; row <= board_.columnHeight(col); ++row) {
-                const BoxControl& tile = board_.tile(board_.Grid(row, col));
+                const BoxControl& tile = board_.tile(row, col);
                 if (!tile.Visible())
-                    paintSlot(shape_.tilePlace(tile, board_.cellLeft(row, col), board_.cellTop(row, col)),
+                    paintSlot(shape_.tilePlace(tile, Board::columnLeft(col), board_.cellTop(row, col)),
                               colours.strip);
             }
         }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "flow/game_flow.hpp"
+#include "game/board.hpp"
 #include "ui/board/board_geometry.hpp"
 #include "ui/board/tile_painter.hpp"
 
@@ -14,13 +15,14 @@ namespace lexigrove
 {
 
 /// The board panel `Picture1` with the drop row above it: the 64 `Tiles`, the waiting `TopDrop`, the links of the path,
-/// the sliding panel `Picture2` and what falls. It shows the models and tells what was clicked.
+/// the sliding panel `Picture2` and what falls. It shows the models and gives the
+/// flow what was clicked.
 class BoardView : public QWidget
 {
     Q_OBJECT
 
 public:
-    BoardView(const GameFlow& flow, const Theme& theme, QWidget* parent = nullptr);
+    BoardView(GameFlow& flow, const Theme& theme, QWidget* parent = nullptr);
 
     /// Repaints what differs from what is shown.
     void synchronise();
@@ -35,12 +37,6 @@ public:
     [[nodiscard]] int columnAt(const QPointF& place) const;
 
     [[nodiscard]] const BoardGeometry& geometryOfBoard() const { return shape_; }
-
-signals:
-    void tileReleased(int tile, lexigrove::MouseButton button, bool shift);
-    void dropReleased(int col);
-    /// The pointer came to rest on a tile, or left it for another.
-    void tileHovered(int tile);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -87,7 +83,7 @@ private:
     void paintPanel(QPainter& painter) const;
     void paintControl(QPainter& painter, const BoxControl& control, Spot spot) const;
 
-    const GameFlow& flow_;
+    GameFlow& flow_;
     const Theme& theme_;
     const Board& board_;
     TilePainter tiles_;

@@ -40,7 +40,7 @@ void TilePainter::paintLetter(QPainter& painter, const BoxControl& tile, const Q
     painter.drawText(inside, Qt::AlignRight | Qt::AlignBottom, QString::number(letterValue(tile.Caption().front())));
 
     const Colour mark = tile.MaskColor();
-    if (mark > multiplier::plain && mark <= multiplier::highestBonus) {
+    if (multiplier::isBonus(mark)) {
         painter.setFont(Theme::font(size * smallShare, true));
         painter.drawText(inside, Qt::AlignLeft | Qt::AlignTop, QString::number(mark) + QChar(u'\u00D7'));
     } else if (mark == multiplier::red) {

@@ -1,11 +1,9 @@
-#include "ui/dialogs/about_dialog.hpp"
-
+#include "ui/dialogs/dialogs.hpp"
 #include "ui/dialogs/form_dialog.hpp"
 #include "ui/look/game_icon.hpp"
 #include "ui/look/text.hpp"
 
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
@@ -50,25 +48,22 @@ protected:
     }
 };
 
-/// The lines of the text, the first one, the game's name, large.
-QString aboutText(const std::string& text)
-{
-    QStringList lines = linesOf(text).toHtmlEscaped().split('\n');
-    lines.front() = QString("<p style=\"font-size: 18px; font-weight: bold\">%1</p>").arg(lines.front());
-    return lines.front() + "<p style=\"line-height: 150%\">" + lines.mid(1).join("<br>") + "</p>";
-}
+constexpr const char* aboutText = R"(<p style="font-size: 18px; font-weight: bold">LexiGrove - January 2005</p>
+<p style="line-height: 150%">A game of words on a board of letters<br>
+Made by the LexiGrove authors, with thanks to all who collect words<br>
+Free software under the MIT License</p>)";
 
-class AboutView : public FormDialog
+class AboutDialog : public FormDialog
 {
 public:
-    AboutView(Host& gameHost, const AboutForm& form) : FormDialog(gameHost, "AboutForm", "About LexiGrove")
+    explicit AboutDialog(Host& gameHost) : FormDialog(gameHost, "AboutForm", "About LexiGrove")
     {
         auto* const picture = new Picture;
         picture->setObjectName("Picture");
-        auto* const AboutText = new ClickedLabel(aboutText(form.AboutText.Caption));
+        auto* const AboutText = new ClickedLabel(aboutText);
         AboutText->setObjectName("AboutText");
         AboutText->clicked = [this] { accept(); };
-        QPushButton* const AboutOk = newButton("AboutOk", form.AboutOk.Caption);
+        QPushButton* const AboutOk = newButton("AboutOk", "OK");
         AboutOk->setProperty("primary", true);
         AboutOk->setDefault(true);
         AboutOk->setMinimumWidth(14 * Theme::grid);
@@ -87,22 +82,14 @@ public:
 protected:
     void showForm() override {}
     void closePressed() override { accept(); }
-
-    void keyPressEvent(QKeyEvent* event) override
-    {
-        if (!event->text().isEmpty() && AboutForm::closesOnKey(event->text().front().unicode()))
-            accept();
-        else
-            FormDialog::keyPressEvent(event);
-    }
 };
 
 } // namespace
 
-void AboutDialog::show(const AboutForm& form)
+void runAboutDialog(Host& host)
 {
-    AboutView view(host_, form);
-    host_.gate.exec(view);
+    AboutDialog dialog(host);
+    host.gate.exec(dialog);
 }
 
 } // namespace lexigrove

@@ -3,6 +3,7 @@
 #include "controls/geometry.hpp"
 #include "ui/board/box_painter.hpp"
 #include "ui/look/text.hpp"
+#include "ui/machine/mouse.hpp"
 
 #include <QFontMetrics>
 #include <QMouseEvent>
@@ -16,13 +17,9 @@ namespace lexigrove
 namespace
 {
 
-constexpr int middleButton = 4;
-
 std::int16_t buttonNumber(Qt::MouseButton button)
 {
-    if (button == Qt::LeftButton)
-        return leftButton;
-    return button == Qt::RightButton ? rightButton : middleButton;
+    return static_cast<std::int16_t>(mouseButton(button));
 }
 
 std::int16_t shiftState(Qt::KeyboardModifiers modifiers)

@@ -1,49 +1,57 @@
 #include "ui/dialogs/game_windows.hpp"
 
-#include "ui/dialogs/about_dialog.hpp"
-#include "ui/dialogs/hints_dialog.hpp"
-#include "ui/dialogs/maintenance_dialog.hpp"
-#include "ui/dialogs/options_dialog.hpp"
-#include "ui/dialogs/score_dialog.hpp"
-#include "ui/dialogs/statistics_dialog.hpp"
+#include "ui/dialogs/dialogs.hpp"
+#include "ui/machine/host.hpp"
+#include "ui/pages/browser.hpp"
 #include "ui/pages/help_window.hpp"
-#include "ui/pages/meaning_dialog.hpp"
 
 namespace lexigrove
 {
 
-struct GameWindows::Members {
-    explicit Members(Host& host)
-        : options(host),
-          scores(host),
-          hints(host),
-          meaning(host, browser),
-          statistics(host),
-          maintenance(host),
-          help(host.theme, browser),
-          about(host)
-    {
-    }
-
-    BrowserLoader browser;
-    OptionsDialog options;
-    ScoreDialog scores;
-    HintsDialog hints;
-    MeaningDialog meaning;
-    StatisticsDialog statistics;
-    MaintenanceDialog maintenance;
-    QtHelpWindow help;
-    AboutDialog about;
-};
-
-GameWindows::GameWindows(Host& host) : members_(std::make_unique<Members>(host)) {}
+GameWindows::GameWindows(Host& host) : host_(host), browser_(std::make_unique<BrowserLoader>()) {}
 
 GameWindows::~GameWindows() = default;
 
-Windows GameWindows::windows()
+void GameWindows::show(OptionsForm& form)
 {
-    Members& m = *members_;
-    return {m.options, m.scores, m.hints, m.meaning, m.statistics, m.maintenance, m.help, m.about};
+    runOptionsDialog(host_, form);
+}
+
+void GameWindows::show(ScoreForm& form)
+{
+    runScoreDialog(host_, form);
+}
+
+void GameWindows::show(HintsForm& form)
+{
+    runHintsDialog(host_, form);
+}
+
+void GameWindows::show(const MeaningForm& form)
+{
+    runMeaningDialog(host_, *browser_, form);
+}
+
+void GameWindows::show(const StatisticsForm& form)
+{
+    runStatisticsDialog(host_, form);
+}
+
+void GameWindows::show(DictionaryMaintenance& form)
+{
+    runMaintenanceDialog(host_, form);
+}
+
+void GameWindows::showHelp(const std::string& address)
+{
+    if (!help_)
+        help_ = std::make_unique<HelpWindow>(host_.theme, *browser_, address);
+    help_->bringToFront();
+}
+
+void GameWindows::showAbout()
+{
+    runAboutDialog(host_);
 }
 
 } // namespace lexigrove

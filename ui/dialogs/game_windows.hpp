@@ -1,28 +1,38 @@
 #pragma once
 
-#include "flow/windows.hpp"
-#include "ui/machine/host.hpp"
+#include "platform/windows.hpp"
 
 #include <memory>
 
 namespace lexigrove
 {
 
+class BrowserLoader;
+class HelpWindow;
+class Host;
+
 /// The windows that the rules open, over the main window. `host` outlives them.
-class GameWindows
+class GameWindows : public Windows
 {
 public:
     explicit GameWindows(Host& host);
-    ~GameWindows();
+    ~GameWindows() override;
     GameWindows(const GameWindows&) = delete;
     GameWindows& operator=(const GameWindows&) = delete;
 
-    /// For the flow; valid as long as this object.
-    [[nodiscard]] Windows windows();
+    void show(OptionsForm& form) override;
+    void show(ScoreForm& form) override;
+    void show(HintsForm& form) override;
+    void show(const MeaningForm& form) override;
+    void show(const StatisticsForm& form) override;
+    void show(DictionaryMaintenance& form) override;
+    void showHelp(const std::string& address) override;
+    void showAbout() override;
 
 private:
-    struct Members;
-    std::unique_ptr<Members> members_;
+    Host& host_;
+    std::unique_ptr<BrowserLoader> browser_;
+    std::unique_ptr<HelpWindow> help_; ///< made when it is first asked for
 };
 
 } // namespace lexigrove

@@ -1,7 +1,7 @@
-#include "ui/dialogs/hints_dialog.hpp"
-
+#include "opponent/hints_form.hpp"
 #include "ui/dialogs/beside.hpp"
 #include "ui/dialogs/box_button.hpp"
+#include "ui/dialogs/dialogs.hpp"
 #include "ui/dialogs/form_dialog.hpp"
 #include "ui/look/text.hpp"
 #include "ui/play/words_view.hpp"
@@ -15,10 +15,10 @@ namespace lexigrove
 namespace
 {
 
-class HintsView : public FormDialog
+class HintsDialog : public FormDialog
 {
 public:
-    HintsView(Host& gameHost, HintsForm& form)
+    HintsDialog(Host& gameHost, HintsForm& form)
         : FormDialog(gameHost, "Form2", form.Caption),
           form_(form),
           WordsMade_(new WordsView(form.WordsMade, gameHost.theme)),
@@ -104,10 +104,10 @@ private:
 
 } // namespace
 
-void HintsDialog::show(HintsForm& form)
+void runHintsDialog(Host& host, HintsForm& form)
 {
-    HintsView view(host_, form);
-    host_.gate.exec(view);
+    HintsDialog dialog(host, form);
+    host.gate.exec(dialog);
 }
 
 } // namespace lexigrove

@@ -1,5 +1,5 @@
-#include "ui/dialogs/maintenance_dialog.hpp"
-
+#include "dictionary/maintenance.hpp"
+#include "ui/dialogs/dialogs.hpp"
 #include "ui/dialogs/form_dialog.hpp"
 #include "ui/dialogs/word_list_model.hpp"
 #include "ui/look/text.hpp"
@@ -38,10 +38,10 @@ public:
     }
 };
 
-class MaintenanceView : public FormDialog
+class MaintenanceDialog : public FormDialog
 {
 public:
-    MaintenanceView(Host& gameHost, DictionaryMaintenance& form)
+    MaintenanceDialog(Host& gameHost, DictionaryMaintenance& form)
         : FormDialog(gameHost, "DictionaryMaintenance", maintenance_text::title),
           form_(form),
           words_(form.List1),
@@ -206,10 +206,10 @@ private:
 
 } // namespace
 
-void MaintenanceDialog::show(DictionaryMaintenance& form)
+void runMaintenanceDialog(Host& host, DictionaryMaintenance& form)
 {
-    MaintenanceView view(host_, form);
-    host_.gate.exec(view);
+    MaintenanceDialog dialog(host, form);
+    host.gate.exec(dialog);
 }
 
 } // namespace lexigrove

@@ -1,6 +1,6 @@
-#include "ui/dialogs/options_dialog.hpp"
-
+#include "settings/options_form.hpp"
 #include "ui/dialogs/box_button.hpp"
+#include "ui/dialogs/dialogs.hpp"
 #include "ui/dialogs/form_dialog.hpp"
 #include "ui/dialogs/scheme_preview.hpp"
 #include "ui/look/text.hpp"
@@ -107,10 +107,10 @@ void showColour(QWidget& widget, QPalette::ColorRole role, const QColor& colour)
     widget.setPalette(palette);
 }
 
-class OptionsView : public FormDialog
+class OptionsDialog : public FormDialog
 {
 public:
-    OptionsView(Host& gameHost, OptionsForm& form)
+    OptionsDialog(Host& gameHost, OptionsForm& form)
         : FormDialog(gameHost, "Form7", form.Caption),
           form_(form),
           Combo1_(new SchemeBox(gameHost.theme)),
@@ -294,10 +294,10 @@ private:
 
 } // namespace
 
-void OptionsDialog::show(OptionsForm& form)
+void runOptionsDialog(Host& host, OptionsForm& form)
 {
-    OptionsView view(host_, form);
-    host_.gate.exec(view);
+    OptionsDialog dialog(host, form);
+    host.gate.exec(dialog);
 }
 
 } // namespace lexigrove

@@ -21,8 +21,12 @@ struct PreviewTile {
     Colour multiplier;
     bool selected;
 };
-constexpr std::array<PreviewTile, 6> previewTiles{
-    {{"G", 1, false}, {"R", 1, true}, {"O", 2, false}, {"V", 3, false}, {"E", 4, false}, {"S", 9, false}}};
+constexpr std::array<PreviewTile, 6> previewTiles{{{"G", multiplier::plain, false},
+                                                   {"R", multiplier::plain, true},
+                                                   {"O", multiplier::doubled, false},
+                                                   {"V", multiplier::tripled, false},
+                                                   {"E", multiplier::quadrupled, false},
+                                                   {"S", multiplier::red, false}}};
 
 } // namespace
 
@@ -81,7 +85,7 @@ QIcon SchemePreview::icon(const ColourScheme& scheme, double devicePixelRatio)
     constexpr int margin = 3;
     constexpr int side = 10;
     int left = margin;
-    for (const int multiplier : {1, 2, 3, 4, 9}) {
+    for (const Colour multiplier : multiplier::all) {
         painter.fillRect(left, margin, side, side, toQColor(scheme.tileFace(multiplier)));
         left += side + 2;
     }

@@ -1,5 +1,5 @@
-#include "ui/dialogs/score_dialog.hpp"
-
+#include "scores/score_form.hpp"
+#include "ui/dialogs/dialogs.hpp"
 #include "ui/dialogs/form_dialog.hpp"
 #include "ui/look/text.hpp"
 
@@ -57,10 +57,10 @@ public:
     }
 };
 
-class ScoreView : public FormDialog
+class ScoreDialog : public FormDialog
 {
 public:
-    ScoreView(Host& gameHost, ScoreForm& form)
+    ScoreDialog(Host& gameHost, ScoreForm& form)
         : FormDialog(gameHost, "ScoreForm", form.Caption),
           form_(form),
           List2_(new QListWidget),
@@ -127,10 +127,10 @@ private:
 
 } // namespace
 
-void ScoreDialog::show(ScoreForm& form)
+void runScoreDialog(Host& host, ScoreForm& form)
 {
-    ScoreView view(host_, form);
-    host_.gate.exec(view);
+    ScoreDialog dialog(host, form);
+    host.gate.exec(dialog);
 }
 
 } // namespace lexigrove

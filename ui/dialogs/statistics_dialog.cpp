@@ -1,6 +1,6 @@
-#include "ui/dialogs/statistics_dialog.hpp"
-
+#include "scores/statistics_form.hpp"
 #include "ui/dialogs/chart_view.hpp"
+#include "ui/dialogs/dialogs.hpp"
 #include "ui/dialogs/form_dialog.hpp"
 #include "ui/look/text.hpp"
 
@@ -18,10 +18,10 @@ namespace
 
 constexpr int rowHeight = 28;
 
-class StatisticsView : public FormDialog
+class StatisticsDialog : public FormDialog
 {
 public:
-    StatisticsView(Host& gameHost, const StatisticsForm& form)
+    StatisticsDialog(Host& gameHost, const StatisticsForm& form)
         : FormDialog(gameHost, "Form4", form.Caption), form_(form)
     {
         auto* const areas = new QHBoxLayout;
@@ -98,10 +98,10 @@ private:
 
 } // namespace
 
-void StatisticsDialog::show(const StatisticsForm& form)
+void runStatisticsDialog(Host& host, const StatisticsForm& form)
 {
-    StatisticsView view(host_, form);
-    host_.gate.exec(view);
+    StatisticsDialog dialog(host, form);
+    host.gate.exec(dialog);
 }
 
 } // namespace lexigrove

@@ -17,6 +17,9 @@ public:
     /// Shows what the models say now, where it differs from what is shown; the colours of the application included.
     virtual void showModels() = 0;
 
+    /// An input or a tick of the game has ended.
+    virtual void inputEnded() = 0;
+
     /// The widget over which dialogs stand.
     virtual QWidget* widget() = 0;
 };
@@ -43,6 +46,12 @@ public:
     {
         if (view_ != nullptr)
             view_->showModels();
+    }
+
+    void inputEnded() const
+    {
+        if (view_ != nullptr)
+            view_->inputEnded();
     }
 
 private:

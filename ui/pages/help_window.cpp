@@ -26,58 +26,33 @@ PageColours pageColours(const WindowColours& colours)
 
 } // namespace
 
-/// The window `Form5` itself.
-class HelpView : public QWidget
-{
-public:
-    HelpView(const Theme& theme, BrowserLoader& loader, const HelpForm& form);
-
-    /// Shows the window and the help page from its beginning.
-    void bringToFront();
-
-protected:
-    bool event(QEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
-    void hideEvent(QHideEvent* event) override;
-
-private:
-    void leaf(void (BrowserView::*direction)());
-
-    const QUrl address_;
-    BrowserView* WebBrowser1_;
-    QPushButton* Command1_;
-    QPushButton* Command2_;
-    QPushButton* Command3_;
-    bool awaitsActivation_ = false; ///< the page of this showing is already on its way
-};
-
-HelpView::HelpView(const Theme& theme, BrowserLoader& loader, const HelpForm& form)
-    : address_(QUrl::fromLocalFile(pathToQString(form.Tag))),
-      WebBrowser1_(new BrowserView(loader, BrowserRules::forLocalPage(pathToQString(form.Tag)), this)),
-      Command1_(newButton("Command1", form.Command1.Caption)),
-      Command2_(newButton("Command2", form.Command2.Caption)),
-      Command3_(newButton("Command3", form.Command3.Caption))
+HelpWindow::HelpWindow(const Theme& theme, BrowserLoader& loader, const std::string& address)
+    : address_(QUrl::fromLocalFile(pathToQString(address))),
+      WebBrowser1_(new BrowserView(loader, BrowserRules::forLocalPage(pathToQString(address)), this)),
+      Command1_(newButton("Command1", "Back")),
+      Command2_(newButton("Command2", "Forward")),
+      Command3_(newButton("Command3", "Exit"))
 {
     const auto colourPage = [this, &theme] { WebBrowser1_->setPageColours(pageColours(theme.colours())); };
     connect(&theme, &Theme::changed, this, colourPage);
     colourPage();
     setObjectName("Form5");
-    setWindowTitle(toQString(form.Caption));
+    setWindowTitle(QStringLiteral("LexiGrove Help"));
     setAttribute(Qt::WA_QuitOnClose, false);
     WebBrowser1_->setObjectName("WebBrowser1");
     for (QPushButton* const button : {Command1_, Command2_, Command3_}) {
         button->setParent(this);
         button->setStyleSheet("padding: 2px 14px; min-height: 18px");
     }
-    connect(Command1_, &QPushButton::clicked, this, [this] { leaf(&BrowserView::back); });
-    connect(Command2_, &QPushButton::clicked, this, [this] { leaf(&BrowserView::forward); });
+    connect(Command1_, &QPushButton::clicked, this, [this] { navigateBy(&BrowserView::back); });
+    connect(Command2_, &QPushButton::clicked, this, [this] { navigateBy(&BrowserView::forward); });
     connect(Command3_, &QPushButton::clicked, this, &QWidget::hide);
     Command3_->setShortcut(Qt::Key_Escape);
     WebBrowser1_->move(Theme::grid / 2, Theme::grid / 2);
     resize(104 * Theme::grid, 84 * Theme::grid);
 }
 
-void HelpView::bringToFront()
+void HelpWindow::bringToFront()
 {
     awaitsActivation_ = !isActiveWindow();
     WebBrowser1_->navigate(address_); // first: the engine's first view makes the toolkit build a shown window anew
@@ -86,7 +61,7 @@ void HelpView::bringToFront()
     activateWindow();
 }
 
-bool HelpView::event(QEvent* event)
+bool HelpWindow::event(QEvent* event)
 {
     if (event->type() == QEvent::WindowActivate && isVisible()) {
         if (!awaitsActivation_)
@@ -96,13 +71,12 @@ bool HelpView::event(QEvent* event)
     return QWidget::event(event);
 }
 
-void HelpView::resizeEvent(QResizeEvent*)
+void HelpWindow::resizeEvent(QResizeEvent*)
 {
-    const auto size =
-        helpViewSize(width() * unitsPerPixel, height() * unitsPerPixel, WebBrowser1_->y() * unitsPerPixel);
-    if (!size)
+    const auto inUnits = helpViewSize(size() * unitsPerPixel, WebBrowser1_->y() * unitsPerPixel);
+    if (!inUnits)
         return;
-    WebBrowser1_->resize(size->width / unitsPerPixel, size->height / unitsPerPixel);
+    WebBrowser1_->resize(*inUnits / unitsPerPixel);
 
     const int strip = WebBrowser1_->geometry().bottom() + 1;
     int left = WebBrowser1_->x();
@@ -115,28 +89,31 @@ void HelpView::resizeEvent(QResizeEvent*)
     }
 }
 
-void HelpView::hideEvent(QHideEvent* event)
+void HelpWindow::hideEvent(QHideEvent* event)
 {
     if (!event->spontaneous())
         WebBrowser1_->close();
 }
 
-/// Back and Forward only move between places of the page.
-void HelpView::leaf(void (BrowserView::*direction)())
+void HelpWindow::navigateBy(void (BrowserView::*direction)())
 {
-    if (mayLeaf(WebBrowser1_->address().toEncoded().toStdString()))
+    if (mayNavigate(WebBrowser1_->address()))
         (WebBrowser1_->*direction)();
 }
 
-QtHelpWindow::QtHelpWindow(const Theme& theme, BrowserLoader& loader) : theme_(theme), loader_(loader) {}
-
-QtHelpWindow::~QtHelpWindow() = default;
-
-void QtHelpWindow::show(const HelpForm& form)
+bool mayNavigate(const QUrl& currentAddress)
 {
-    if (!window_)
-        window_ = std::make_unique<HelpView>(theme_, loader_, form);
-    window_->bringToFront();
+    return currentAddress.toEncoded().contains('#');
+}
+
+std::optional<QSize> helpViewSize(QSize inner, int viewTop)
+{
+    constexpr int sideMargin = 120;
+    constexpr int buttonStrip = 480;
+    const QSize size(inner.width() - sideMargin, inner.height() - buttonStrip - viewTop);
+    if (size.width() < 0 || size.height() < 0)
+        return std::nullopt;
+    return size;
 }
 
 } // namespace lexigrove

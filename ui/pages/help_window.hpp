@@ -1,32 +1,54 @@
 #pragma once
 
-#include "flow/windows.hpp"
-#include "ui/look/theme.hpp"
-#include "ui/pages/browser.hpp"
+#include <QSize>
+#include <QUrl>
+#include <QWidget>
 
-#include <memory>
+#include <optional>
+#include <string>
+
+class QPushButton;
 
 namespace lexigrove
 {
 
-class HelpView;
+class BrowserLoader;
+class BrowserView;
+class Theme;
 
-/// The help window `Form5`. It stands beside the game and blocks nothing; it is made when it is first asked for, and
-/// "Exit" hides it.
-class QtHelpWindow : public HelpWindow
+/// The help window `Form5`: a local page in a browser view, with its buttons below. It stands beside the game and
+/// blocks nothing; "Exit" hides it.
+class HelpWindow : public QWidget
 {
 public:
-    QtHelpWindow(const Theme& theme, BrowserLoader& loader);
-    ~QtHelpWindow() override;
-    QtHelpWindow(const QtHelpWindow&) = delete;
-    QtHelpWindow& operator=(const QtHelpWindow&) = delete;
+    /// `address` is the path of the page.
+    HelpWindow(const Theme& theme, BrowserLoader& loader, const std::string& address);
 
-    void show(const HelpForm& form) override;
+    /// Shows the window and the help page from its beginning.
+    void bringToFront();
+
+protected:
+    bool event(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
 
 private:
-    const Theme& theme_;
-    BrowserLoader& loader_;
-    std::unique_ptr<HelpView> window_;
+    void navigateBy(void (BrowserView::*direction)());
+
+    const QUrl address_;
+    BrowserView* WebBrowser1_;
+    QPushButton* Command1_;
+    QPushButton* Command2_;
+    QPushButton* Command3_;
+    bool awaitsActivation_ = false; ///< the page of this showing is already on its way
 };
+
+/// Whether "Back" and "Forward" do anything at the browser's current address: only between places of the help page
+/// reached through its "#" anchors.
+[[nodiscard]] bool mayNavigate(const QUrl& currentAddress);
+
+/// Size of the browser view for a window's inner size and the view's top, all in 1/1440 inch. Nothing when it would be
+/// negative: the view then stays as it is.
+[[nodiscard]] std::optional<QSize> helpViewSize(QSize inner, int viewTop);
 
 } // namespace lexigrove

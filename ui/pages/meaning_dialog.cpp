@@ -1,8 +1,8 @@
-#include "ui/pages/meaning_dialog.hpp"
-
+#include "ui/dialogs/dialogs.hpp"
 #include "ui/dialogs/form_dialog.hpp"
 #include "ui/look/text.hpp"
 #include "ui/pages/browser_view.hpp"
+#include "word_services/meanings.hpp"
 
 #include <QShortcut>
 #include <QVBoxLayout>
@@ -13,10 +13,10 @@ namespace lexigrove
 namespace
 {
 
-class MeaningView : public FormDialog
+class MeaningDialog : public FormDialog
 {
 public:
-    MeaningView(Host& gameHost, BrowserLoader& loader, const MeaningForm& form)
+    MeaningDialog(Host& gameHost, BrowserLoader& loader, const MeaningForm& form)
         : FormDialog(gameHost, "Form3", form.Caption)
     {
         auto* const WbDictionary = new BrowserView(loader, BrowserRules::forServices(toQString(form.address)));
@@ -38,10 +38,10 @@ protected:
 
 } // namespace
 
-void MeaningDialog::show(const MeaningForm& form)
+void runMeaningDialog(Host& host, BrowserLoader& loader, const MeaningForm& form)
 {
-    MeaningView view(host_, loader_, form);
-    host_.gate.exec(view);
+    MeaningDialog dialog(host, loader, form);
+    host.gate.exec(dialog);
 }
 
 } // namespace lexigrove

@@ -1,5 +1,6 @@
 #include "ui/play/button_panel.hpp"
 
+#include "game/game_state.hpp"
 #include "ui/look/text.hpp"
 #include "ui/look/theme.hpp"
 
@@ -12,19 +13,7 @@
 namespace lexigrove
 {
 
-bool isTimeFor(CommandTime time, const GameFlow& flow)
-{
-    switch (time) {
-    case CommandTime::InGame:
-        return flow.inGame();
-    case CommandTime::InPlay:
-        return flow.inGame() && !flow.isPaused();
-    default:
-        return true;
-    }
-}
-
-ButtonPanel::ButtonPanel(const GameFlow& flow, QWidget* parent) : QWidget(parent), flow_(flow)
+ButtonPanel::ButtonPanel(GameFlow& flow, QWidget* parent) : QWidget(parent), flow_(flow)
 {
     setObjectName("Frame3");
     auto* column = new QVBoxLayout(this);
@@ -40,11 +29,11 @@ ButtonPanel::ButtonPanel(const GameFlow& flow, QWidget* parent) : QWidget(parent
         QPushButton* button = add(description);
         rows[static_cast<std::size_t>(description.row)]->addWidget(button, description.width);
         entries_.push_back({description, button});
-        if (description.command == &GameFlow::enterWord)
+        if (description.command == Command::EnterWord)
             enterWord_ = button;
-        else if (description.command == &GameFlow::pause)
+        else if (description.command == Command::Pause)
             pause_ = button;
-        else if (description.command == &GameFlow::soundButton)
+        else if (description.command == Command::Sound)
             sound_ = button;
     }
     enterWord_->setProperty("primary", true);
@@ -60,28 +49,27 @@ QPushButton* ButtonPanel::add(const PanelButton& description)
     button->setAccessibleName(description.text);
     button->setToolTip(description.toolTip);
     button->setFocusPolicy(Qt::TabFocus); // a click leaves the keyboard to the word
-    connect(button, &QPushButton::clicked, this, [this, command = description.command] { emit triggered(command); });
+    connect(button, &QPushButton::clicked, this, [this, command = description.command] { flow_.perform(command); });
     return button;
 }
 
 void ButtonPanel::synchronise()
 {
-    const GameState& state = flow_.game.state;
-    if (isEnabled() != state.Frame3.Enabled)
-        setEnabled(state.Frame3.Enabled);
+    const GameState& state = flow_.state();
+    if (isEnabled() == state.computerTurnInProgress)
+        setEnabled(!state.computerTurnInProgress);
     for (const Entry& entry : entries_)
-        entry.button->setEnabled(isTimeFor(entry.description.time, flow_));
-    if (enterWord_->isHidden() == state.EnterWord.Visible)
-        enterWord_->setVisible(state.EnterWord.Visible);
+        entry.button->setEnabled(flow_.isTime(GameFlow::timeOf(entry.description.command)));
+    if (enterWord_->isHidden() == state.showsEnterWord())
+        enterWord_->setVisible(state.showsEnterWord());
     const auto setCaption = [](QPushButton* button, const QString& caption) {
         if (button->text() != caption) {
             button->setText(caption);
             button->setAccessibleName(caption);
         }
     };
-    setCaption(enterWord_, toQString(state.EnterWord.Caption));
     setCaption(pause_, flow_.isPaused() ? tr("Resume") : tr("Pause"));
-    setCaption(sound_, toQString(flow_.sounds.SoundOnOff.Caption));
+    setCaption(sound_, toQString(flow_.soundCaption()));
 }
 
 } // namespace lexigrove

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "flow/game_flow.hpp"
 #include "ui/play/commands.hpp"
 
 #include <QWidget>
@@ -17,12 +18,9 @@ class ButtonPanel : public QWidget
     Q_OBJECT
 
 public:
-    ButtonPanel(const GameFlow& flow, QWidget* parent);
+    ButtonPanel(GameFlow& flow, QWidget* parent);
 
     void synchronise();
-
-signals:
-    void triggered(lexigrove::Command command);
 
 private:
     struct Entry {
@@ -32,14 +30,11 @@ private:
 
     [[nodiscard]] QPushButton* add(const PanelButton& description);
 
-    const GameFlow& flow_;
+    GameFlow& flow_;
     std::vector<Entry> entries_;
     QPushButton* enterWord_ = nullptr;
     QPushButton* pause_ = nullptr;
     QPushButton* sound_ = nullptr;
 };
-
-/// Whether a command of this kind does something now.
-bool isTimeFor(CommandTime time, const GameFlow& flow);
 
 } // namespace lexigrove

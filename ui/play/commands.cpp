@@ -17,54 +17,46 @@ QString text(const char* english)
 
 std::vector<Menu> mainMenus()
 {
-    using Flow = GameFlow;
-    const auto none = CommandTime::Always;
-    const auto inGame = CommandTime::InGame;
-    const auto inPlay = CommandTime::InPlay;
     return {
         {text("&Game"),
          {
-             {&Flow::menuNewGame, text("&New Game..."), {QKeySequence::New}, {}, inPlay, false},
-             {&Flow::pause, text("&Pause"), {Qt::CTRL | Qt::Key_P, Qt::Key_Pause}, {}, inGame, false},
-             {&Flow::soundButton, text("&Sound"), {Qt::CTRL | Qt::Key_M}, {}, none, true},
-             {&Flow::exit, text("E&xit"), {QKeySequence(Qt::CTRL | Qt::Key_Q)}, {}, none, true},
+             {Command::NewGame, text("&New Game..."), {QKeySequence::New}, {}, false},
+             {Command::Pause, text("&Pause"), {Qt::CTRL | Qt::Key_P, Qt::Key_Pause}, {}, false},
+             {Command::Sound, text("&Sound"), {Qt::CTRL | Qt::Key_M}, {}, true},
+             {Command::Exit, text("E&xit"), {QKeySequence(Qt::CTRL | Qt::Key_Q)}, {}, true},
          }},
         {text("&Words"),
          {
-             {&Flow::enterWord, text("&Enter Word"), {}, text("Enter"), inPlay, false},
-             {&Flow::escape, text("&Clear Word"), {}, text("Esc"), inPlay, false},
-             {&Flow::getHint, text("Get &Hint..."), {Qt::CTRL | Qt::Key_H}, {}, inPlay, true},
-             {&Flow::checkSpelling, text("Chec&k Spelling"), {Qt::CTRL | Qt::Key_K}, {}, inPlay, false},
-             {&Flow::showMeaning, text("&Meaning..."), {Qt::CTRL | Qt::Key_I}, {}, inPlay, false},
-             {&Flow::addWord, text("&Add Word..."), {Qt::CTRL | Qt::Key_D}, {}, inPlay, false},
+             {Command::EnterWord, text("&Enter Word"), {}, text("Enter"), false},
+             {Command::ClearWord, text("&Clear Word"), {}, text("Esc"), false},
+             {Command::GetHint, text("Get &Hint..."), {Qt::CTRL | Qt::Key_H}, {}, true},
+             {Command::CheckWord, text("Chec&k Spelling"), {Qt::CTRL | Qt::Key_K}, {}, false},
+             {Command::ShowMeaning, text("&Meaning..."), {Qt::CTRL | Qt::Key_I}, {}, false},
+             {Command::AddWord, text("&Add Word..."), {Qt::CTRL | Qt::Key_D}, {}, false},
          }},
         {text("&View"),
          {
-             {&Flow::showTopTen, text("&Top Ten..."), {Qt::CTRL | Qt::Key_T}, {}, inPlay, false},
-             {&Flow::showStatistics, text("&Statistics..."), {Qt::CTRL | Qt::Key_S}, {}, inPlay, false},
+             {Command::TopTen, text("&Top Ten..."), {Qt::CTRL | Qt::Key_T}, {}, false},
+             {Command::Statistics, text("&Statistics..."), {Qt::CTRL | Qt::Key_S}, {}, false},
          }},
         {text("&Help"),
          {
-             {&Flow::showHelp, text("&Help"), {Qt::CTRL | Qt::Key_F1}, {}, none, false},
-             {&Flow::showAbout, text("&About LexiGrove..."), {}, {}, none, true},
+             {Command::Help, text("&Help"), {Qt::CTRL | Qt::Key_F1}, {}, false},
+             {Command::About, text("&About LexiGrove..."), {}, {}, true},
          }},
     };
 }
 
 std::vector<PanelButton> panelButtons()
 {
-    using Flow = GameFlow;
-    const auto inGame = CommandTime::InGame;
-    const auto inPlay = CommandTime::InPlay;
     return {
-        {&Flow::enterWord, "EnterWord", text("Enter Word"), text("Enter the selected word"), inPlay, 0, 8},
-        {&Flow::getHint, "Hintx", text("Get Hint"), text("Let computer give you hints"), inPlay, 0, 4},
-        {&Flow::checkSpelling, "CheckDict", text("Check"), text("Look the word up without entering it"), inPlay, 0, 4},
-        {&Flow::showMeaning, "Meaning", text("Meaning"), text("Get meaning of the word selected"), inPlay, 1, 4},
-        {&Flow::addWord, "AddWord", text("Add Word"), text("Add or remove words of the dictionary"), inPlay, 1, 4},
-        {&Flow::pause, "Pause", text("Pause"), text("Stop the clock and cover the board"), inGame, 1, 4},
-        {&Flow::soundButton, "SoundOnOff", text("Sound is on"), text("Switch the sound on or off"), CommandTime::Always,
-         1, 5},
+        {Command::EnterWord, "EnterWord", text("Enter Word"), text("Enter the selected word"), 0, 8},
+        {Command::GetHint, "Hintx", text("Get Hint"), text("Let computer give you hints"), 0, 4},
+        {Command::CheckWord, "CheckDict", text("Check"), text("Look the word up without entering it"), 0, 4},
+        {Command::ShowMeaning, "Meaning", text("Meaning"), text("Get meaning of the word selected"), 1, 4},
+        {Command::AddWord, "AddWord", text("Add Word"), text("Add or remove words of the dictionary"), 1, 4},
+        {Command::Pause, "Pause", text("Pause"), text("Stop the clock and cover the board"), 1, 4},
+        {Command::Sound, "SoundOnOff", text("Sound is on"), text("Switch the sound on or off"), 1, 5},
     };
 }
 

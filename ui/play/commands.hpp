@@ -1,6 +1,6 @@
 #pragma once
 
-#include "flow/game_flow.hpp"
+#include "flow/command.hpp"
 
 #include <QKeySequence>
 #include <QList>
@@ -11,19 +11,12 @@
 namespace lexigrove
 {
 
-/// An input of the game that takes nothing but its name.
-using Command = void (GameFlow::*)();
-
-/// When a command does something.
-enum class CommandTime { Always, InGame, InPlay }; ///< in play: in a game that is not paused
-
 /// A line of a menu.
 struct MenuItem {
-    Command command = nullptr;
+    Command command;
     QString text;
     QList<QKeySequence> keys;
-    QString keyText; ///< a key that the window takes itself, shown beside the text
-    CommandTime time = CommandTime::Always;
+    QString keyText;        ///< a key that the window takes itself, shown beside the text
     bool afterLine = false; ///< a line separates it from the one above
 };
 
@@ -37,11 +30,10 @@ std::vector<Menu> mainMenus();
 
 /// A button of the main window.
 struct PanelButton {
-    Command command = nullptr;
+    Command command;
     QString name; ///< the object name
     QString text;
     QString toolTip;
-    CommandTime time = CommandTime::InPlay;
     int row = 0;
     int width = 1; ///< compared with the other buttons of the row
 };

@@ -1,7 +1,7 @@
 #include "ui/play/main_window.hpp"
 
 #include "ui/look/text.hpp"
-#include "ui/word_typing.hpp"
+#include "ui/machine/mouse.hpp"
 
 #include <QAction>
 #include <QCloseEvent>
@@ -12,18 +12,16 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
-#include <functional>
-
 namespace lexigrove
 {
 
 MainWindow::MainWindow(Host& host, GameFlow& flow, const StatusLine& status) : host_(host), flow_(flow)
 {
     setObjectName("MainWindow");
-    host_.theme.follow(flow_.scheme); // before the widgets: each is then dressed once
+    host_.theme.follow(flow_.scheme()); // before the widgets: each is then dressed once
     auto* centre = new QWidget(this);
     area_ = new PlayArea(flow, host.theme, centre);
-    status_ = new StatusLineView(status, flow.game.state, host.theme, centre);
+    status_ = new StatusLineView(status, flow, host.theme, centre);
     auto* column = new QVBoxLayout(centre);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
@@ -34,10 +32,10 @@ MainWindow::MainWindow(Host& host, GameFlow& flow, const StatusLine& status) : h
     addMenus();
     connectArea();
 
-    addTimer("UpdateRedTriggerTimer", RedTiles::redTimerInterval, &GameFlow::redTimerTick);
-    addTimer("MoveColDownTimer", RedTiles::pushTimerInterval, &GameFlow::pushTimerTick);
-    addTimer("PauseTimer", GameFlow::pauseTimerInterval, &GameFlow::pauseTimerTick);
-    addTimer("Clock", Dc::timerInterval, &GameFlow::clockTimerTick);
+    addTimer("UpdateRedTriggerTimer", Timer::Red);
+    addTimer("MoveColDownTimer", Timer::Push);
+    addTimer("PauseTimer", Timer::Pause);
+    addTimer("Clock", Timer::Clock);
 
     host_.setView(this);
     showModels();
@@ -56,18 +54,18 @@ void MainWindow::addMenus()
             if (item.afterLine)
                 list->addSeparator();
             QAction* action = list->addAction(item.keyText.isEmpty() ? item.text : item.text + '\t' + item.keyText);
-            action->setObjectName(item.command == &GameFlow::showStatistics ? "showstatx" : QString());
+            action->setObjectName(item.command == Command::Statistics ? "showstatx" : QString());
             action->setShortcuts(item.keys);
-            action->setCheckable(item.command == &GameFlow::soundButton);
-            connect(action, &QAction::triggered, this, [this, command = item.command] { run(command); });
+            action->setCheckable(item.command == Command::Sound);
+            connect(action, &QAction::triggered, this, [this, command = item.command] { flow_.perform(command); });
             menuEntries_.push_back({item, action});
         }
     }
     auto* corner = new QWidget;
     auto* row = new QHBoxLayout(corner);
     row->setContentsMargins(0, 0, Theme::spacing, 0);
-    addCornerButton(*row, "Helpx", QStringLiteral("Help"), &GameFlow::showHelp);
-    addCornerButton(*row, "Aboutx", QStringLiteral("About"), &GameFlow::showAbout);
+    addCornerButton(*row, "Helpx", QStringLiteral("Help"), Command::Help);
+    addCornerButton(*row, "Aboutx", QStringLiteral("About"), Command::About);
     menuBar()->setCornerWidget(corner);
 }
 
@@ -78,100 +76,46 @@ void MainWindow::addCornerButton(QHBoxLayout& row, const QString& name, const QS
     button->setText(caption);
     button->setAutoRaise(true);
     button->setFocusPolicy(Qt::NoFocus);
-    connect(button, &QToolButton::clicked, this, [this, command] { run(command); });
+    connect(button, &QToolButton::clicked, this, [this, command] { flow_.perform(command); });
     row.addWidget(button);
 }
 
 void MainWindow::connectArea()
 {
-    BoardView* board = area_->board;
-    connect(board, &BoardView::tileReleased, this,
-            [this](int tile, MouseButton button, bool shift) { input([&] { flow_.clickTile(tile, button, shift); }); });
-    connect(board, &BoardView::dropReleased, this, [this](int col) { input([&] { flow_.drop(col); }); });
-    connect(board, &BoardView::tileHovered, this, [this](int tile) { input([&] { flow_.hoverTile(tile); }); });
-    connect(area_->clock, &ClockFrame::released, this, [this](Qt::MouseButton button) {
-        if (button == Qt::LeftButton || button == Qt::RightButton)
-            input([&] { flow_.releaseClockFrame(button == Qt::LeftButton ? MouseButton::Left : MouseButton::Right); });
-    });
-    connect(&area_->clock->view(), &ClockView::focusReceived, this, [this] { run(&GameFlow::clockGotFocus); });
-    connect(area_->buttons, &ButtonPanel::triggered, this, &MainWindow::run);
-    connect(area_->words, &WordsView::headingClicked, this, [this](int x) { input([&] { flow_.sortWordsMade(x); }); });
-    connect(area_->words, &WordsView::rowPicked, this, &MainWindow::pickWord);
+    connect(area_->clock, &ClockFrame::released, this,
+            [this](Qt::MouseButton button) { flow_.releaseClockFrame(mouseButton(button)); });
+    connect(&area_->clock->view(), &ClockView::focusReceived, this, [this] { flow_.clockGotFocus(); });
+    connect(area_->words, &WordsView::headingClicked, this, [this](int x) { flow_.sortWordsMade(x); });
+    connect(area_->words, &WordsView::rowPicked, this, [this](int row) { flow_.pickWord(row); });
     connect(area_->words, &WordsView::rowActivated, this, [this](int row) {
-        pickWord(row);
-        run(&GameFlow::showMeaning);
-    });
-    connect(area_, &PlayArea::pauseCoverClicked, this, [this] {
-        if (flow_.isPaused())
-            run(&GameFlow::pause);
+        flow_.pickWord(row);
+        flow_.perform(Command::ShowMeaning);
     });
 }
 
-void MainWindow::addTimer(const QString& name, int interval, Command tick)
+void MainWindow::addTimer(const QString& name, Timer timer)
 {
-    auto* timer = new QTimer(this);
-    timer->setObjectName(name);
-    timer->setInterval(interval);
-    connect(timer, &QTimer::timeout, this, [this, tick] { run(tick); });
-    timer->start();
+    auto* clock = new QTimer(this);
+    clock->setObjectName(name);
+    clock->setInterval(intervalOf(timer));
+    connect(clock, &QTimer::timeout, this, [this, timer] { flow_.tick(timer); });
+    clock->start();
 }
 
 // ---- Inputs
 
-void MainWindow::run(Command command)
-{
-    input([&] { std::invoke(command, flow_); });
-}
-
-/// An input that was refused changes nothing; the one that runs has its own end.
-void MainWindow::afterInput()
+/// A close request that came while the input ran is carried out behind it.
+void MainWindow::inputEnded()
 {
     if (!flow_.isBusy()) {
         while (!flow_.ended() && host_.gate.takeRequest())
-            flow_.exit();
+            flow_.perform(Command::Exit);
     }
     showModels();
     if (flow_.ended() && !toldEnd_) {
         toldEnd_ = true;
         emit ended();
     }
-}
-
-void MainWindow::pickWord(int row)
-{
-    if (flow_.isPaused()) // the words are covered
-        return;
-    input([&] { flow_.asInput([&] { flow_.game.state.WordsMade.setCurrent(row); }); });
-}
-
-/// Spells on with a touching tile; where none shows the letter, the whole word is spelt anew along another path.
-void MainWindow::typeLetter(char letter)
-{
-    if (flow_.swapTile() != 0)
-        flow_.escape(); // typing is another action, also on the marked tile
-    const Selection& selection = flow_.game.selection;
-    const auto path = typedPath(flow_.game.board, selection, letter);
-    if (!path) {
-        const std::string word = selection.word() + letter;
-        flow_.asInput([&] { flow_.game.ports.status.show(word + " cannot be spelled on the board"); });
-        return;
-    }
-    std::size_t from = static_cast<std::size_t>(selection.length());
-    bool goesOn = from < path->size();
-    for (std::size_t i = 0; goesOn && i < from; ++i)
-        goesOn = selection.tileAt(static_cast<int>(i) + 1) == (*path)[i];
-    if (!goesOn) {
-        flow_.escape();
-        from = 0;
-    }
-    for (std::size_t i = from; i < path->size(); ++i)
-        flow_.clickTile((*path)[i], MouseButton::Left, false);
-}
-
-void MainWindow::takeBackLetter()
-{
-    if (const int last = flow_.game.selection.lastTile(); last != 0)
-        flow_.clickTile(last, MouseButton::Left, false);
 }
 
 bool MainWindow::typed(const QKeyEvent& event)
@@ -181,13 +125,12 @@ bool MainWindow::typed(const QKeyEvent& event)
         return false;
     const QChar character = event.text().front().toUpper();
     if (character >= u'1' && character <= u'8') {
-        input([&] { flow_.drop(character.unicode() - u'0'); });
+        flow_.drop(character.unicode() - u'0');
         return true;
     }
     if (!character.isLetter())
         return false;
-    if (flow_.inGame() && !flow_.isPaused() && !flow_.isBusy())
-        input([&] { typeLetter(fromQString(character).front()); });
+    flow_.typeLetter(fromQString(character).front());
     return true;
 }
 
@@ -198,14 +141,14 @@ void MainWindow::keyPressEvent(QKeyEvent* event)
         return QMainWindow::keyPressEvent(event);
     switch (event->key()) {
     case Qt::Key_F1:
-        return run(&GameFlow::askDeveloperPassword);
+        return flow_.perform(Command::AskPassword);
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        return run(&GameFlow::enterWord);
+        return flow_.perform(Command::EnterWord);
     case Qt::Key_Escape:
-        return run(&GameFlow::escape);
+        return flow_.perform(Command::ClearWord);
     case Qt::Key_Backspace:
-        return input([this] { takeBackLetter(); });
+        return flow_.perform(Command::TakeBack);
     default:
         if (!typed(*event))
             QMainWindow::keyPressEvent(event);
@@ -237,7 +180,7 @@ void MainWindow::closeEvent(QCloseEvent* event)
         if (flow_.isBusy())
             host_.gate.requestLeaving();
         else
-            run(&GameFlow::exit);
+            flow_.perform(Command::Exit);
     }
     event->setAccepted(flow_.ended());
 }
@@ -246,15 +189,15 @@ void MainWindow::closeEvent(QCloseEvent* event)
 
 void MainWindow::showModels()
 {
-    host_.theme.follow(flow_.scheme);
+    host_.theme.follow(flow_.scheme());
     const QString caption = messageToQString(flow_.caption());
     if (caption != windowTitle())
         setWindowTitle(caption);
     for (const MenuEntry& entry : menuEntries_) {
-        entry.action->setEnabled(isTimeFor(entry.item.time, flow_));
+        entry.action->setEnabled(flow_.isTime(GameFlow::timeOf(entry.item.command)));
         if (entry.action->isCheckable())
-            entry.action->setChecked(flow_.sounds.isOn());
-        if (entry.item.command == &GameFlow::pause)
+            entry.action->setChecked(flow_.soundIsOn());
+        if (entry.item.command == Command::Pause)
             entry.action->setText(flow_.isPaused() ? tr("&Resume") : tr("&Pause"));
     }
     area_->synchronise();

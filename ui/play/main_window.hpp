@@ -8,7 +8,6 @@
 
 #include <QMainWindow>
 
-#include <concepts>
 #include <vector>
 
 class QHBoxLayout;
@@ -16,7 +15,7 @@ class QHBoxLayout;
 namespace lexigrove
 {
 
-/// The main window: gives every click, key and tick to the flow, and shows the models afterwards.
+/// The main window: gives keys, menus and ticks to the flow, and shows the models after every input.
 class MainWindow : public QMainWindow, public ModelsView
 {
     Q_OBJECT
@@ -28,15 +27,8 @@ public:
     MainWindow& operator=(const MainWindow&) = delete;
 
     void showModels() override;
+    void inputEnded() override;
     QWidget* widget() override { return this; }
-
-    /// Runs an input of the flow and shows what came of it.
-    template <std::invocable Action>
-    void input(Action action)
-    {
-        action();
-        afterInput();
-    }
 
     [[nodiscard]] BoardView& board() { return *area_->board; }
 
@@ -58,12 +50,7 @@ private:
     void addMenus();
     void addCornerButton(QHBoxLayout& row, const QString& name, const QString& caption, Command command);
     void connectArea();
-    void addTimer(const QString& name, int interval, Command tick);
-    void afterInput();
-    void run(Command command);
-    void typeLetter(char letter);
-    void takeBackLetter();
-    void pickWord(int row);
+    void addTimer(const QString& name, Timer timer);
     [[nodiscard]] bool typed(const QKeyEvent& event);
 
     Host& host_;

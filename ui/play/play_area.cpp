@@ -1,5 +1,6 @@
 #include "ui/play/play_area.hpp"
 
+#include "game/game_state.hpp"
 #include "ui/look/text.hpp"
 
 #include <QHBoxLayout>
@@ -22,17 +23,16 @@ constexpr int topMargin = Theme::gap;
 
 } // namespace
 
-PlayArea::PlayArea(const GameFlow& flow, const Theme& theme, QWidget* parent)
+PlayArea::PlayArea(GameFlow& flow, const Theme& theme, QWidget* parent)
     : QWidget(parent), board(new BoardView(flow, theme, this)), flow_(flow), theme_(theme), side_(new QWidget(this))
 {
-    const GameState& state = flow.game.state;
-    clock = new ClockFrame(flow.Dc1, theme, side_);
+    clock = new ClockFrame(flow.clock(), theme, side_);
     yourScore_ = new NumberCard("YourScore", tr("Your score"), tr("The points that you have made"), side_);
     compScore_ = new NumberCard("CompScore", tr("Computer"), tr("The points that the computer has made"), side_);
     tilesLeft_ = new NumberCard("TilesLeft", tr("Tiles left"), tr("Letters that are still to come"), side_);
-    word_ = new WordBox(state, theme, side_);
+    word_ = new WordBox(flow, theme, side_);
     buttons = new ButtonPanel(flow, side_);
-    words = new WordsView(state.WordsMade, theme, side_);
+    words = new WordsView(flow.state().WordsMade, theme, side_);
     words->setObjectName("WordsMade");
     words->setAccessibleName(tr("Words made"));
     words->setEmptyText(tr("Your words will be listed here.\nClick letters that touch one another, then Enter Word. "
@@ -43,8 +43,12 @@ PlayArea::PlayArea(const GameFlow& flow, const Theme& theme, QWidget* parent)
     boardCover_ = new PauseCover(theme, this);
     wordsCover_ = new PauseCover(theme, this);
     wordsCover_->setObjectName("PauseCoverOfWords");
-    connect(boardCover_, &PauseCover::clicked, this, &PlayArea::pauseCoverClicked);
-    connect(wordsCover_, &PauseCover::clicked, this, &PlayArea::pauseCoverClicked);
+    for (const PauseCover* cover : {boardCover_, wordsCover_}) {
+        connect(cover, &PauseCover::clicked, this, [this] {
+            if (flow_.isPaused())
+                flow_.perform(Command::Pause);
+        });
+    }
     connect(&theme, &Theme::changed, this, &PlayArea::applyColours);
 }
 
@@ -116,12 +120,12 @@ void PlayArea::placeCovers()
 
 void PlayArea::synchronise()
 {
-    const GameState& state = flow_.game.state;
+    const GameState& state = flow_.state();
     board->synchronise();
     clock->synchronise();
-    yourScore_->show(state.YourScore.Caption);
-    compScore_->show(state.CompScore.Caption);
-    tilesLeft_->show(state.TilesLeft.Caption);
+    yourScore_->show(std::to_string(state.yourScore));
+    compScore_->show(std::to_string(state.compScore));
+    tilesLeft_->show(state.tilesLeftText());
     if (compScore_->isHidden() == state.computerGame) // alone the player needs no second score
         compScore_->setVisible(state.computerGame);
     word_->synchronise();

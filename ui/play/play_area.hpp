@@ -21,7 +21,7 @@ class PlayArea : public QWidget
     Q_OBJECT
 
 public:
-    PlayArea(const GameFlow& flow, const Theme& theme, QWidget* parent);
+    PlayArea(GameFlow& flow, const Theme& theme, QWidget* parent);
 
     void synchronise();
 
@@ -33,9 +33,6 @@ public:
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
 
-signals:
-    void pauseCoverClicked();
-
 protected:
     void resizeEvent(QResizeEvent* event) override;
 
@@ -46,7 +43,7 @@ private:
     void showPause();
     void applyColours();
 
-    const GameFlow& flow_;
+    GameFlow& flow_;
     const Theme& theme_;
     QWidget* side_;
     NumberCard* yourScore_;

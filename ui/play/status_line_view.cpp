@@ -1,5 +1,7 @@
 #include "ui/play/status_line_view.hpp"
 
+#include "game/board.hpp"
+#include "game/game_state.hpp"
 #include "settings/readable_colours.hpp"
 #include "ui/look/text.hpp"
 
@@ -51,10 +53,10 @@ private:
 
 } // namespace
 
-StatusLineView::StatusLineView(const StatusLine& status, const GameState& state, const Theme& theme, QWidget* parent)
+StatusLineView::StatusLineView(const StatusLine& status, const GameFlow& flow, const Theme& theme, QWidget* parent)
     : QWidget(parent),
       status_(status),
-      state_(state),
+      flow_(flow),
       theme_(theme),
       Warn(new WarnIcon(theme, this)),
       Label1(new QLabel(this)),
@@ -91,12 +93,14 @@ void StatusLineView::synchronise()
         full_ = onOneLine(shown_);
         elide();
     }
-    setLoud(status_.Warn || state_.computerTurnInProgress);
+    const GameState& state = flow_.state();
+    setLoud(status_.Warn || state.computerTurnInProgress);
     if (status_.Warn == Warn->isHidden())
         Warn->setVisible(status_.Warn);
-    if (state_.developerMode == Label4->isHidden())
-        Label4->setVisible(state_.developerMode);
-    const QString description = toQString(state_.Label4.Caption);
+    if (state.developerMode == Label4->isHidden())
+        Label4->setVisible(state.developerMode);
+    const int tile = state.developerMode ? state.hoveredTile : 0;
+    const QString description = tile == 0 ? QString() : toQString(flow_.board().description(tile));
     if (description != Label4->text())
         Label4->setText(description);
 }

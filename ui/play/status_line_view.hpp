@@ -1,6 +1,6 @@
 #pragma once
 
-#include "game/game_state.hpp"
+#include "flow/game_flow.hpp"
 #include "platform/status_line.hpp"
 #include "ui/look/theme.hpp"
 
@@ -16,7 +16,7 @@ class StatusLineView : public QWidget
     Q_OBJECT
 
 public:
-    StatusLineView(const StatusLine& status, const GameState& state, const Theme& theme, QWidget* parent);
+    StatusLineView(const StatusLine& status, const GameFlow& flow, const Theme& theme, QWidget* parent);
 
     void synchronise();
 
@@ -29,7 +29,7 @@ private:
     void setLoud(bool loud);
 
     const StatusLine& status_;
-    const GameState& state_;
+    const GameFlow& flow_;
     const Theme& theme_;
     QWidget* Warn;
     QLabel* Label1;

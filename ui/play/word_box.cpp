@@ -1,5 +1,8 @@
 #include "ui/play/word_box.hpp"
 
+#include "game/game_state.hpp"
+#include "game/selection.hpp"
+#include "settings/colour_scheme.hpp"
 #include "settings/readable_colours.hpp"
 #include "ui/look/text.hpp"
 
@@ -18,9 +21,9 @@ constexpr double frameWidth = 2;
 
 } // namespace
 
-WordBox::WordBox(const GameState& state, const Theme& theme, QWidget* parent)
+WordBox::WordBox(const GameFlow& flow, const Theme& theme, QWidget* parent)
     : QWidget(parent),
-      state_(state),
+      flow_(flow),
       theme_(theme),
       WordTried(new FittingLabel(wordSize, 0.08, this)),
       CurrScore(new FittingLabel(wordSize * scoreShare, 0, this))
@@ -46,31 +49,32 @@ void WordBox::setLetterSize(double size)
 
 void WordBox::synchronise()
 {
-    const QString word = toQString(state_.WordTried.Caption);
+    const GameState& state = flow_.state();
+    const QString word = toQString(flow_.selection().wordTried());
     if (word != WordTried->text())
         WordTried->setText(word);
-    const QString score = toQString(state_.CurrScore.Caption);
+    const QString score = toQString(state.currScoreText());
     if (score != CurrScore->text()) {
         CurrScore->setText(score);
         const int width = score.isEmpty() ? 0 : CurrScore->sizeHint().width() + 2 * Theme::grid;
         CurrScore->setFixedWidth(width);
     }
-    const bool same = state_.WordTried.backColor == wordBack_ && state_.WordTried.foreColor == wordFore_ &&
-                      state_.CurrScore.backColor == scoreBack_;
-    if (same)
+    std::optional<Colour> scoreBack;
+    if (state.currScore && multiplier::isBonus(state.currScore->best))
+        scoreBack = flow_.scheme().tileFace(state.currScore->best);
+    if (state.computerTurnInProgress == computersTurn_ && scoreBack == scoreBack_)
         return;
-    wordBack_ = state_.WordTried.backColor;
-    wordFore_ = state_.WordTried.foreColor;
-    scoreBack_ = state_.CurrScore.backColor;
+    computersTurn_ = state.computerTurnInProgress;
+    scoreBack_ = scoreBack;
     applyColours();
 }
 
 void WordBox::applyColours()
 {
     const WindowColours& colours = theme_.colours();
-    WordTried->setColour(theme_.colour(wordFore_));
+    WordTried->setColour(toQColor(computersTurn_ ? colours.computerFore : colours.cardText));
     WordTried->setPlaceholder(tr("Click or type touching letters"), toQColor(colours.cardQuietText));
-    CurrScore->setColour(toQColor(isSystemColour(scoreBack_) ? colours.accent : readableOn(scoreBack_)));
+    CurrScore->setColour(toQColor(scoreBack_ ? readableOn(*scoreBack_) : colours.accent));
     update();
 }
 
@@ -78,14 +82,13 @@ void WordBox::paintEvent(QPaintEvent* /*event*/)
 {
     const WindowColours& colours = theme_.colours();
     QPainter painter(this);
-    const Colour face = isSystemColour(wordBack_) ? colours.card : wordBack_;
-    Theme::paintCard(painter, rect(), face, colours.accent, frameWidth);
-    if (isSystemColour(scoreBack_) || CurrScore->text().isEmpty())
+    Theme::paintCard(painter, rect(), computersTurn_ ? colours.computerBack : colours.card, colours.accent, frameWidth);
+    if (!scoreBack_)
         return;
     // The score stands on the colour of the bonus tile that multiplies it.
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(toQColor(scoreBack_));
+    painter.setBrush(toQColor(*scoreBack_));
     painter.drawRoundedRect(CurrScore->geometry(), Theme::radius - frameWidth, Theme::radius - frameWidth);
 }
 

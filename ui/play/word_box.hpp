@@ -1,10 +1,12 @@
 #pragma once
 
-#include "game/game_state.hpp"
+#include "flow/game_flow.hpp"
 #include "ui/look/fitting_label.hpp"
 #include "ui/look/theme.hpp"
 
 #include <QWidget>
+
+#include <optional>
 
 namespace lexigrove
 {
@@ -16,7 +18,7 @@ class WordBox : public QWidget
     Q_OBJECT
 
 public:
-    WordBox(const GameState& state, const Theme& theme, QWidget* parent);
+    WordBox(const GameFlow& flow, const Theme& theme, QWidget* parent);
 
     void synchronise();
 
@@ -29,13 +31,12 @@ protected:
 private:
     void applyColours();
 
-    const GameState& state_;
+    const GameFlow& flow_;
     const Theme& theme_;
     FittingLabel* WordTried;
     FittingLabel* CurrScore;
-    Colour wordBack_ = 0;
-    Colour wordFore_ = 0;
-    Colour scoreBack_ = 0;
+    bool computersTurn_ = false;
+    std::optional<Colour> scoreBack_; ///< of the bonus tile that multiplies the score
 };
 
 } // namespace lexigrove

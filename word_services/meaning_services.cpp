@@ -1,4 +1,4 @@
-#include "settings/meaning_services.hpp"
+#include "word_services/meaning_services.hpp"
 
 #include "platform/text_file.hpp"
 
@@ -77,14 +77,11 @@ MeaningServices::MeaningServices(const std::string& folder)
 
 void MeaningServices::choose(const OptionsForm& options)
 {
-    if (options.Option6.Value)
-        chosen_ = Online;
-    if (options.Option7.Value)
-        chosen_ = Free;
-    if (options.Option8.Value)
-        chosen_ = MerriamWebster;
-    if (options.Option9.Value)
-        chosen_ = Computing;
+    const auto choices = options.meaningChoices();
+    for (std::size_t i = 0; i < serviceCount; ++i) {
+        if (choices[i])
+            chosen_ = static_cast<Service>(i);
+    }
 }
 
 std::string MeaningServices::addressOf(std::string_view word) const

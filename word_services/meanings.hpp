@@ -2,7 +2,8 @@
 
 #include "game/game_state.hpp"
 #include "platform/status_line.hpp"
-#include "settings/meaning_services.hpp"
+#include "platform/windows.hpp"
+#include "word_services/meaning_services.hpp"
 #include "settings/sound_cues.hpp"
 
 #include <string>
@@ -16,23 +17,13 @@ struct MeaningForm {
     std::string address; ///< the page that `WbDictionary` navigates to
 };
 
-/// Shows the meaning window.
-class MeaningWindow
-{
-public:
-    virtual ~MeaningWindow() = default;
-
-    /// Shows the form modally and returns when the window is closed. Network and page errors are the browser view's.
-    virtual void show(const MeaningForm& form) = 0;
-};
-
 /// Word meanings from the service that was chosen at the game's start.
 class Meanings
 {
 public:
     Meanings(GameState& state, StatusLine& status, SoundCues& sounds, const MeaningServices& services,
-             MeaningWindow& window)
-        : state_(state), status_(status), sounds_(sounds), services_(services), window_(window)
+             Windows& windows)
+        : state_(state), status_(status), sounds_(sounds), services_(services), windows_(windows)
     {
     }
 
@@ -47,7 +38,7 @@ private:
     StatusLine& status_;
     SoundCues& sounds_;
     const MeaningServices& services_;
-    MeaningWindow& window_;
+    Windows& windows_;
 };
 
 /// The word in a grid's current row; empty when the heading or no word is current.

@@ -1,4 +1,6 @@
-#include "ui/word_typing.hpp"
+#include "game/word_typing.hpp"
+
+#include "game/game.hpp"
 
 #include <algorithm>
 #include <string>
@@ -49,7 +51,7 @@ private:
             return false;
         for (const int tile : candidates(from, path_, word_[path_.size()])) {
             path_.push_back(tile);
-            const NeighbourList& next = board_.neighbours(tile);
+            const NeighbourList next = board_.neighbours(tile);
             if (goOn({next.begin(), next.end()}))
                 return true;
             path_.pop_back();
@@ -70,12 +72,10 @@ private:
 
 std::optional<std::vector<int>> typedPath(const Board& board, const Selection& path, char letter)
 {
-    std::vector<int> tiles;
-    for (int place = 1; place <= path.length(); ++place)
-        tiles.push_back(path.tileAt(place));
+    std::vector<int> tiles = path.tiles();
     PathFinder finder(board, path.word() + letter);
     if (!tiles.empty()) {
-        const NeighbourList& next = board.neighbours(tiles.back());
+        const NeighbourList next = board.neighbours(tiles.back());
         const std::vector<int> fitting = finder.candidates({next.begin(), next.end()}, tiles, letter);
         if (!fitting.empty()) {
             tiles.push_back(fitting.front());
@@ -83,6 +83,22 @@ std::optional<std::vector<int>> typedPath(const Board& board, const Selection& p
         }
     }
     return finder.find();
+}
+
+bool spellOn(Game& game, char letter)
+{
+    const auto path = typedPath(game.board, game.selection, letter);
+    if (!path) {
+        game.ports.status.show(game.selection.word() + letter + " cannot be spelled on the board");
+        return false;
+    }
+    const std::vector<int>& before = game.selection.tiles();
+    const bool goesOn = before.size() < path->size() && std::equal(before.begin(), before.end(), path->begin());
+    if (!goesOn)
+        game.selection.clear();
+    for (std::size_t i = before.size(); i < path->size(); ++i)
+        game.selection.tileClicked((*path)[i], MouseButton::Left);
+    return true;
 }
 
 } // namespace lexigrove

@@ -1,4 +1,4 @@
-#include "flow/letter_swap.hpp"
+#include "game/letter_swap.hpp"
 
 namespace lexigrove
 {
@@ -10,7 +10,7 @@ void LetterSwap::request(int tile)
         return;
     }
     cancel();
-    if (numberOf(game_.state.YourScore.Caption) < price) {
+    if (game_.state.yourScore < price) {
         game_.sounds.play(cue::error);
         game_.ports.status.show("your score must be at least " + std::to_string(price) + " to swap a letter");
         return;
@@ -22,7 +22,7 @@ void LetterSwap::request(int tile)
 
 void LetterSwap::exchange(int col)
 {
-    BoxControl& waiting = game_.board.TopDrop[static_cast<std::size_t>(col)];
+    BoxControl& waiting = game_.board.waiting(col);
     if (!waiting.Visible()) {
         game_.sounds.play(cue::error);
         return;
@@ -31,8 +31,7 @@ void LetterSwap::exchange(int col)
     const std::string letter = tile.Caption();
     tile.Caption(waiting.Caption());
     waiting.Caption(letter);
-    Label& YourScore = game_.state.YourScore;
-    YourScore.Caption = std::to_string(numberOf(YourScore.Caption) - price);
+    game_.state.yourScore -= price;
     cancel();
     game_.sounds.play(cue::swap);
 }

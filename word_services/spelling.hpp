@@ -1,7 +1,7 @@
 #pragma once
 
 #include "dictionary/dictionary.hpp"
-#include "game/game_state.hpp"
+#include "game/selection.hpp"
 #include "platform/status_line.hpp"
 #include "settings/sound_cues.hpp"
 
@@ -9,6 +9,6 @@ namespace lexigrove
 {
 
 /// `CheckDict`: tells on the status line whether the word being built is in the dictionary. Nothing else changes.
-void checkSpelling(const GameState& state, const Dictionary& dictionary, SoundCues& sounds, StatusLine& status);
+void checkSpelling(const Selection& selection, const Dictionary& dictionary, SoundCues& sounds, StatusLine& status);
 
 } // namespace lexigrove

@@ -1,4 +1,4 @@
-#include "opponent/meanings.hpp"
+#include "word_services/meanings.hpp"
 
 namespace lexigrove
 {
@@ -19,7 +19,7 @@ void Meanings::showOfCurrentRow()
 void Meanings::showMeaning(const std::string& word)
 {
     sounds_.play(cue::menu);
-    window_.show(MeaningForm{word, services_.addressOf(word)});
+    windows_.show(MeaningForm{word, services_.addressOf(word)});
 }
 
 std::string currentWord(const WordsGrid& grid)

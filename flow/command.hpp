@@ -1,0 +1,59 @@
+#pragma once
+
+namespace lexigrove
+{
+
+/// When an input does something. At other times it is refused.
+enum class When {
+    Always,
+    NotPaused, ///< also before the first game
+    InGame,    ///< from the first game on, paused or not
+    InPlay,    ///< in a game that is not paused
+};
+
+/// The inputs that take nothing but their name: what menus, buttons, keys and the console's commands offer.
+enum class Command {
+    NewGame,     ///< from the menu, with its questions
+    Pause,       ///< pauses and resumes
+    Sound,       ///< switches the sound on or off
+    Exit,        ///< offers the score, saves the configuration and ends the program; closing the window does the same
+    EnterWord,   ///< `EnterWord`
+    ClearWord,   ///< Esc: cancels a letter swap, else clears the path
+    TakeBack,    ///< takes the last tile off the path
+    GetHint,     ///< `Hintx`
+    CheckWord,   ///< `CheckDict`
+    ShowMeaning, ///< of the current word of `WordsMade`
+    AddWord,     ///< opens the maintenance window with the selected word
+    TopTen,      ///< shows the top ten
+    Statistics,  ///< `showstatx`
+    Help,        ///< `Helpx`
+    About,       ///< shows the about box
+    AskPassword, ///< F1: the developer's password
+    ExportWords, ///< see `Dictionary::exportWords`
+};
+
+/// The keys that set the drop-animation delay in developer mode.
+enum class DeveloperKey { End, NumpadMinus, NumpadPlus, Home };
+
+/// The timers that a front end runs for as long as the program lasts; the flow knows when a tick counts.
+enum class Timer {
+    Red,   ///< `UpdateRedTriggerTimer`
+    Push,  ///< `MoveColDownTimer`
+    Clock, ///< of the clock `Dc1`
+    Pause, ///< `PauseTimer`: blinks the caption while paused
+};
+
+/// Milliseconds between two ticks.
+constexpr int intervalOf(Timer timer)
+{
+    switch (timer) {
+    case Timer::Push:
+        return 64'000;
+    case Timer::Pause:
+        return 500;
+    default:
+        return 1'000;
+    }
+}
+
+} // namespace lexigrove

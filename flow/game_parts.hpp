@@ -1,0 +1,54 @@
+#pragma once
+
+#include "controls/dc.hpp"
+#include "dictionary/maintenance.hpp"
+#include "game/game.hpp"
+#include "game/letter_swap.hpp"
+#include "opponent/board_search.hpp"
+#include "opponent/computer_turn.hpp"
+#include "opponent/hints.hpp"
+#include "opponent/word_round.hpp"
+#include "platform/ports.hpp"
+#include "scores/score_file.hpp"
+#include "scores/score_form.hpp"
+#include "scores/statistics_form.hpp"
+#include "settings/configuration.hpp"
+#include "word_services/meaning_services.hpp"
+#include "word_services/meanings.hpp"
+
+#include <string>
+
+namespace lexigrove
+{
+
+/// Everything that the program is made of below its front end, put together once. Only the flow and its study reach it.
+struct GameParts {
+    GameParts(const Ports& outside, const std::string& programFolder) : ports(outside), folder(programFolder) {}
+    GameParts(const GameParts&) = delete;
+    GameParts& operator=(const GameParts&) = delete;
+
+    const Ports ports;
+    const std::string folder; ///< the program folder with its closing separator
+
+    Dictionary dictionary{folder};
+    ColourScheme scheme{folder, ports.dialogs};
+    SoundCues sounds{ports.sound, folder};
+    OptionsForm options{{ports.dialogs, ports.screen, dictionary, scheme, sounds, folder}};
+    Dc Dc1;
+    Game game{ports, dictionary, sounds, scheme, options};
+    LetterSwap letterSwap{game};
+    MeaningServices services{folder};
+    ScoreFile scoreFile{folder, ports.dialogs};
+    ScoreForm scoreForm{scoreFile, ports.dialogs};
+    StatisticsForm statisticsForm{game.state.statistics};
+    DictionaryMaintenance maintenance{dictionary, ports.dialogs, ports.screen, ports.clock};
+    BoardSearch search;
+    ComputerTurn computerTurn{game, search, Dc1};
+    WordRound wordRound{game, computerTurn};
+    Meanings meanings{game.state, ports.status, sounds, services, ports.windows};
+    HintsForm hintsForm{game, meanings};
+    Hints hints{game, search, wordRound, hintsForm};
+    Configuration configuration{{ports.dialogs, ports.clock, options, Dc1, scheme, dictionary, folder}};
+};
+
+} // namespace lexigrove

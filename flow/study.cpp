@@ -1,0 +1,199 @@
+#include "flow/study.hpp"
+
+#include "flow/game_parts.hpp"
+#include "opponent/board_snapshot.hpp"
+#include "settings/window_colours.hpp"
+
+namespace lexigrove
+{
+
+namespace
+{
+
+/// The counts that follow from the tiles, and their looks.
+void takeBoardAsItStands(Game& game)
+{
+    GameState& state = game.state;
+    state.redTilesOnBoard = 0;
+    state.bonusTilesOnBoard = 0;
+    for (int tile = 1; tile <= Board::tileCount; ++tile) {
+        if (!game.board.isVisible(tile))
+            continue;
+        if (game.board.maskcolor(tile) == multiplier::red)
+            ++state.redTilesOnBoard;
+        else if (multiplier::isBonus(game.board.maskcolor(tile)))
+            ++state.bonusTilesOnBoard;
+    }
+    game.refreshLooks();
+}
+
+} // namespace
+
+void Study::setDeveloperMode(bool on)
+{
+    flow_.input(When::Always, [=](GameParts& p) { p.game.state.developerMode = on; });
+}
+
+void Study::editTile(int tile, const std::string& letter, Colour maskcolor)
+{
+    flow_.input(When::InGame, [&](GameParts& p) {
+        p.letterSwap.cancel();
+        BoxControl& control = p.game.board.tile(tile);
+        if (control.Tag() == "X")
+            p.game.selection.clear(); // the path holds the letter that it was clicked with
+        control.Caption(letter);
+        control.MaskColor(maskcolor);
+        control.Visible(!letter.empty());
+        takeBoardAsItStands(p.game);
+    });
+}
+
+void Study::editWaiting(int col, const std::string& letter)
+{
+    flow_.input(When::InGame, [&](GameParts& p) {
+        p.letterSwap.cancel();
+        p.game.supply.waitAtHome(col, letter);
+        takeBoardAsItStands(p.game);
+    });
+}
+
+void Study::set(Number number, int value)
+{
+    flow_.input(When::InGame, [=](GameParts& p) {
+        GameState& state = p.game.state;
+        const auto counter = static_cast<std::int16_t>(value);
+        switch (number) {
+        case Number::YourScore:
+            state.yourScore = value;
+            break;
+        case Number::CompScore:
+            state.compScore = value;
+            break;
+        case Number::TilesLeft:
+            state.letterDraw = LetterDraw::Going;
+            state.tilesLeft = value;
+            break;
+        case Number::Ticks:
+            state.tickCount = counter;
+            break;
+        case Number::HintsUsed:
+            state.hintsUsed = counter;
+            break;
+        case Number::RedThreshold:
+            p.dictionary.setRedThreshold(value);
+            break;
+        case Number::LastPressure:
+            state.lastPressure = value;
+            break;
+        case Number::BonusTiles:
+            state.bonusTilesOnBoard = counter;
+            break;
+        case Number::RedTilesUsed:
+            state.redTilesUsed = counter;
+            break;
+        }
+    });
+}
+
+void Study::endLetters()
+{
+    flow_.input(When::InGame, [](GameParts& p) { p.game.state.letterDraw = LetterDraw::Ended; });
+}
+
+void Study::chooseOptions(const std::function<void(OptionsForm&)>& choose)
+{
+    flow_.input(When::Always, [&](GameParts& p) {
+        choose(p.options);
+        p.game.refreshLooks();
+    });
+}
+
+void Study::loadScheme(const std::string& name)
+{
+    flow_.input(When::Always, [&](GameParts& p) {
+        p.scheme.load(name);
+        p.game.refreshLooks();
+    });
+}
+
+void Study::loadConfiguration()
+{
+    flow_.input(When::Always, [](GameParts& p) {
+        const WindowColours colours = deriveWindowColours(p.scheme);
+        p.configuration.load(colours.ground, colours.card);
+    });
+}
+
+void Study::saveConfiguration()
+{
+    flow_.input(When::Always, [](GameParts& p) { p.configuration.save(); });
+}
+
+TracedWord Study::trace(std::string_view word)
+{
+    TracedWord traced;
+    flow_.input(When::InGame, [&](GameParts& p) { traced = p.search.traceWord(snapshotOf(p.game.board), word); });
+    return traced;
+}
+
+const CandidateList& Study::sweep()
+{
+    flow_.input(When::InGame, [](GameParts& p) { p.search.sweep(snapshotOf(p.game.board), p.dictionary.words); });
+    return flow_.parts_->search.candidates();
+}
+
+void Study::computerTurn()
+{
+    flow_.input(When::InPlay, [](GameParts& p) {
+        p.letterSwap.cancel();
+        p.computerTurn.take();
+    });
+}
+
+bool Study::maintain(Maintenance operation, const std::string& text)
+{
+    bool opened = false;
+    flow_.input(When::InGame, [&](GameParts& p) {
+        constexpr const char* anyWord = "A"; // opening asks for one, while the text to edit may be empty
+        opened = p.maintenance.open(anyWord, p.ports.status);
+        if (!opened)
+            return;
+        p.maintenance.word = text;
+        p.maintenance.activate();
+        switch (operation) {
+        case Maintenance::SpellCheck:
+            return p.maintenance.spellCheck();
+        case Maintenance::AddWord:
+            return p.maintenance.addWord();
+        case Maintenance::RemoveWord:
+            return p.maintenance.removeWord();
+        case Maintenance::ShowDictionary:
+            return p.maintenance.showDictionary();
+        }
+    });
+    return opened;
+}
+
+int Study::listedWords() const
+{
+    return flow_.parts_->maintenance.List1.ListCount();
+}
+
+std::vector<std::string> Study::scores()
+{
+    std::vector<std::string> lines;
+    flow_.input(When::Always, [&](GameParts& p) { lines = p.scoreFile.load(); });
+    return {lines.rbegin(), lines.rend()};
+}
+
+std::string Study::showTopTen(std::optional<int> score)
+{
+    std::string answer;
+    flow_.input(When::Always, [&](GameParts& p) {
+        lexigrove::showTopTen(p.scoreForm, p.ports.windows, score);
+        answer = p.scoreForm.answerCode();
+    });
+    return answer;
+}
+
+} // namespace lexigrove

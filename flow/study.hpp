@@ -1,0 +1,76 @@
+#pragma once
+
+#include "controls/colour.hpp"
+#include "flow/game_flow.hpp"
+#include "opponent/board_search.hpp"
+#include "scores/score_form.hpp"
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace lexigrove
+{
+
+/// Sets up positions and looks into the rules, beside playing: for the console, for tests, and for whoever studies a
+/// board. Each verb runs as one input of the flow, and is refused while another runs.
+class Study
+{
+public:
+    /// The flow outlives its study.
+    explicit Study(GameFlow& flow) : flow_(flow) {}
+
+    void setDeveloperMode(bool on);
+
+    /// Sets letter and multiplier of a tile in play; the empty letter hides it. A path over the tile is cleared. The
+    /// counts of red and bonus tiles are taken from the board.
+    void editTile(int tile, const std::string& letter, Colour maskcolor);
+    /// The same for the waiting tile over a column.
+    void editWaiting(int col, const std::string& letter);
+
+    /// The numbers of a game that can be set.
+    enum class Number {
+        YourScore,
+        CompScore,
+        TilesLeft,
+        Ticks,
+        HintsUsed,
+        RedThreshold,
+        LastPressure,
+        BonusTiles,
+        RedTilesUsed,
+    };
+    /// The caller keeps to the number's type: 16 bits for the counters.
+    void set(Number number, int value);
+    /// No more letters come from the queue: `TilesLeft` shows "NONE".
+    void endLetters();
+
+    /// Makes choices in the options dialog while it is not shown.
+    void chooseOptions(const std::function<void(OptionsForm&)>& choose);
+    void loadScheme(const std::string& name);
+    void loadConfiguration();
+    void saveConfiguration();
+
+    [[nodiscard]] TracedWord trace(std::string_view word);
+    const CandidateList& sweep();
+    void computerTurn();
+
+    enum class Maintenance { SpellCheck, AddWord, RemoveWord, ShowDictionary };
+    /// An operation of the maintenance window on a text, as if the window had been opened with it. False, after a
+    /// message on the status line, for the user dictionary.
+    bool maintain(Maintenance operation, const std::string& text);
+    /// The number of lines in the maintenance window's list.
+    [[nodiscard]] int listedWords() const;
+
+    /// The ten score lines, highest first.
+    [[nodiscard]] std::vector<std::string> scores();
+    /// Shows the top-ten window, to record a score or without, and returns the code of its answer.
+    std::string showTopTen(std::optional<int> score);
+
+private:
+    GameFlow& flow_;
+};
+
+} // namespace lexigrove

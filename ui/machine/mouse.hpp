@@ -1,0 +1,18 @@
+#pragma once
+
+#include "controls/mouse_button.hpp"
+
+#include <Qt>
+
+namespace lexigrove
+{
+
+/// The button as the models know it; any further one counts as the middle one.
+inline MouseButton mouseButton(Qt::MouseButton button)
+{
+    if (button == Qt::LeftButton)
+        return MouseButton::Left;
+    return button == Qt::RightButton ? MouseButton::Right : MouseButton::Middle;
+}
+
+} // namespace lexigrove
