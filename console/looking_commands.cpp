@@ -30,7 +30,7 @@ std::string cell(const BoxControl& tile)
 
 Lines showBoard(CommandContext& context)
 {
-    const Board& board = context.flow.board();
+    const Board& board = context.flow.view().board;
     std::string dropRow;
     for (int col = 1; col <= Board::columns; ++col)
         dropRow += (col > 1 ? " " : "") + cell(board.waiting(col));
@@ -46,12 +46,12 @@ Lines showBoard(CommandContext& context)
 
 Lines describeTile(CommandContext& context, int tile)
 {
-    return {context.flow.board().description(tile)};
+    return {context.flow.view().board.description(tile)};
 }
 
 Lines hoverTile(CommandContext& context, int tile)
 {
-    const Board& board = context.flow.board();
+    const Board& board = context.flow.view().board;
     if (!board.isVisible(tile))
         throw CommandError("tile " + std::to_string(tile) + " is not on the board");
     context.flow.hoverTile(tile);
@@ -60,7 +60,7 @@ Lines hoverTile(CommandContext& context, int tile)
 
 Lines neighbours(CommandContext& context, int tile)
 {
-    return {context.flow.board().Neibors(tile)};
+    return {context.flow.view().board.Neibors(tile)};
 }
 
 /// A caption or a number of the game that `value` prints.
@@ -71,30 +71,30 @@ struct Value {
 
 const GameState& stateOf(const CommandContext& context)
 {
-    return context.flow.state();
+    return context.flow.view().state;
 }
 
 using Context = CommandContext;
 
 constexpr Value values[] = {
-    {"WordTried", [](const Context& c) { return c.flow.selection().wordTried(); }},
+    {"WordTried", [](const Context& c) { return c.flow.view().selection.wordTried(); }},
     {"CurrScore", [](const Context& c) { return stateOf(c).currScoreText(); }},
     {"YourScore", [](const Context& c) { return std::to_string(stateOf(c).yourScore); }},
     {"CompScore", [](const Context& c) { return std::to_string(stateOf(c).compScore); }},
     {"TilesLeft", [](const Context& c) { return stateOf(c).tilesLeftText(); }},
     {"Label1", [](const Context& c) { return c.status.Label1; }},
     {"EnterWord", [](const Context&) { return std::string("Enter Word"); }},
-    {"caption", [](const Context& c) { return c.flow.caption(); }},
+    {"caption", [](const Context& c) { return c.flow.view().dictionary.caption(); }},
     {"ticks", [](const Context& c) { return std::to_string(stateOf(c).tickCount); }},
     {"pressure", [](const Context& c) { return std::to_string(stateOf(c).pressure); }},
     {"last_pressure", [](const Context& c) { return std::to_string(stateOf(c).lastPressure); }},
-    {"red_threshold", [](const Context& c) { return std::to_string(c.flow.dictionary().redThreshold()); }},
+    {"red_threshold", [](const Context& c) { return std::to_string(c.flow.view().dictionary.redThreshold()); }},
     {"red_tiles", [](const Context& c) { return std::to_string(stateOf(c).redTilesOnBoard); }},
     {"red_tiles_used", [](const Context& c) { return std::to_string(stateOf(c).redTilesUsed); }},
     {"bonus_tiles", [](const Context& c) { return std::to_string(stateOf(c).bonusTilesOnBoard); }},
     {"hints_used", [](const Context& c) { return std::to_string(stateOf(c).hintsUsed); }},
     {"words_made", [](const Context& c) { return std::to_string(stateOf(c).wordsMade); }},
-    {"delay", [](const Context& c) { return std::to_string(c.flow.options().settings.dropDelay); }},
+    {"delay", [](const Context& c) { return std::to_string(c.flow.view().options.settings.dropDelay); }},
     {"hold", [](const Context& c) { return std::string(stateOf(c).redTileHold ? "1" : "0"); }},
 };
 
@@ -116,7 +116,7 @@ Lines printValue(CommandContext& context, const Value* value)
 Lines path(CommandContext& context)
 {
     std::string tiles;
-    for (const int tile : context.flow.selection().tiles())
+    for (const int tile : context.flow.view().selection.tiles())
         tiles += (tiles.empty() ? "" : " ") + std::to_string(tile);
     return {tiles};
 }
@@ -124,14 +124,14 @@ Lines path(CommandContext& context)
 Lines queue(CommandContext& context)
 {
     std::string letters;
-    for (const std::string& letter : context.flow.supply().RandomLetters)
+    for (const std::string& letter : context.flow.view().supply.RandomLetters)
         letters += letter;
     return {letters};
 }
 
 Lines pool(CommandContext& context)
 {
-    const auto& letters = context.flow.dictionary().letters.pool;
+    const auto& letters = context.flow.view().dictionary.letters.pool;
     return {std::string(letters.begin() + 1, letters.end())};
 }
 
@@ -146,7 +146,7 @@ std::string letterNumbers(const std::array<int, 27>& numbers)
 
 Lines letterCounts(CommandContext& context)
 {
-    return {letterNumbers(context.flow.dictionary().letters.letterCounts)};
+    return {letterNumbers(context.flow.view().dictionary.letters.letterCounts)};
 }
 
 Lines wordsMade(CommandContext& context)
@@ -175,7 +175,7 @@ Lines statistics(CommandContext& context)
 /// A digit that shows no figure is "-".
 Lines clockFace(CommandContext& context)
 {
-    const Dc& Dc1 = context.flow.clock();
+    const Dc& Dc1 = context.flow.view().clock;
     const auto digit = [&](int place) {
         const int figure = Dc1.shownDigit(place);
         return figure < 0 ? std::string("-") : std::to_string(figure);

@@ -3,6 +3,7 @@
 #include "game/board.hpp"
 #include "game/game_state.hpp"
 #include "game/selection.hpp"
+#include "settings/sound_cues.hpp"
 
 #include <algorithm>
 
@@ -48,15 +49,15 @@ Click clickArguments(Arguments& arguments)
 
 Lines wordSoFar(const GameFlow& flow)
 {
-    if (flow.selection().isEmpty())
+    if (flow.view().selection.isEmpty())
         return {};
-    return {flow.selection().wordTried() + " " + flow.state().currScoreText()};
+    return {flow.view().selection.wordTried() + " " + flow.view().state.currScoreText()};
 }
 
 Lines clickTile(CommandContext& context, const Click& click)
 {
     GameFlow& flow = context.flow;
-    if (!flow.board().isVisible(click.tile))
+    if (!flow.view().board.isVisible(click.tile))
         throw CommandError("tile " + std::to_string(click.tile) + " is not on the board");
     flow.clickTile(click.tile, click.button, click.shift);
     return wordSoFar(flow);
@@ -79,7 +80,7 @@ Lines typeWord(CommandContext& context, const std::string& word)
 
 Lines drop(CommandContext& context, int col)
 {
-    const bool waits = context.flow.board().waiting(col).Visible();
+    const bool waits = context.flow.view().board.waiting(col).Visible();
     context.flow.drop(col); // also over an empty place: a letter swap refuses it with a sound
     if (!waits)
         throw CommandError("no letter waits over column " + std::to_string(col));
@@ -119,7 +120,7 @@ std::string rowArgument(Arguments& arguments)
 
 Lines showMeaning(CommandContext& context, const std::string& typed)
 {
-    const int rows = context.flow.state().WordsMade.Rows();
+    const int rows = context.flow.view().state.WordsMade.Rows();
     if (rows == 1)
         throw CommandError("no word has been made: " + typed);
     context.flow.pickWord(numberIn("row", typed, 1, rows - 1));
@@ -130,7 +131,7 @@ Lines showMeaning(CommandContext& context, const std::string& typed)
 Lines pressSoundButton(CommandContext& context)
 {
     context.flow.perform(Command::Sound);
-    return {context.flow.soundCaption()};
+    return {context.flow.view().sounds.caption()};
 }
 
 } // namespace

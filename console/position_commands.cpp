@@ -1,5 +1,6 @@
 #include "console/command.hpp"
 #include "game/board.hpp"
+#include "game/game_state.hpp"
 #include "settings/options_form.hpp"
 
 #include <algorithm>
@@ -56,7 +57,7 @@ TileEdit waitingTileEdit(Arguments& arguments)
 
 Lines editTile(CommandContext& context, const TileEdit& edit)
 {
-    if (!context.flow.board().isInPlay(edit.place))
+    if (!context.flow.view().board.isInPlay(edit.place))
         throw CommandError("tile " + std::to_string(edit.place) + " is not in play");
     context.study.editTile(edit.place, edit.letter, edit.maskcolor);
     return {};
@@ -77,9 +78,9 @@ Lines pressPresetBoard(CommandContext& context)
 /// A number of the game that a command may set.
 struct Setting {
     std::string_view name;
-    Study::Number number;
     int lowest;
     int highest;
+    int GameState::*number; ///< null for those that are set otherwise
 };
 
 constexpr int mostPoints = 1'000'000'000; // far from where adding a word's score would overflow
@@ -87,21 +88,20 @@ constexpr int most16 = std::numeric_limits<std::int16_t>::max();
 constexpr int least16 = std::numeric_limits<std::int16_t>::min();
 
 constexpr Setting settings[] = {
-    {"YourScore", Study::Number::YourScore, -mostPoints, mostPoints},
-    {"CompScore", Study::Number::CompScore, -mostPoints, mostPoints},
-    {"TilesLeft", Study::Number::TilesLeft, least16, most16},
-    {"ticks", Study::Number::Ticks, 0, most16},
-    {"hints_used", Study::Number::HintsUsed, 0, most16},
-    {"red_threshold", Study::Number::RedThreshold, least16, most16},
-    {"last_pressure", Study::Number::LastPressure, -mostPoints, mostPoints},
-    {"bonus_tiles", Study::Number::BonusTiles, 0, most16},
-    {"red_tiles_used", Study::Number::RedTilesUsed, 0, most16},
+    {"YourScore", -mostPoints, mostPoints, &GameState::yourScore},
+    {"CompScore", -mostPoints, mostPoints, &GameState::compScore},
+    {"TilesLeft", least16, most16, nullptr},
+    {"ticks", 0, most16, &GameState::tickCount},
+    {"hints_used", 0, most16, &GameState::hintsUsed},
+    {"red_threshold", least16, most16, nullptr},
+    {"last_pressure", -mostPoints, mostPoints, &GameState::lastPressure},
+    {"bonus_tiles", 0, most16, &GameState::bonusTilesOnBoard},
+    {"red_tiles_used", 0, most16, &GameState::redTilesUsed},
 };
 
 struct NewValue {
     const Setting* setting = nullptr;
-    int number = 0;
-    bool none = false; ///< the text "NONE" in place of a number
+    std::optional<int> number; ///< nothing for the text "NONE"
 };
 
 NewValue newValue(Arguments& arguments)
@@ -113,16 +113,18 @@ NewValue newValue(Arguments& arguments)
         throw CommandError("unknown name: " + name);
     const std::string value = arguments.required("value");
     if (name == "TilesLeft" && value == "NONE")
-        return {setting, 0, true};
-    return {setting, numberIn(name, value, setting->lowest, setting->highest), false};
+        return {setting, {}};
+    return {setting, numberIn(name, value, setting->lowest, setting->highest)};
 }
 
 Lines setValue(CommandContext& context, const NewValue& value)
 {
-    if (value.none)
-        context.study.endLetters();
+    if (value.setting->number != nullptr)
+        context.study.set(value.setting->number, *value.number);
+    else if (value.setting->name == "TilesLeft")
+        context.study.setTilesLeft(value.number);
     else
-        context.study.set(value.setting->number, value.number);
+        context.study.setRedThreshold(*value.number);
     return {};
 }
 

@@ -36,7 +36,7 @@ Lines setOptions(CommandContext& context, const std::vector<OptionSetting>& sett
         for (const OptionSetting& setting : settings)
             applyOption(form, setting);
     });
-    return optionLines(context.flow.options(), context.flow.scheme().currentName);
+    return optionLines(context.flow.view().options, context.flow.view().scheme.currentName);
 }
 
 Lines newGame(CommandContext& context)

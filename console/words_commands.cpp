@@ -12,7 +12,7 @@ namespace
 
 Lines wordCount(CommandContext& context)
 {
-    return {std::to_string(context.flow.dictionary().words.count())};
+    return {std::to_string(context.flow.view().dictionary.words.count())};
 }
 
 int entryArgument(Arguments& arguments)
@@ -22,13 +22,13 @@ int entryArgument(Arguments& arguments)
 
 Lines word(CommandContext& context, int entry)
 {
-    return {std::string(context.flow.dictionary().words.entry(entry))};
+    return {std::string(context.flow.view().dictionary.words.entry(entry))};
 }
 
 /// The empty word can be looked for: it is entry 0.
 Lines findWord(CommandContext& context, const std::string& sought)
 {
-    return {std::to_string(context.flow.dictionary().words.findWord(sought))};
+    return {std::to_string(context.flow.view().dictionary.words.findWord(sought))};
 }
 
 Lines traceWord(CommandContext& context, const std::string& sought)
@@ -128,7 +128,7 @@ std::string schemeArgument(Arguments& arguments)
 Lines loadScheme(CommandContext& context, const std::string& name)
 {
     context.study.loadScheme(name);
-    const ColourScheme& scheme = context.flow.scheme();
+    const ColourScheme& scheme = context.flow.view().scheme;
     Lines lines{scheme.currentName};
     for (std::size_t i = 0; i < ColourScheme::fileEntries; ++i)
         lines.push_back(std::to_string(scheme.entry(i)));

@@ -12,6 +12,12 @@ namespace lexigrove
 namespace
 {
 
+GameView viewOf(const GameParts& p)
+{
+    return {p.game.state, p.game.board, p.game.selection, p.game.supply, p.game.dropRow, p.letterSwap,
+            p.hintsForm,  p.options,    p.dictionary,     p.scheme,      p.sounds,       p.Dc1};
+}
+
 void setUpClock(Dc& Dc1)
 {
     Dc1.ClockColor("BLUE");
@@ -45,7 +51,7 @@ void tellWinner(const GameState& state, StatusLine& status)
 } // namespace
 
 GameFlow::GameFlow(const Ports& ports, const std::string& folder, const SystemPalette& desktop)
-    : parts_(std::make_unique<GameParts>(ports, folder))
+    : parts_(std::make_unique<GameParts>(ports, folder)), view_(viewOf(*parts_))
 {
     parts_->scheme.palette = desktop;
 }

@@ -6,7 +6,6 @@
 #include <memory>
 #include <optional>
 #include <string>
-#include <vector>
 
 namespace lexigrove
 {
@@ -15,14 +14,34 @@ class Board;
 class ColourScheme;
 class Dc;
 class Dictionary;
+class DropRow;
+class HintsForm;
 class LetterSupply;
+class LetterSwap;
 class OptionsForm;
 class Selection;
+class SoundCues;
 enum class Arrangement;
 struct GameParts;
 struct GameState;
 struct Ports;
 struct SystemPalette;
+
+/// What a front end shows: the models as they stand.
+struct GameView {
+    const GameState& state;
+    const Board& board;
+    const Selection& selection;
+    const LetterSupply& supply;
+    const DropRow& dropRow;
+    const LetterSwap& letterSwap;
+    const HintsForm& hints;
+    const OptionsForm& options;
+    const Dictionary& dictionary;
+    const ColourScheme& scheme;
+    const SoundCues& sounds;
+    const Dc& clock;
+};
 
 /// The whole game as a front end plays it: the front end pushes inputs and ticks, and afterwards, and at every yield,
 /// shows what the views say.
@@ -73,21 +92,8 @@ public:
 
     // Views
 
-    [[nodiscard]] const GameState& state() const;
-    [[nodiscard]] const Board& board() const;
-    [[nodiscard]] const Selection& selection() const;
-    [[nodiscard]] const LetterSupply& supply() const;
-    [[nodiscard]] const OptionsForm& options() const;
-    [[nodiscard]] const Dictionary& dictionary() const;
-    [[nodiscard]] const ColourScheme& scheme() const;
-    [[nodiscard]] const Dc& clock() const;
-    [[nodiscard]] bool soundIsOn() const;
-    [[nodiscard]] const std::string& soundCaption() const;   ///< of `SoundOnOff`
-    [[nodiscard]] const std::string& caption() const;        ///< the main window's
-    [[nodiscard]] std::string pauseCaption() const;          ///< "Paused" or empty, as it blinks
-    [[nodiscard]] int swapTile() const;                      ///< the tile that waits for a letter swap, 0 for none
-    [[nodiscard]] int guideColumn() const;                   ///< the column over which a drop is under way, 0 for none
-    [[nodiscard]] const std::vector<int>& shownHint() const; ///< the tiles of the hint that is shown on the board
+    [[nodiscard]] const GameView& view() const { return view_; }
+    [[nodiscard]] std::string pauseCaption() const; ///< "Paused" or empty, as it blinks
 
 private:
     friend class Study;
@@ -114,6 +120,7 @@ private:
     [[noreturn]] void leave();
 
     const std::unique_ptr<GameParts> parts_;
+    const GameView view_;
     bool busy_ = false;
     bool ended_ = false;
     bool inGame_ = false;

@@ -274,81 +274,9 @@ void GameFlow::clockGotFocus()
         input(When::Always, [this](GameParts& /*parts*/) { clockExpired(); });
 }
 
-// ---- The views
-
-const GameState& GameFlow::state() const
-{
-    return parts_->game.state;
-}
-
-const Board& GameFlow::board() const
-{
-    return parts_->game.board;
-}
-
-const Selection& GameFlow::selection() const
-{
-    return parts_->game.selection;
-}
-
-const LetterSupply& GameFlow::supply() const
-{
-    return parts_->game.supply;
-}
-
-const OptionsForm& GameFlow::options() const
-{
-    return parts_->options;
-}
-
-const Dictionary& GameFlow::dictionary() const
-{
-    return parts_->dictionary;
-}
-
-const ColourScheme& GameFlow::scheme() const
-{
-    return parts_->scheme;
-}
-
-const Dc& GameFlow::clock() const
-{
-    return parts_->Dc1;
-}
-
-bool GameFlow::soundIsOn() const
-{
-    return parts_->sounds.isOn();
-}
-
-const std::string& GameFlow::soundCaption() const
-{
-    return parts_->sounds.SoundOnOff.Caption;
-}
-
-const std::string& GameFlow::caption() const
-{
-    return parts_->dictionary.caption();
-}
-
 std::string GameFlow::pauseCaption() const
 {
     return paused_ && pauseCaptionShown_ ? "Paused" : "";
-}
-
-int GameFlow::swapTile() const
-{
-    return parts_->letterSwap.tile();
-}
-
-int GameFlow::guideColumn() const
-{
-    return parts_->game.dropRow.guideColumn();
-}
-
-const std::vector<int>& GameFlow::shownHint() const
-{
-    return parts_->hintsForm.shownPath();
 }
 
 } // namespace lexigrove

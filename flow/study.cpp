@@ -57,47 +57,22 @@ void Study::editWaiting(int col, const std::string& letter)
     });
 }
 
-void Study::set(Number number, int value)
+void Study::set(int GameState::*number, int value)
 {
-    flow_.input(When::InGame, [=](GameParts& p) {
-        GameState& state = p.game.state;
-        const auto counter = static_cast<std::int16_t>(value);
-        switch (number) {
-        case Number::YourScore:
-            state.yourScore = value;
-            break;
-        case Number::CompScore:
-            state.compScore = value;
-            break;
-        case Number::TilesLeft:
-            state.letterDraw = LetterDraw::Going;
-            state.tilesLeft = value;
-            break;
-        case Number::Ticks:
-            state.tickCount = counter;
-            break;
-        case Number::HintsUsed:
-            state.hintsUsed = counter;
-            break;
-        case Number::RedThreshold:
-            p.dictionary.setRedThreshold(value);
-            break;
-        case Number::LastPressure:
-            state.lastPressure = value;
-            break;
-        case Number::BonusTiles:
-            state.bonusTilesOnBoard = counter;
-            break;
-        case Number::RedTilesUsed:
-            state.redTilesUsed = counter;
-            break;
-        }
-    });
+    flow_.input(When::InGame, [=](GameParts& p) { p.game.state.*number = value; });
 }
 
-void Study::endLetters()
+void Study::setRedThreshold(int threshold)
 {
-    flow_.input(When::InGame, [](GameParts& p) { p.game.state.letterDraw = LetterDraw::Ended; });
+    flow_.input(When::InGame, [=](GameParts& p) { p.dictionary.setRedThreshold(threshold); });
+}
+
+void Study::setTilesLeft(std::optional<int> count)
+{
+    flow_.input(When::InGame, [=](GameParts& p) {
+        p.game.state.letterDraw = count ? LetterDraw::Going : LetterDraw::Ended;
+        p.game.state.tilesLeft = count.value_or(p.game.state.tilesLeft);
+    });
 }
 
 void Study::chooseOptions(const std::function<void(OptionsForm&)>& choose)

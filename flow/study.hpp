@@ -30,22 +30,11 @@ public:
     /// The same for the waiting tile over a column.
     void editWaiting(int col, const std::string& letter);
 
-    /// The numbers of a game that can be set.
-    enum class Number {
-        YourScore,
-        CompScore,
-        TilesLeft,
-        Ticks,
-        HintsUsed,
-        RedThreshold,
-        LastPressure,
-        BonusTiles,
-        RedTilesUsed,
-    };
-    /// The caller keeps to the number's type: 16 bits for the counters.
-    void set(Number number, int value);
-    /// No more letters come from the queue: `TilesLeft` shows "NONE".
-    void endLetters();
+    /// Sets a number of the game. The caller keeps to its bounds: 16 bits for the counters.
+    void set(int GameState::*number, int value);
+    void setRedThreshold(int threshold);
+    /// The number that `TilesLeft` shows, or none for "NONE": no more letters come from the queue.
+    void setTilesLeft(std::optional<int> count);
 
     /// Makes choices in the options dialog while it is not shown.
     void chooseOptions(const std::function<void(OptionsForm&)>& choose);

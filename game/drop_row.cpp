@@ -1,5 +1,7 @@
 #include "game/drop_row.hpp"
 
+#include "game/game.hpp"
+
 namespace lexigrove
 {
 
@@ -23,25 +25,25 @@ private:
 
 void DropRow::dropIntoColumn(int col)
 {
-    if (board_.tile(1, col).Visible()) {
-        sounds_.play(cue::error);
+    if (game_.board.tile(1, col).Visible()) {
+        game_.sounds.play(cue::error);
         return;
     }
     const GuideLine guide(guideColumn_, col);
-    const int empty = board_.emptyCells(col);
+    const int empty = game_.board.emptyCells(col);
     const std::vector<int> collected = collect(col, empty);
-    const int left = board_.waiting(col).Left();
+    const int left = game_.board.waiting(col).Left();
 
     // From the lowest empty cell upward; the next waiting tile slides over the column as soon as the one before has
     // landed.
     int row = empty;
     for (std::size_t i = 0; i < collected.size() && row >= 1; ++i, --row) {
-        BoxControl& waiting = board_.waiting(collected[i]);
+        BoxControl& waiting = game_.board.waiting(collected[i]);
         land(waiting, row, col);
         if (i + 1 < collected.size())
-            slideWaitingTileOver(board_.waiting(collected[i + 1]), left);
+            slideWaitingTileOver(game_.board.waiting(collected[i + 1]), left);
     }
-    supply_.refillTopRow();
+    game_.supply.refillTopRow();
 }
 
 /// The waiting tiles that drop, in their order: at most `wanted`, a contiguous run of the drop row.
@@ -49,7 +51,7 @@ std::vector<int> DropRow::collect(int col, int wanted) const
 {
     std::vector<int> collected{col};
     const auto take = [&](int j) {
-        if (static_cast<int>(collected.size()) >= wanted || !board_.waiting(j).Visible())
+        if (static_cast<int>(collected.size()) >= wanted || !game_.board.waiting(j).Visible())
             return false;
         collected.push_back(j);
         return true;
@@ -63,14 +65,14 @@ std::vector<int> DropRow::collect(int col, int wanted) const
 
 void DropRow::land(BoxControl& waiting, int row, int col)
 {
-    BoxControl& target = board_.tile(row, col);
-    animateWaitingTileDown(waiting, board_.cellTop(row, col));
-    sounds_.play(cue::swap);
+    BoxControl& target = game_.board.tile(row, col);
+    animateWaitingTileDown(waiting, game_.board.cellTop(row, col));
+    game_.sounds.play(cue::swap);
     target.Caption(waiting.Caption());
-    target.Move(Board::columnLeft(col), board_.cellTop(row, col), layout::cellSize, layout::cellSize);
+    target.Move(Board::columnLeft(col), game_.board.cellTop(row, col), layout::cellSize, layout::cellSize);
     target.Tag("");
     target.MaskColor(multiplier::plain);
-    look_.showNormal(target);
+    game_.look.showNormal(target);
     target.Visible(true);
     waiting.Visible(false);
 }
@@ -82,7 +84,7 @@ void DropRow::animateWaitingTileDown(BoxControl& waiting, int top)
     const int steps = 8 + (top - start) / layout::cellSize;
     for (int i = 1; i <= steps; ++i) {
         waiting.Top(start + (top - start) * i * i / (steps * steps));
-        screen_.animationStep(options_.settings.dropDelay);
+        game_.ports.screen.animationStep(game_.options.settings.dropDelay);
     }
 }
 
@@ -92,7 +94,7 @@ void DropRow::slideWaitingTileOver(BoxControl& waiting, int left)
     const int start = waiting.Left();
     for (int i = 1; i <= steps; ++i) {
         waiting.Left(start + (left - start) * i / steps);
-        screen_.animationStep(options_.settings.dropDelay);
+        game_.ports.screen.animationStep(game_.options.settings.dropDelay);
     }
 }
 

@@ -1,26 +1,19 @@
 #pragma once
 
-#include "game/board.hpp"
-#include "game/letter_supply.hpp"
-#include "game/tile_look.hpp"
-#include "platform/screen.hpp"
-#include "settings/options_form.hpp"
-#include "settings/sound_cues.hpp"
+#include "controls/box_control.hpp"
 
 #include <vector>
 
 namespace lexigrove
 {
 
+struct Game;
+
 /// Drops waiting letters from `TopDrop` into the empty top cells of a column.
 class DropRow
 {
 public:
-    DropRow(Board& board, LetterSupply& supply, const TileLook& look, SoundCues& sounds, Screen& screen,
-            const OptionsForm& options)
-        : board_(board), supply_(supply), look_(look), sounds_(sounds), screen_(screen), options_(options)
-    {
-    }
+    explicit DropRow(Game& game) : game_(game) {}
 
     /// A mouse button released over the waiting tile of column 1 to 8, which is visible. Its letter lands lowest; the
     /// waiting tiles beside it follow while the column has room, first those on the left, then those on the right, up
@@ -36,12 +29,7 @@ private:
     void slideWaitingTileOver(BoxControl& waiting, int left);
     void land(BoxControl& waiting, int row, int col);
 
-    Board& board_;
-    LetterSupply& supply_;
-    const TileLook& look_;
-    SoundCues& sounds_;
-    Screen& screen_;
-    const OptionsForm& options_;
+    Game& game_;
     int guideColumn_ = 0;
 };
 

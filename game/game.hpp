@@ -37,12 +37,12 @@ struct Game {
     GameState state;
     Board board;
     TileLook look{scheme};
-    LetterSupply supply{state, board, dictionary.letters, options.settings, ports.random, ports.clock};
-    Selection selection{state, board, look, sounds};
-    TileRemoval removal{board, selection, look, sounds, ports.screen, options};
-    DropRow dropRow{board, supply, look, sounds, ports.screen, options};
-    WordEntry wordEntry{state, board, selection, removal, look, dictionary, sounds, ports};
-    RedTiles redTiles{state, board, selection, removal, dropRow, look, dictionary, ports};
+    LetterSupply supply{*this};
+    Selection selection{*this};
+    TileRemoval removal{*this};
+    DropRow dropRow{*this};
+    WordEntry wordEntry{*this};
+    RedTiles redTiles{*this};
 
     /// Gives every tile the look of its multiplier, or of the path where it is part of it, in the current scheme.
     void refreshLooks();

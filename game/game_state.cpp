@@ -1,5 +1,6 @@
 #include "game/game_state.hpp"
 
+#include <cstdint>
 #include <limits>
 
 namespace lexigrove
@@ -45,7 +46,7 @@ std::string GameState::currScoreText() const
     return currScore ? std::to_string(currScore->score) : "";
 }
 
-void countUp(std::int16_t& counter)
+void countUp(int& counter)
 {
     if (counter < std::numeric_limits<std::int16_t>::max())
         ++counter;

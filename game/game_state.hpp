@@ -4,7 +4,6 @@
 #include "game/word_score.hpp"
 #include "scores/statistics.hpp"
 
-#include <cstdint>
 #include <optional>
 #include <string>
 
@@ -33,16 +32,16 @@ struct GameState {
     bool redTileHold = false;            ///< stops both pressure timers
     bool computerTurnInProgress = false; ///< set for the whole of the computer's turn
 
-    // Counted per game
+    // Counted per game, in 16 bits
     Statistics statistics; ///< also the word-length counts
-    std::int16_t bonusTilesOnBoard = 0;
-    std::int16_t redTilesOnBoard = 0;
-    std::int16_t redTilesUsed = 0;
-    std::int16_t wordsMade = 0;
-    std::int16_t hintsUsed = 0;
-    std::int16_t tickCount = 0;
-    std::int32_t pressure = 0; ///< as the last red tick computed it
-    std::int32_t lastPressure = 0;
+    int bonusTilesOnBoard = 0;
+    int redTilesOnBoard = 0;
+    int redTilesUsed = 0;
+    int wordsMade = 0;
+    int hintsUsed = 0;
+    int tickCount = 0;
+    int pressure = 0; ///< as the last red tick computed it
+    int lastPressure = 0;
 
     /// Back to the start of a game. Developer mode, the kind of game, the hold and the sort mark of the words stay.
     void resetForNewGame();
@@ -55,7 +54,7 @@ struct GameState {
     [[nodiscard]] bool showsEnterWord() const { return prompt != Prompt::ComputerMove; }
 };
 
-/// 16-bit counters that count time stop at their highest value rather than wrap.
-void countUp(std::int16_t& counter);
+/// Counts one more. A counter has 16 bits and stops at its highest value.
+void countUp(int& counter);
 
 } // namespace lexigrove

@@ -1,5 +1,7 @@
 #include "game/letter_supply.hpp"
 
+#include "game/game.hpp"
+
 #include <utility>
 
 namespace lexigrove
@@ -27,8 +29,8 @@ std::string presetLetter(const std::string& preset, int place)
 void LetterSupply::shufflePool()
 {
     for (std::size_t i = 1; i <= poolSize; ++i) {
-        const int j = placeFromDraw(random_.reseedAndDraw(clock_), poolSize);
-        std::swap(letters_.pool[i], letters_.pool[static_cast<std::size_t>(j)]);
+        const int j = placeFromDraw(game_.ports.random.reseedAndDraw(game_.ports.clock), poolSize);
+        std::swap(game_.dictionary.letters.pool[i], game_.dictionary.letters.pool[static_cast<std::size_t>(j)]);
     }
 }
 
@@ -37,32 +39,32 @@ void LetterSupply::dealLetters()
     shufflePool();
     RandomLetters.clear();
     for (std::size_t i = Board::tileCount + 1; i <= poolSize; ++i)
-        RandomLetters.push_back(letterText(letters_.pool[i]));
+        RandomLetters.push_back(letterText(game_.dictionary.letters.pool[i]));
     for (int tile = 1; tile <= Board::tileCount; ++tile) {
-        board_.tile(tile).Caption(letterText(letters_.pool[static_cast<std::size_t>(tile)]));
-        board_.tile(tile).MaskColor(multiplier::plain);
-        board_.tile(tile).Tag("");
+        game_.board.tile(tile).Caption(letterText(game_.dictionary.letters.pool[static_cast<std::size_t>(tile)]));
+        game_.board.tile(tile).MaskColor(multiplier::plain);
+        game_.board.tile(tile).Tag("");
     }
-    const bool staggered = board_.arrangement() == Arrangement::Staggered;
+    const bool staggered = game_.board.arrangement() == Arrangement::Staggered;
     if (staggered) {
         for (const int hidden : {8, 24, 40, 56})
-            RandomLetters.push_back(board_.letter(hidden));
+            RandomLetters.push_back(game_.board.letter(hidden));
     }
 
-    if (const std::string& preset = settings_.presetLetters.letters(); !preset.empty()) {
+    if (const std::string& preset = game_.options.settings.presetLetters.letters(); !preset.empty()) {
         for (int tile = 1; tile <= Board::tileCount; ++tile)
-            board_.tile(tile).Caption(presetLetter(preset, tile));
+            game_.board.tile(tile).Caption(presetLetter(preset, tile));
         RandomLetters.clear();
         for (int place = Board::tileCount + 1; place <= poolSize; ++place)
             RandomLetters.push_back(presetLetter(preset, place));
-        settings_.presetLetters.dealt();
+        game_.options.settings.presetLetters.dealt();
     }
 
     fillTopRow();
-    state_.letterDraw = LetterDraw::Going;
-    state_.tilesLeft = staggered ? 32 : 24;
-    state_.bonusTilesOnBoard = 0;
-    state_.redTilesOnBoard = 0;
+    game_.state.letterDraw = LetterDraw::Going;
+    game_.state.tilesLeft = staggered ? 32 : 24;
+    game_.state.bonusTilesOnBoard = 0;
+    game_.state.redTilesOnBoard = 0;
 }
 
 /// Reading place k while the first entry goes, place after place, shows every second letter of the first sixteen: the
@@ -90,35 +92,35 @@ void LetterSupply::refillTopRow()
 {
     std::string pattern = "????????";
     for (int k = 1; k <= Board::columns; ++k) {
-        const BoxControl& waiting = board_.waiting(k);
+        const BoxControl& waiting = game_.board.waiting(k);
         if (waiting.Visible()) {
             const int column = (waiting.Left() - 30) / layout::cellSize + 1;
             pattern[static_cast<std::size_t>(column - 1)] = waiting.Caption().empty() ? ' ' : waiting.Caption().front();
         }
     }
 
-    if (state_.letterDraw != LetterDraw::Ended) {
+    if (game_.state.letterDraw != LetterDraw::Ended) {
         for (int k = 1; k <= Board::columns; ++k) {
             if (pattern[static_cast<std::size_t>(k - 1)] != '?')
                 continue;
             const std::string letter = nextLetter();
             if (letter.empty())
                 break;
-            --state_.tilesLeft;
+            --game_.state.tilesLeft;
             waitAtHome(k, letter);
         }
     }
 
-    if (RandomLetters.size() < 8 && state_.computerGame) {
+    if (RandomLetters.size() < 8 && game_.state.computerGame) {
         shufflePool();
         for (std::size_t i = 1; i <= poolSize; ++i)
-            RandomLetters.push_back(letterText(letters_.pool[i]));
+            RandomLetters.push_back(letterText(game_.dictionary.letters.pool[i]));
     }
 }
 
 void LetterSupply::waitAtHome(int col, const std::string& letter)
 {
-    BoxControl& waiting = board_.waiting(col);
+    BoxControl& waiting = game_.board.waiting(col);
     waiting.Caption(letter);
     waiting.Left(Board::columnLeft(col));
     waiting.Top(layout::dropRowTop);

@@ -1,27 +1,18 @@
 #pragma once
 
-#include "dictionary/letter_tables.hpp"
-#include "game/board.hpp"
-#include "game/game_state.hpp"
-#include "platform/clock.hpp"
-#include "platform/random.hpp"
-#include "settings/game_settings.hpp"
-
 #include <deque>
 #include <string>
 
 namespace lexigrove
 {
 
+struct Game;
+
 /// Where the letters come from: the pool of 100, the queue of upcoming letters and the drop row `TopDrop`.
 class LetterSupply
 {
 public:
-    LetterSupply(GameState& state, Board& board, LetterTables& letters, GameSettings& settings, Random& random,
-                 const Clock& clock)
-        : state_(state), board_(board), letters_(letters), settings_(settings), random_(random), clock_(clock)
-    {
-    }
+    explicit LetterSupply(Game& game) : game_(game) {}
 
     /// Shuffles the pool in place: each of the 100 entries in turn changes places with any entry.
     void shufflePool();
@@ -47,12 +38,7 @@ public:
 private:
     void fillTopRow();
 
-    GameState& state_;
-    Board& board_;
-    LetterTables& letters_;
-    GameSettings& settings_;
-    Random& random_;
-    const Clock& clock_;
+    Game& game_;
 };
 
 } // namespace lexigrove

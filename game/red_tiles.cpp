@@ -1,5 +1,7 @@
 #include "game/red_tiles.hpp"
 
+#include "game/game.hpp"
+
 #include <algorithm>
 #include <vector>
 
@@ -8,33 +10,33 @@ namespace lexigrove
 
 void RedTiles::redTimerTick()
 {
-    if (state_.redTileHold || state_.computerGame)
+    if (game_.state.redTileHold || game_.state.computerGame)
         return;
-    ports_.screen.yield();
-    countUp(state_.tickCount);
-    state_.pressure = pressure();
-    if (state_.pressure - state_.lastPressure >= dictionary_.redThreshold()) {
+    game_.ports.screen.yield();
+    countUp(game_.state.tickCount);
+    game_.state.pressure = pressure();
+    if (game_.state.pressure - game_.state.lastPressure >= game_.dictionary.redThreshold()) {
         makeRedTile();
-        state_.lastPressure = state_.pressure;
+        game_.state.lastPressure = game_.state.pressure;
     }
 }
 
-std::int32_t RedTiles::pressure() const
+int RedTiles::pressure() const
 {
-    const auto made = [this](int entry) { return state_.statistics.number(Statistics::playerBase + entry); };
-    return 3 * made(1) + 2 * made(2) + made(3) - made(5) + 2 * state_.hintsUsed + 2 * state_.redTilesUsed +
-           state_.tickCount;
+    const auto made = [this](int entry) { return game_.state.statistics.number(Statistics::playerBase + entry); };
+    return 3 * made(1) + 2 * made(2) + made(3) - made(5) + 2 * game_.state.hintsUsed + 2 * game_.state.redTilesUsed +
+           game_.state.tickCount;
 }
 
 void RedTiles::makeRedTile()
 {
-    if (state_.redTilesOnBoard >= mostRedTiles)
+    if (game_.state.redTilesOnBoard >= mostRedTiles)
         return;
     std::vector<int> candidates; // at most one a column: red tiles are born as high as a plain tile stands
     for (int col = 1; col <= Board::columns; ++col) {
-        for (int row = 1; row <= board_.columnHeight(col); ++row) {
-            const int tile = board_.Grid(row, col);
-            if (board_.isVisible(tile) && board_.maskcolor(tile) == multiplier::plain) {
+        for (int row = 1; row <= game_.board.columnHeight(col); ++row) {
+            const int tile = game_.board.Grid(row, col);
+            if (game_.board.isVisible(tile) && game_.board.maskcolor(tile) == multiplier::plain) {
                 candidates.push_back(tile);
                 break;
             }
@@ -42,52 +44,53 @@ void RedTiles::makeRedTile()
     }
     if (candidates.empty())
         return;
-    const int k = placeFromDraw(ports_.random.reseedAndDraw(ports_.clock), static_cast<int>(candidates.size()));
-    BoxControl& tile = board_.tile(candidates[static_cast<std::size_t>(k - 1)]);
-    ++state_.redTilesOnBoard;
+    const int k =
+        placeFromDraw(game_.ports.random.reseedAndDraw(game_.ports.clock), static_cast<int>(candidates.size()));
+    BoxControl& tile = game_.board.tile(candidates[static_cast<std::size_t>(k - 1)]);
+    ++game_.state.redTilesOnBoard;
     tile.MaskColor(multiplier::red);
     if (tile.Tag() == "X")
-        look_.showSelected(tile);
+        game_.look.showSelected(tile);
     else
-        look_.showNormal(tile);
-    dictionary_.setRedThreshold(dictionary_.redThreshold() - 1);
+        game_.look.showNormal(tile);
+    game_.dictionary.setRedThreshold(game_.dictionary.redThreshold() - 1);
 }
 
 RedTiles::PushResult RedTiles::pushTimerTick()
 {
-    if (state_.redTileHold || state_.computerGame)
+    if (game_.state.redTileHold || game_.state.computerGame)
         return {};
     std::vector<int> special; // each special tile is one entry of the draw
     for (int tile = 1; tile <= Board::tileCount; ++tile) {
-        if (board_.isVisible(tile) && board_.maskcolor(tile) > multiplier::plain)
+        if (game_.board.isVisible(tile) && game_.board.maskcolor(tile) > multiplier::plain)
             special.push_back(tile);
     }
     if (special.empty())
         return {};
-    const int k = placeFromDraw(ports_.random.reseedAndDraw(ports_.clock), static_cast<int>(special.size()));
-    const int col = board_.col(special[static_cast<std::size_t>(k - 1)]);
-    const int bottom = board_.Grid(board_.columnHeight(col), col);
-    if (board_.isVisible(bottom) && board_.maskcolor(bottom) == multiplier::red)
+    const int k = placeFromDraw(game_.ports.random.reseedAndDraw(game_.ports.clock), static_cast<int>(special.size()));
+    const int col = game_.board.col(special[static_cast<std::size_t>(k - 1)]);
+    const int bottom = game_.board.Grid(game_.board.columnHeight(col), col);
+    if (game_.board.isVisible(bottom) && game_.board.maskcolor(bottom) == multiplier::red)
         return {Push::Lost, col};
 
-    if (board_.isVisible(bottom) && multiplier::isBonus(board_.maskcolor(bottom)))
-        state_.bonusTilesOnBoard = static_cast<std::int16_t>(std::max(0, state_.bonusTilesOnBoard - 1));
+    if (game_.board.isVisible(bottom) && multiplier::isBonus(game_.board.maskcolor(bottom)))
+        game_.state.bonusTilesOnBoard = std::max(0, game_.state.bonusTilesOnBoard - 1);
     pushColumn(col);
-    if (board_.waiting(col).Visible())
-        dropRow_.dropIntoColumn(col);
+    if (game_.board.waiting(col).Visible())
+        game_.dropRow.dropIntoColumn(col);
     return {Push::Pushed, col};
 }
 
 void RedTiles::pushOutRedTile(int col)
 {
-    --state_.redTilesOnBoard;
+    --game_.state.redTilesOnBoard;
     pushColumn(col);
 }
 
 void RedTiles::pushColumn(int col)
 {
-    selection_.clear();
-    removal_.moveColumnDown(board_.columnHeight(col), col);
+    game_.selection.clear();
+    game_.removal.moveColumnDown(game_.board.columnHeight(col), col);
 }
 
 } // namespace lexigrove

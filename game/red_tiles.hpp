@@ -1,18 +1,11 @@
 #pragma once
 
-#include "dictionary/dictionary.hpp"
-#include "game/board.hpp"
-#include "game/drop_row.hpp"
-#include "game/game_state.hpp"
-#include "game/selection.hpp"
-#include "game/tile_look.hpp"
-#include "game/tile_removal.hpp"
-#include "platform/ports.hpp"
-
 #include <cstdint>
 
 namespace lexigrove
 {
+
+struct Game;
 
 /// The pressure of the solo game: red tiles at the tops of columns, and columns that are pushed down. Both do nothing
 /// in a game against the computer and under the hold flag.
@@ -21,25 +14,14 @@ class RedTiles
 public:
     static constexpr int mostRedTiles = 4;
 
-    RedTiles(GameState& state, Board& board, Selection& selection, TileRemoval& removal, DropRow& dropRow,
-             const TileLook& look, Dictionary& dictionary, const Ports& ports)
-        : state_(state),
-          board_(board),
-          selection_(selection),
-          removal_(removal),
-          dropRow_(dropRow),
-          look_(look),
-          dictionary_(dictionary),
-          ports_(ports)
-    {
-    }
+    explicit RedTiles(Game& game) : game_(game) {}
 
     /// A tick of `UpdateRedTriggerTimer`: counts, computes the pressure, and makes a red tile when it has risen by the
     /// red threshold since the last one.
     void redTimerTick();
 
     /// How far the game has come: words, weighted by their lengths, hints, red tiles used, and time.
-    [[nodiscard]] std::int32_t pressure() const;
+    [[nodiscard]] int pressure() const;
 
     /// Turns the topmost plain tile of a column, drawn at random, red. Nothing happens with four red tiles on the board
     /// or without a plain tile. The next one needs a little less pressure.
@@ -66,14 +48,7 @@ public:
 private:
     void pushColumn(int col);
 
-    GameState& state_;
-    Board& board_;
-    Selection& selection_;
-    TileRemoval& removal_;
-    DropRow& dropRow_;
-    const TileLook& look_;
-    Dictionary& dictionary_;
-    const Ports& ports_;
+    Game& game_;
 };
 
 } // namespace lexigrove

@@ -1,6 +1,7 @@
 #include "game/selection.hpp"
 
 #include "dictionary/letter_tables.hpp"
+#include "game/game.hpp"
 
 #include <numeric>
 
@@ -12,20 +13,20 @@ void Selection::tileClicked(int tile, MouseButton button)
     if (tile == lastTile()) {
         removeLast();
     } else {
-        const bool inPath = board_.tile(tile).Tag() == "X";
-        if (inPath || (!isEmpty() && !board_.neighbours(lastTile()).contains(tile)))
+        const bool inPath = game_.board.tile(tile).Tag() == "X";
+        if (inPath || (!isEmpty() && !game_.board.neighbours(lastTile()).contains(tile)))
             clearPath(); // a used tile, or one that does not touch, starts afresh
         append(tile);
     }
-    sounds_.play(cue::tile);
+    game_.sounds.play(cue::tile);
     updateWordDisplay(button);
 }
 
 void Selection::clear()
 {
     clearPath();
-    state_.prompt = Prompt::None;
-    state_.currScore.reset();
+    game_.state.prompt = Prompt::None;
+    game_.state.currScore.reset();
     entryPending = false;
 }
 
@@ -38,24 +39,24 @@ void Selection::clearPath()
 void Selection::append(int tile)
 {
     tiles_.push_back(tile);
-    letters_.push_back(board_.letter(tile));
-    board_.tile(tile).Tag("X");
-    look_.showSelected(board_.tile(tile));
+    letters_.push_back(game_.board.letter(tile));
+    game_.board.tile(tile).Tag("X");
+    game_.look.showSelected(game_.board.tile(tile));
 }
 
 void Selection::removeLast()
 {
-    BoxControl& tile = board_.tile(lastTile());
+    BoxControl& tile = game_.board.tile(lastTile());
     tiles_.pop_back();
     letters_.pop_back();
     tile.Tag("");
-    look_.showNormal(tile);
+    game_.look.showNormal(tile);
 }
 
 void Selection::updateWordDisplay(MouseButton button)
 {
-    state_.prompt = Prompt::None;
-    state_.currScore = wordScore(*this, board_);
+    game_.state.prompt = Prompt::None;
+    game_.state.currScore = wordScore(*this, game_.board);
     entryPending = button == MouseButton::Right;
 }
 
@@ -66,7 +67,7 @@ std::string Selection::word() const
 
 std::string Selection::wordTried() const
 {
-    switch (state_.prompt) {
+    switch (game_.state.prompt) {
     case Prompt::YourMove:
         return "Your move";
     case Prompt::ComputerMove:

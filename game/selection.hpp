@@ -1,12 +1,7 @@
 #pragma once
 
 #include "controls/mouse_button.hpp"
-#include "game/board.hpp"
-#include "game/game_state.hpp"
-#include "game/tile_look.hpp"
 #include "game/word_score.hpp"
-#include "platform/screen.hpp"
-#include "settings/sound_cues.hpp"
 
 #include <string>
 #include <vector>
@@ -14,15 +9,15 @@
 namespace lexigrove
 {
 
+class Board;
+struct Game;
+
 /// The word path: the chain of touching tiles that is being built, in click order. The computer's turn and a taken hint
 /// play through the same path.
 class Selection
 {
 public:
-    Selection(GameState& state, Board& board, const TileLook& look, SoundCues& sounds)
-        : state_(state), board_(board), look_(look), sounds_(sounds)
-    {
-    }
+    explicit Selection(Game& game) : game_(game) {}
 
     /// A mouse button released over a visible tile, without the shift key and not the second right click: extends,
     /// shortens or restarts the path.
@@ -54,10 +49,7 @@ private:
     void updateWordDisplay(MouseButton button);
     void removeLast();
 
-    GameState& state_;
-    Board& board_;
-    const TileLook& look_;
-    SoundCues& sounds_;
+    Game& game_;
     std::vector<int> tiles_;
     std::vector<std::string> letters_;
 };

@@ -1,6 +1,7 @@
 #include "game/tile_removal.hpp"
 
 #include "controls/geometry.hpp"
+#include "game/game.hpp"
 
 #include <algorithm>
 #include <vector>
@@ -10,49 +11,49 @@ namespace lexigrove
 
 void TileRemoval::removePathTiles()
 {
-    std::vector<int> list = selection_.tiles(); // `List1`
+    std::vector<int> list = game_.selection.tiles(); // `List1`
     std::sort(list.begin(), list.end());
 
     // From the top down within a column: a column move leaves the cells below it as they are, so that a lower tile of
     // the path still holds its own letter when its turn comes.
     for (const int tile : list) {
         if (Board::row(tile) == 1)
-            emptyCell(board_.tile(tile));
+            emptyCell(game_.board.tile(tile));
         else
             moveColumnDown(Board::row(tile), Board::col(tile));
-        sounds_.play(cue::removal);
+        game_.sounds.play(cue::removal);
     }
 }
 
 void TileRemoval::moveColumnDown(int row, int col)
 {
-    BoxControl& removed = board_.tile(row, col);
+    BoxControl& removed = game_.board.tile(row, col);
     removed.MaskColor(multiplier::plain);
-    look_.showNormal(removed);
+    game_.look.showNormal(removed);
 
     int empty = 0;
     for (int r = 1; r <= row; ++r) {
-        BoxControl& tile = board_.tile(r, col);
+        BoxControl& tile = game_.board.tile(r, col);
         empty += tile.Visible() ? 0 : 1;
         tile.Visible(false);
     }
     const int first = empty + 1; // the row just below the empty top cells
 
     const bool lettersAbove = row - 1 - empty >= 1;
-    if (lettersAbove && options_.animates())
+    if (lettersAbove && game_.options.animates())
         animateColumn(first, row, col);
 
-    const BoardLock lock(screen_);
+    const BoardLock lock(game_.ports.screen);
     for (int r = row; r > first; --r) {
-        BoxControl& destination = board_.tile(r, col);
-        const BoxControl& source = board_.tile(r - 1, col);
+        BoxControl& destination = game_.board.tile(r, col);
+        const BoxControl& source = game_.board.tile(r - 1, col);
         destination.Tag("");
         destination.Caption(source.Caption());
         destination.MaskColor(source.MaskColor());
-        look_.showNormal(destination);
+        game_.look.showNormal(destination);
         destination.Visible(true);
     }
-    emptyCell(board_.tile(std::min(first, row), col));
+    emptyCell(game_.board.tile(std::min(first, row), col));
 }
 
 /// Shows the letters of the rows from `firstRow` to the one above `row` sliding down by one cell.
@@ -62,25 +63,25 @@ void TileRemoval::animateColumn(int firstRow, int row, int col)
     constexpr int step = 2;
     constexpr int cellHeight = layout::cellSize / unitsPerPixel;
 
-    SlidingPanel& panel = board_.Picture2;
+    SlidingPanel& panel = game_.board.Picture2;
     const int count = row - firstRow;
     for (int j = 0; j < static_cast<int>(panel.DummyTile.size()); ++j) {
         BoxControl& dummy = panel.DummyTile[static_cast<std::size_t>(j)];
         dummy.Visible(j < count);
         if (j < count) {
-            const BoxControl& tile = board_.tile(firstRow + j, col);
+            const BoxControl& tile = game_.board.tile(firstRow + j, col);
             dummy.Caption(tile.Caption());
             dummy.MaskColor(tile.MaskColor());
-            look_.showNormal(dummy);
+            game_.look.showNormal(dummy);
         }
     }
-    panel.Left = board_.tile(row, col).Left();
-    panel.Top = board_.cellTop(firstRow, col);
+    panel.Left = game_.board.tile(row, col).Left();
+    panel.Top = game_.board.cellTop(firstRow, col);
     panel.Height = count * layout::cellSize;
     panel.Visible = true;
     for (int k = 0; k <= cellHeight; k += step) {
         panel.Top += step * unitsPerPixel;
-        screen_.animationStep(options_.settings.dropDelay);
+        game_.ports.screen.animationStep(game_.options.settings.dropDelay);
     }
     panel.Visible = false;
 }
@@ -89,7 +90,7 @@ void TileRemoval::emptyCell(BoxControl& tile)
 {
     tile.Visible(false);
     tile.MaskColor(multiplier::plain);
-    look_.showNormal(tile);
+    game_.look.showNormal(tile);
 }
 
 } // namespace lexigrove

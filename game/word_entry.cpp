@@ -1,5 +1,7 @@
 #include "game/word_entry.hpp"
 
+#include "game/game.hpp"
+
 #include <algorithm>
 
 namespace lexigrove
@@ -7,58 +9,58 @@ namespace lexigrove
 
 EnterResult WordEntry::enterWord()
 {
-    const std::string word = selection_.word();
-    if (state_.computerGame && word.empty())
+    const std::string word = game_.selection.word();
+    if (game_.state.computerGame && word.empty())
         return EnterResult::Passed;
     if (word.size() < 2)
         return EnterResult::TooShort;
     if (!isAccepted(word)) {
-        sounds_.play(cue::error);
-        ports_.status.show(word + " not in dictionary");
+        game_.sounds.play(cue::error);
+        game_.ports.status.show(word + " not in dictionary");
         return EnterResult::NotFound;
     }
 
-    state_.redTileHold = true;
+    game_.state.redTileHold = true;
     defuseRedTiles();
-    const WordScore score = wordScore(selection_, board_);
-    removal_.removePathTiles();
-    state_.bonusTilesOnBoard = static_cast<std::int16_t>(state_.bonusTilesOnBoard - score.bonusCount);
+    const WordScore score = wordScore(game_.selection, game_.board);
+    game_.removal.removePathTiles();
+    game_.state.bonusTilesOnBoard -= score.bonusCount;
     if (word.size() > 5)
-        sounds_.play(cue::longWord);
-    state_.yourScore += score.score;
+        game_.sounds.play(cue::longWord);
+    game_.state.yourScore += score.score;
     awardBonusFor(word.size());
-    ++state_.wordsMade;
-    state_.statistics.recordWord(word, Statistics::playerBase);
-    selection_.clear();
-    state_.WordsMade.insertOnTop({.score = score.score, .word = word});
-    state_.redTileHold = false;
+    countUp(game_.state.wordsMade);
+    game_.state.statistics.recordWord(word, Statistics::playerBase);
+    game_.selection.clear();
+    game_.state.WordsMade.insertOnTop({.score = score.score, .word = word});
+    game_.state.redTileHold = false;
     return EnterResult::Entered;
 }
 
 bool WordEntry::isAccepted(const std::string& word) const
 {
-    if (state_.developerMode)
+    if (game_.state.developerMode)
         return true;
-    const BusyPointer busy(ports_.screen);
-    return dictionary_.words.findWord(word) != -1;
+    const BusyPointer busy(game_.ports.screen);
+    return game_.dictionary.words.findWord(word) != -1;
 }
 
 void WordEntry::defuseRedTiles()
 {
-    for (const int number : selection_.tiles()) {
-        BoxControl& tile = board_.tile(number);
+    for (const int number : game_.selection.tiles()) {
+        BoxControl& tile = game_.board.tile(number);
         if (tile.MaskColor() != multiplier::red)
             continue;
-        --state_.redTilesOnBoard;
+        --game_.state.redTilesOnBoard;
         tile.MaskColor(multiplier::plain);
-        ++state_.redTilesUsed;
+        ++game_.state.redTilesUsed;
     }
 }
 
 /// The length that earns a double grows with the level: 4, 5 and 6 letters, and 5 with a user dictionary.
 void WordEntry::awardBonusFor(std::size_t wordLength)
 {
-    const int level = dictionary_.level();
+    const int level = game_.dictionary.level();
     const int threshold = level == 0 ? 5 : level + 3;
     const int beyond = static_cast<int>(wordLength) - threshold;
     if (beyond >= 0)
@@ -68,21 +70,21 @@ void WordEntry::awardBonusFor(std::size_t wordLength)
 void WordEntry::awardBonusTile(Colour multiplier)
 {
     constexpr int mostBonusTiles = 4;
-    if (state_.bonusTilesOnBoard >= mostBonusTiles || state_.computerGame)
+    if (game_.state.bonusTilesOnBoard >= mostBonusTiles || game_.state.computerGame)
         return;
     const auto isPlain = [](const BoxControl& tile) { return tile.Visible() && tile.MaskColor() == multiplier::plain; };
-    if (std::none_of(board_.Tiles.begin() + 1, board_.Tiles.end(), isPlain))
+    if (std::none_of(game_.board.Tiles.begin() + 1, game_.board.Tiles.end(), isPlain))
         return;
 
     int number = 0;
     do {
-        ports_.screen.yield();
-        number = placeFromDraw(ports_.random.reseedAndDraw(ports_.clock), Board::tileCount);
-    } while (!isPlain(board_.tile(number)));
+        game_.ports.screen.yield();
+        number = placeFromDraw(game_.ports.random.reseedAndDraw(game_.ports.clock), Board::tileCount);
+    } while (!isPlain(game_.board.tile(number)));
 
-    board_.tile(number).MaskColor(multiplier);
-    look_.showNormal(board_.tile(number));
-    ++state_.bonusTilesOnBoard;
+    game_.board.tile(number).MaskColor(multiplier);
+    game_.look.showNormal(game_.board.tile(number));
+    ++game_.state.bonusTilesOnBoard;
 }
 
 } // namespace lexigrove

@@ -1,18 +1,13 @@
 #pragma once
 
-#include "dictionary/dictionary.hpp"
-#include "game/board.hpp"
-#include "game/game_state.hpp"
-#include "game/selection.hpp"
-#include "game/tile_look.hpp"
-#include "game/tile_removal.hpp"
-#include "platform/ports.hpp"
-#include "settings/sound_cues.hpp"
+#include "controls/colour.hpp"
 
 #include <string>
 
 namespace lexigrove
 {
+
+struct Game;
 
 enum class EnterResult {
     Passed,   ///< a game against the computer without a word: the computer's turn follows
@@ -25,18 +20,7 @@ enum class EnterResult {
 class WordEntry
 {
 public:
-    WordEntry(GameState& state, Board& board, Selection& selection, TileRemoval& removal, const TileLook& look,
-              const Dictionary& dictionary, SoundCues& sounds, const Ports& ports)
-        : state_(state),
-          board_(board),
-          selection_(selection),
-          removal_(removal),
-          look_(look),
-          dictionary_(dictionary),
-          sounds_(sounds),
-          ports_(ports)
-    {
-    }
+    explicit WordEntry(Game& game) : game_(game) {}
 
     EnterResult enterWord();
 
@@ -49,14 +33,7 @@ private:
     void defuseRedTiles();
     void awardBonusFor(std::size_t wordLength);
 
-    GameState& state_;
-    Board& board_;
-    Selection& selection_;
-    TileRemoval& removal_;
-    const TileLook& look_;
-    const Dictionary& dictionary_;
-    SoundCues& sounds_;
-    const Ports& ports_;
+    Game& game_;
 };
 
 } // namespace lexigrove

@@ -36,7 +36,7 @@ void Hints::getHint()
     }
 
     game_.selection.clear();
-    ++state.hintsUsed;
+    countUp(state.hintsUsed);
     form_.activate(candidates);
     game_.ports.windows.show(form_);
     if (!form_.result().empty())

@@ -5,11 +5,6 @@
 namespace lexigrove
 {
 
-ScoreForm::ScoreForm(ScoreFile& scores, Dialogs& dialogs)
-    : AnotherGame{"New Game"}, ExitProg{"Exit Program"}, CloseForm{"Close"}, scores_(scores), dialogs_(dialogs)
-{
-}
-
 void ScoreForm::request(std::optional<int> score)
 {
     score_ = score;
@@ -19,9 +14,6 @@ void ScoreForm::request(std::optional<int> score)
 
 void ScoreForm::activate()
 {
-    AnotherGame.Enabled = score_.has_value();
-    ExitProg.Enabled = score_.has_value();
-
     const std::vector<std::string> list = scores_.load();
     fillList(list);
     if (!score_)
@@ -37,13 +29,13 @@ void ScoreForm::activate()
 
 void ScoreForm::pressAnotherGame()
 {
-    if (AnotherGame.Enabled)
+    if (isEndOfGame())
         hide(Answer::NewGame);
 }
 
 void ScoreForm::pressExitProg()
 {
-    if (ExitProg.Enabled)
+    if (isEndOfGame())
         hide(Answer::ExitProgram);
 }
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "controls/label.hpp"
 #include "platform/dialogs.hpp"
 #include "platform/windows.hpp"
 #include "scores/score_file.hpp"
@@ -18,7 +17,7 @@ class ScoreForm
 public:
     enum class Answer { Close, NewGame, ExitProgram };
 
-    ScoreForm(ScoreFile& scores, Dialogs& dialogs);
+    ScoreForm(ScoreFile& scores, Dialogs& dialogs) : scores_(scores), dialogs_(dialogs) {}
 
     /// What the next showing is for: the player's final score, or nothing only to show the list. Empties the answer.
     void request(std::optional<int> score);
@@ -41,12 +40,10 @@ public:
     /// The answer as its code: "NOGAME" after `AnotherGame`, "NOMORE" after `ExitProg`, empty after `CloseForm`.
     [[nodiscard]] std::string answerCode() const;
 
-    std::string Caption = "LexiGrov Top 10 Scores";
+    /// Whether a final score is shown, so that `AnotherGame` and `ExitProg` can be pressed.
+    [[nodiscard]] bool isEndOfGame() const { return score_.has_value(); }
+
     std::vector<std::string> List2; ///< the ten score lines, highest first: five digits, tab, name
-    std::string listFont = "Courier New";
-    Label AnotherGame;
-    Label ExitProg;
-    Label CloseForm;
 
 private:
     void fillList(const std::vector<std::string>& ascending);

@@ -42,29 +42,12 @@ void addLetters(Chart& chart, int letterWidth)
 
 } // namespace
 
-StatisticsForm::StatisticsForm(const Statistics& statistics)
-    : rowCaptions{"",
-                  "Number of Words made",
-                  "Number of 2 letter Words",
-                  "Number of 3 letter Words",
-                  "Number of 4 letter Words",
-                  "Number of 5 or more letter Words",
-                  "Number of hints used",
-                  "Length of longest Word made",
-                  "longest Word"},
-      YourColumn{"Your"},
-      Frame2{"Computer"},
-      Exitx{"Exit"},
-      statistics_(statistics)
-{
-}
-
 void StatisticsForm::activate(bool computerGame, const std::array<int, 27>& lettersProvided)
 {
     const int last = computerGame ? 16 : 8;
     for (int i = 1; i <= last; ++i)
         sval[static_cast<std::size_t>(i)] = statistics_.entry(i);
-    Frame2.Enabled = computerGame;
+    computerGame_ = computerGame;
 
     provided_ = lettersProvided;
     const int total = std::max(statistics_.totalLettersUsed(), 1);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/label.hpp"
+#include "controls/colour.hpp"
 #include "scores/statistics.hpp"
 
 #include <array>
@@ -51,7 +51,7 @@ inline constexpr int chartFontSize = 10;
 class StatisticsForm
 {
 public:
-    explicit StatisticsForm(const Statistics& statistics);
+    explicit StatisticsForm(const Statistics& statistics) : statistics_(statistics) {}
 
     /// Fills the window from the table, on every activation. `lettersProvided` 1 to 26 are the pool's letter counts,
     /// which are percentages too, because the pool holds 100 letters. In a solo game the computer's column is disabled
@@ -64,15 +64,14 @@ public:
     /// How many per cent of the letters used were this one, 1 to 26, rounded down.
     [[nodiscard]] int usedPercentage(int letter) const { return used_.at(static_cast<std::size_t>(letter)); }
 
-    std::string Caption = "Statistics";
-    std::array<std::string, 9> rowCaptions; ///< 1 to 8, beside `sval` 1 to 8
-    Label YourColumn;                       ///< the heading "Your"
-    Label Frame2;                           ///< the frame "Computer" around `sval` 9 to 16
-    std::array<std::string, 17> sval;       ///< the value labels 1 to 16
-    Label Exitx;
+    std::array<std::string, 17> sval; ///< the value labels 1 to 16: the player's and, in `Frame2`, the computer's
+
+    /// Whether the game is against the computer: `Frame2` is enabled.
+    [[nodiscard]] bool isComputerGame() const { return computerGame_; }
 
 private:
     const Statistics& statistics_;
+    bool computerGame_ = false;
     std::array<int, 27> provided_{};
     std::array<int, 27> used_{};
 };

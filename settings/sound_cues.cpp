@@ -5,11 +5,6 @@
 namespace lexigrove
 {
 
-SoundCues::SoundCues(SoundDevice& device, std::string folder) : device_(device), folder_(std::move(folder))
-{
-    setOn(true);
-}
-
 void SoundCues::play(std::string_view file)
 {
     if (on_)
@@ -21,12 +16,6 @@ void SoundCues::playForced(std::string_view file)
     const bool before = std::exchange(on_, true);
     play(file);
     on_ = before;
-}
-
-void SoundCues::setOn(bool on)
-{
-    on_ = on;
-    SoundOnOff.Caption = on ? "Sound is on" : "Sound is off";
 }
 
 } // namespace lexigrove

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "controls/label.hpp"
 #include "platform/sound_device.hpp"
 
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace lexigrove
 {
@@ -28,7 +28,7 @@ class SoundCues
 {
 public:
     /// `folder` is the program folder with its closing separator. Sound starts on.
-    SoundCues(SoundDevice& device, std::string folder);
+    SoundCues(SoundDevice& device, std::string folder) : device_(device), folder_(std::move(folder)) {}
 
     /// Sends the command that plays a file of the program folder; nothing while sound is off.
     void play(std::string_view file);
@@ -39,10 +39,11 @@ public:
 
     [[nodiscard]] bool isOn() const { return on_; }
 
-    /// Sets the sound flag and the caption of `SoundOnOff`, and plays nothing.
-    void setOn(bool on);
+    /// Sets the sound flag and plays nothing.
+    void setOn(bool on) { on_ = on; }
 
-    Label SoundOnOff; ///< the main window's button; its release is `OptionsForm::soundButton`
+    /// The caption of the main window's button `SoundOnOff`, whose release is `OptionsForm::soundButton`.
+    [[nodiscard]] const char* caption() const { return on_ ? "Sound is on" : "Sound is off"; }
 
 private:
     SoundDevice& device_;

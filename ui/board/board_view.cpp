@@ -1,7 +1,10 @@
 #include "ui/board/board_view.hpp"
 
+#include "game/drop_row.hpp"
 #include "game/game_state.hpp"
+#include "game/letter_swap.hpp"
 #include "game/selection.hpp"
+#include "opponent/hints_form.hpp"
 #include "settings/readable_colours.hpp"
 #include "ui/machine/mouse.hpp"
 
@@ -28,7 +31,7 @@ BoxControl heldDown(BoxControl control)
 } // namespace
 
 BoardView::BoardView(GameFlow& flow, const Theme& theme, QWidget* parent)
-    : QWidget(parent), flow_(flow), theme_(theme), board_(flow.board()), tiles_(theme)
+    : QWidget(parent), flow_(flow), theme_(theme), board_(flow.view().board), tiles_(theme)
 {
     setObjectName("Picture1");
     setAccessibleName(tr("Board"));
@@ -91,19 +94,19 @@ QRectF BoardView::placeOf(const Spot& spot) const
 
 BoardView::Marks BoardView::currentMarks() const
 {
-    Marks marks{{}, flow_.swapTile(), flow_.guideColumn(), 0};
+    Marks marks{{}, flow_.view().letterSwap.tile(), flow_.view().dropRow.guideColumn(), 0};
     for (int col = 1; flow_.inGame() && col <= Board::columns; ++col) {
         const bool waits = board_.waiting(col).Visible();
         if (waits && !board_.tile(1, col).Visible())
             marks.openColumns |= 1U << col;
     }
-    const Selection& selection = flow_.selection();
+    const Selection& selection = flow_.view().selection;
     for (const int tile : selection.tiles()) {
         if (board_.isVisible(tile) && !board_.tile(tile).Tag().empty()) // not one that is just leaving the board
             marks.path.push_back(tile);
     }
     if (selection.isEmpty())
-        marks.path = flow_.shownHint();
+        marks.path = flow_.view().hints.shownPath();
     return marks;
 }
 
@@ -137,7 +140,7 @@ void BoardView::synchronise()
 
 bool BoardView::takesInput() const
 {
-    return flow_.inGame() && !flow_.isPaused() && !flow_.state().computerTurnInProgress;
+    return flow_.inGame() && !flow_.isPaused() && !flow_.view().state.computerTurnInProgress;
 }
 
 // ---- The pointer
@@ -222,8 +225,7 @@ void BoardView::paintGround(QPainter& painter, const QRectF& dirty) const
             for (int row = 1; row <= board_.columnHeight(col); ++row) {
                 const BoxControl& tile = board_.tile(row, col);
                 if (!tile.Visible())
-                    paintSlot(shape_.tilePlace(tile, Board::columnLeft(col), board_.cellTop(row, col)),
-                              colours.strip);
+                    paintSlot(shape_.tilePlace(tile, Board::columnLeft(col), board_.cellTop(row, col)), colours.strip);
             }
         }
     }

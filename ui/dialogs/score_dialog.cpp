@@ -21,10 +21,10 @@ namespace lexigrove
 namespace
 {
 
-/// The form's own fixed-width font, or the desktop's where that one is not installed.
-QFont listFont(const std::string& name)
+/// A fixed-width font: this one, or the desktop's where it is not installed.
+QFont listFont()
 {
-    QFont font(toQString(name));
+    QFont font("Courier New");
     if (!QFontInfo(font).fixedPitch())
         font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
     font.setPixelSize(16);
@@ -61,15 +61,15 @@ class ScoreDialog : public FormDialog
 {
 public:
     ScoreDialog(Host& gameHost, ScoreForm& form)
-        : FormDialog(gameHost, "ScoreForm", form.Caption),
+        : FormDialog(gameHost, "ScoreForm", "LexiGrov Top 10 Scores"),
           form_(form),
           List2_(new QListWidget),
-          AnotherGame_(newButton("AnotherGame", form.AnotherGame.Caption)),
-          ExitProg_(newButton("ExitProg", form.ExitProg.Caption)),
-          CloseForm_(newButton("CloseForm", form.CloseForm.Caption))
+          AnotherGame_(newButton("AnotherGame", "New Game")),
+          ExitProg_(newButton("ExitProg", "Exit Program")),
+          CloseForm_(newButton("CloseForm", "Close"))
     {
         List2_->setObjectName("List2");
-        List2_->setFont(listFont(form.listFont));
+        List2_->setFont(listFont());
         List2_->setItemDelegate(new ScoreLineDelegate(List2_));
         List2_->setSelectionMode(QAbstractItemView::NoSelection);
         List2_->setFocusPolicy(Qt::NoFocus);
@@ -106,9 +106,8 @@ protected:
         List2_->clear();
         for (const std::string& line : form_.List2)
             List2_->addItem(toQString(line));
-        AnotherGame_->setEnabled(form_.AnotherGame.Enabled);
-        ExitProg_->setEnabled(form_.ExitProg.Enabled);
-        CloseForm_->setEnabled(form_.CloseForm.Enabled);
+        AnotherGame_->setEnabled(form_.isEndOfGame());
+        ExitProg_->setEnabled(form_.isEndOfGame());
         CloseForm_->setFocus();
     }
 

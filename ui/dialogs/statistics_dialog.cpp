@@ -17,22 +17,30 @@ namespace
 {
 
 constexpr int rowHeight = 28;
+constexpr const char* rowCaptions[] = {"Number of Words made",
+                                       "Number of 2 letter Words",
+                                       "Number of 3 letter Words",
+                                       "Number of 4 letter Words",
+                                       "Number of 5 or more letter Words",
+                                       "Number of hints used",
+                                       "Length of longest Word made",
+                                       "longest Word"};
 
 class StatisticsDialog : public FormDialog
 {
 public:
     StatisticsDialog(Host& gameHost, const StatisticsForm& form)
-        : FormDialog(gameHost, "Form4", form.Caption), form_(form)
+        : FormDialog(gameHost, "Form4", "Statistics"), form_(form)
     {
         auto* const areas = new QHBoxLayout;
         areas->setSpacing(Theme::gap);
         areas->addLayout(newCaptions());
-        areas->addWidget(newValues("YourColumn", form.YourColumn, 1));
-        areas->addWidget(newValues("Frame2", form.Frame2, 9));
+        areas->addWidget(newValues("YourColumn", "Your", 1));
+        areas->addWidget(newValues("Frame2", "Computer", 9));
         areas->addSpacing(Theme::grid);
         areas->addWidget(new ChartView(form), 0, Qt::AlignTop);
 
-        auto* const Exitx = newButton("Exitx", form.Exitx.Caption);
+        auto* const Exitx = newButton("Exitx", "Exit");
         Exitx->setDefault(true);
         Exitx->setMinimumWidth(14 * Theme::grid);
         connect(Exitx, &QPushButton::clicked, this, [this] { closePressed(); });
@@ -48,29 +56,29 @@ protected:
     void closePressed() override { accept(); }
 
 private:
-    static QLabel* newLabel(const std::string& text, Qt::Alignment alignment)
+    static QLabel* newLabel(const QString& text, Qt::Alignment alignment)
     {
-        auto* const label = new QLabel(toQString(text));
+        auto* const label = new QLabel(text);
         label->setFixedHeight(rowHeight);
         label->setAlignment(alignment | Qt::AlignVCenter);
         label->setTextFormat(Qt::PlainText);
         return label;
     }
 
-    QVBoxLayout* newCaptions() const
+    static QVBoxLayout* newCaptions()
     {
         auto* const rows = new QVBoxLayout;
         rows->setContentsMargins(0, Theme::grid, 0, Theme::grid);
         rows->setSpacing(0);
         rows->addWidget(newLabel("", Qt::AlignLeft));
-        for (std::size_t row = 1; row <= 8; ++row)
-            rows->addWidget(newLabel(form_.rowCaptions[row], Qt::AlignLeft));
+        for (const char* const caption : rowCaptions)
+            rows->addWidget(newLabel(caption, Qt::AlignLeft));
         rows->addStretch();
         return rows;
     }
 
     /// The heading and eight of the value labels.
-    QFrame* newValues(const char* objectName, const Label& heading, std::size_t first) const
+    QFrame* newValues(const char* objectName, const char* heading, std::size_t first) const
     {
         auto* const column = new QFrame;
         column->setObjectName(objectName);
@@ -79,17 +87,17 @@ private:
         auto* const rows = new QVBoxLayout(column);
         rows->setContentsMargins(Theme::gap, Theme::grid, Theme::gap, Theme::grid);
         rows->setSpacing(0);
-        QLabel* const title = newLabel(heading.Caption, Qt::AlignHCenter);
+        QLabel* const title = newLabel(heading, Qt::AlignHCenter);
         title->setProperty("quiet", true);
         rows->addWidget(title);
         for (std::size_t i = first; i < first + 8; ++i) {
-            QLabel* const value = newLabel(form_.sval[i], Qt::AlignHCenter);
+            QLabel* const value = newLabel(toQString(form_.sval[i]), Qt::AlignHCenter);
             value->setObjectName("sval" + QString::number(i));
             value->setFont(Theme::font(14, true));
             rows->addWidget(value);
         }
         rows->addStretch();
-        column->setEnabled(heading.Enabled);
+        column->setEnabled(first == 1 || form_.isComputerGame());
         return column;
     }
 

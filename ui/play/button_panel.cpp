@@ -1,6 +1,7 @@
 #include "ui/play/button_panel.hpp"
 
 #include "game/game_state.hpp"
+#include "settings/sound_cues.hpp"
 #include "ui/look/text.hpp"
 #include "ui/look/theme.hpp"
 
@@ -55,7 +56,7 @@ QPushButton* ButtonPanel::add(const PanelButton& description)
 
 void ButtonPanel::synchronise()
 {
-    const GameState& state = flow_.state();
+    const GameState& state = flow_.view().state;
     if (isEnabled() == state.computerTurnInProgress)
         setEnabled(!state.computerTurnInProgress);
     for (const Entry& entry : entries_)
@@ -69,7 +70,7 @@ void ButtonPanel::synchronise()
         }
     };
     setCaption(pause_, flow_.isPaused() ? tr("Resume") : tr("Pause"));
-    setCaption(sound_, toQString(flow_.soundCaption()));
+    setCaption(sound_, toQString(flow_.view().sounds.caption()));
 }
 
 } // namespace lexigrove

@@ -1,5 +1,7 @@
 #include "ui/play/main_window.hpp"
 
+#include "dictionary/dictionary.hpp"
+#include "settings/sound_cues.hpp"
 #include "ui/look/text.hpp"
 #include "ui/machine/mouse.hpp"
 
@@ -18,7 +20,7 @@ namespace lexigrove
 MainWindow::MainWindow(Host& host, GameFlow& flow, const StatusLine& status) : host_(host), flow_(flow)
 {
     setObjectName("MainWindow");
-    host_.theme.follow(flow_.scheme()); // before the widgets: each is then dressed once
+    host_.theme.follow(flow_.view().scheme); // before the widgets: each is then dressed once
     auto* centre = new QWidget(this);
     area_ = new PlayArea(flow, host.theme, centre);
     status_ = new StatusLineView(status, flow, host.theme, centre);
@@ -189,14 +191,14 @@ void MainWindow::closeEvent(QCloseEvent* event)
 
 void MainWindow::showModels()
 {
-    host_.theme.follow(flow_.scheme());
-    const QString caption = messageToQString(flow_.caption());
+    host_.theme.follow(flow_.view().scheme);
+    const QString caption = messageToQString(flow_.view().dictionary.caption());
     if (caption != windowTitle())
         setWindowTitle(caption);
     for (const MenuEntry& entry : menuEntries_) {
         entry.action->setEnabled(flow_.isTime(GameFlow::timeOf(entry.item.command)));
         if (entry.action->isCheckable())
-            entry.action->setChecked(flow_.soundIsOn());
+            entry.action->setChecked(flow_.view().sounds.isOn());
         if (entry.item.command == Command::Pause)
             entry.action->setText(flow_.isPaused() ? tr("&Resume") : tr("&Pause"));
     }

@@ -26,13 +26,13 @@ constexpr int topMargin = Theme::gap;
 PlayArea::PlayArea(GameFlow& flow, const Theme& theme, QWidget* parent)
     : QWidget(parent), board(new BoardView(flow, theme, this)), flow_(flow), theme_(theme), side_(new QWidget(this))
 {
-    clock = new ClockFrame(flow.clock(), theme, side_);
+    clock = new ClockFrame(flow.view().clock, theme, side_);
     yourScore_ = new NumberCard("YourScore", tr("Your score"), tr("The points that you have made"), side_);
     compScore_ = new NumberCard("CompScore", tr("Computer"), tr("The points that the computer has made"), side_);
     tilesLeft_ = new NumberCard("TilesLeft", tr("Tiles left"), tr("Letters that are still to come"), side_);
     word_ = new WordBox(flow, theme, side_);
     buttons = new ButtonPanel(flow, side_);
-    words = new WordsView(flow.state().WordsMade, theme, side_);
+    words = new WordsView(flow.view().state.WordsMade, theme, side_);
     words->setObjectName("WordsMade");
     words->setAccessibleName(tr("Words made"));
     words->setEmptyText(tr("Your words will be listed here.\nClick letters that touch one another, then Enter Word. "
@@ -120,7 +120,7 @@ void PlayArea::placeCovers()
 
 void PlayArea::synchronise()
 {
-    const GameState& state = flow_.state();
+    const GameState& state = flow_.view().state;
     board->synchronise();
     clock->synchronise();
     yourScore_->show(std::to_string(state.yourScore));

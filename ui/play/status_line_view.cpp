@@ -93,14 +93,14 @@ void StatusLineView::synchronise()
         full_ = onOneLine(shown_);
         elide();
     }
-    const GameState& state = flow_.state();
+    const GameState& state = flow_.view().state;
     setLoud(status_.Warn || state.computerTurnInProgress);
     if (status_.Warn == Warn->isHidden())
         Warn->setVisible(status_.Warn);
     if (state.developerMode == Label4->isHidden())
         Label4->setVisible(state.developerMode);
     const int tile = state.developerMode ? state.hoveredTile : 0;
-    const QString description = tile == 0 ? QString() : toQString(flow_.board().description(tile));
+    const QString description = tile == 0 ? QString() : toQString(flow_.view().board.description(tile));
     if (description != Label4->text())
         Label4->setText(description);
 }

@@ -49,8 +49,8 @@ void WordBox::setLetterSize(double size)
 
 void WordBox::synchronise()
 {
-    const GameState& state = flow_.state();
-    const QString word = toQString(flow_.selection().wordTried());
+    const GameState& state = flow_.view().state;
+    const QString word = toQString(flow_.view().selection.wordTried());
     if (word != WordTried->text())
         WordTried->setText(word);
     const QString score = toQString(state.currScoreText());
@@ -61,7 +61,7 @@ void WordBox::synchronise()
     }
     std::optional<Colour> scoreBack;
     if (state.currScore && multiplier::isBonus(state.currScore->best))
-        scoreBack = flow_.scheme().tileFace(state.currScore->best);
+        scoreBack = flow_.view().scheme.tileFace(state.currScore->best);
     if (state.computerTurnInProgress == computersTurn_ && scoreBack == scoreBack_)
         return;
     computersTurn_ = state.computerTurnInProgress;
