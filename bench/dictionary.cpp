@@ -60,7 +60,7 @@ int main(int argumentCount, char** arguments)
     bench::NoDialogs dialogs;
     StatusLine status;
     Random random;
-    const bench::NoonClock clock;
+    const StillClock clock;
     Dictionary dictionary(folder.prefix());
     dictionary.applyChoice(3, {});
     const bench::Medians reading = bench::measure(

@@ -1,9 +1,7 @@
 #pragma once
 
-#include "platform/clock.hpp"
-#include "platform/dialogs.hpp"
-#include "platform/screen.hpp"
 #include "platform/text_file.hpp"
+#include "tests/support/quiet_ports.hpp"
 
 #include <algorithm>
 #include <chrono>
@@ -78,25 +76,6 @@ public:
     bool confirm(const std::string&) override { return false; }
     std::string input(const std::string&, const std::string&, const std::string&) override { return {}; }
     std::string openFile(const OpenFileRequest&) override { return {}; }
-};
-
-class NoScreen : public Screen
-{
-public:
-    void yield() override {}
-    void animationStep(int) override {}
-    void setBusyPointer(bool) override {}
-    void lockBoardUpdates(bool) override {}
-    void waitForAnyInput() override {}
-};
-
-/// A clock that stands.
-class NoonClock : public Clock
-{
-public:
-    [[nodiscard]] double secondsSinceMidnight() const override { return 43'200; }
-    [[nodiscard]] std::string shortDate() const override { return "1/1/2024"; }
-    [[nodiscard]] std::string shortTime() const override { return "12:00"; }
 };
 
 /// The median of a time in milliseconds over some rounds.

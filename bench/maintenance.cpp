@@ -42,10 +42,10 @@ int main(int argumentCount, char** arguments)
     replaceFile(path, text);
 
     QuietDialogs dialogs;
-    bench::NoScreen screen;
+    QuietScreen screen;
     StatusLine status;
     Random random;
-    const bench::NoonClock clock;
+    const StillClock clock;
     Dictionary dictionary(folder.prefix());
     dictionary.applyChoice(3, {});
     dictionary.read(dialogs, status, random, clock);

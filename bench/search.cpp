@@ -12,6 +12,7 @@
 #include "platform/text_file.hpp"
 #include "tests/opponent/plain_search.hpp"
 #include "tests/opponent/random_boards.hpp"
+#include "tests/support/quiet_ports.hpp"
 
 #include <algorithm>
 #include <bit>
@@ -157,14 +158,6 @@ private:
     int run_ = 0;
     Found path_;
     std::vector<Found> found_;
-};
-
-class StillClock : public Clock
-{
-public:
-    [[nodiscard]] double secondsSinceMidnight() const override { return 43'200.0; }
-    [[nodiscard]] std::string shortDate() const override { return {}; }
-    [[nodiscard]] std::string shortTime() const override { return {}; }
 };
 
 /// Full boards, dealt from the pool of 100 letters that a game with this dictionary deals from.

@@ -15,8 +15,6 @@
 
 using namespace lexigrove;
 using lexigrove::bench::NoDialogs;
-using lexigrove::bench::NoonClock;
-using lexigrove::bench::NoScreen;
 
 namespace
 {
@@ -63,8 +61,8 @@ int main(int argumentCount, char** arguments)
     replaceFile(folder.prefix() + "L3Ascii.txt", bench::levelThreeList(argumentCount, arguments));
 
     NoDialogs dialogs;
-    NoScreen screen;
-    const NoonClock clock;
+    QuietScreen screen;
+    const StillClock clock;
     StatusLine status;
     Random random;
     Dictionary dictionary(folder.prefix());

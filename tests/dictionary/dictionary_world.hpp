@@ -1,68 +1,15 @@
 #pragma once
 
-#include "dictionary/dictionary.hpp"
 #include "dictionary/maintenance.hpp"
 #include "platform/text_file.hpp"
+#include "tests/support/quiet_ports.hpp"
 #include "tests/support/temporary_folder.hpp"
 
-#include <functional>
-#include <gtest/gtest.h>
-#include <map>
 #include <string>
 #include <vector>
 
 namespace lexigrove
 {
-
-/// A player who reads every message, and does something behind the game's back at those that a test names.
-class ScriptedDialogs : public Dialogs
-{
-public:
-    std::vector<std::string> messages;
-    std::vector<std::string> questions;
-    bool answer = false;
-    std::map<std::string, std::function<void()>> at; ///< by the message's beginning
-
-    void message(const std::string& text) override
-    {
-        messages.push_back(text);
-        for (const auto& [beginning, action] : at)
-            if (text.starts_with(beginning))
-                action();
-    }
-    bool confirm(const std::string& text) override
-    {
-        questions.push_back(text);
-        return answer;
-    }
-    std::string input(const std::string&, const std::string&, const std::string&) override { return {}; }
-    std::string openFile(const OpenFileRequest&) override { return {}; }
-};
-
-class PointerScreen : public Screen
-{
-public:
-    bool busy = false;
-    int timesBusy = 0;
-
-    void yield() override {}
-    void animationStep(int) override {}
-    void setBusyPointer(bool nowBusy) override
-    {
-        busy = nowBusy;
-        timesBusy += nowBusy ? 1 : 0;
-    }
-    void lockBoardUpdates(bool) override {}
-    void waitForAnyInput() override {}
-};
-
-class StandingClock : public Clock
-{
-public:
-    [[nodiscard]] double secondsSinceMidnight() const override { return 43'200; }
-    [[nodiscard]] std::string shortDate() const override { return "12/24/2023"; }
-    [[nodiscard]] std::string shortTime() const override { return "12:00"; }
-};
 
 inline std::string asLines(const std::vector<std::string>& words)
 {
@@ -93,10 +40,8 @@ inline std::vector<std::string> countedWords(int count)
     return words;
 }
 
-/// A dictionary in a folder, and the window that maintains it.
+/// A dictionary in a folder of its own, and the window that maintains it.
 struct DictionaryWorld {
-    explicit DictionaryWorld(const std::string& programFolder) : folder(programFolder), dictionary(programFolder) {}
-
     /// Loads a level whose file holds the text.
     void loadText(int level, const std::string& text)
     {
@@ -107,32 +52,31 @@ struct DictionaryWorld {
     }
     void load(int level, const std::vector<std::string>& words) { loadText(level, asLines(words)); }
 
-    void add(const std::string& text)
+    void add(const std::string& text) { change(&DictionaryMaintenance::addWord, text); }
+    void remove(const std::string& text) { change(&DictionaryMaintenance::removeWord, text); }
+    void change(void (DictionaryMaintenance::*operation)(), const std::string& text = {})
     {
         dialogs.messages.clear();
         maintenance.Text1 = text;
-        maintenance.addWord();
-    }
-    void remove(const std::string& text)
-    {
-        dialogs.messages.clear();
-        maintenance.Text1 = text;
-        maintenance.removeWord();
+        (maintenance.*operation)();
     }
 
-    [[nodiscard]] std::string levelFile(int level) const { return folder + "L" + std::to_string(level) + "Ascii.txt"; }
+    [[nodiscard]] std::string levelFile(int level) const
+    {
+        return folder.file("L" + std::to_string(level) + "Ascii.txt");
+    }
     [[nodiscard]] std::string backup(int level) const
     {
-        return folder + "SysDik" + std::to_string(level) + "Backup.txt";
+        return folder.file("SysDik" + std::to_string(level) + "Backup.txt");
     }
 
-    std::string folder;
+    TemporaryFolder folder;
     ScriptedDialogs dialogs;
-    PointerScreen screen;
+    QuietScreen screen;
     StatusLine status;
     Random random{718};
-    StandingClock clock;
-    Dictionary dictionary;
+    StillClock clock;
+    Dictionary dictionary{folder.path()};
     DictionaryMaintenance maintenance{dictionary, dialogs, screen, clock};
 };
 

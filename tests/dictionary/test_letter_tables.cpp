@@ -1,7 +1,10 @@
-#include "tests/dictionary/dictionary_world.hpp"
+#include "dictionary/letter_tables.hpp"
+#include "tests/support/quiet_ports.hpp"
 
 #include <algorithm>
+#include <gtest/gtest.h>
 #include <numeric>
+#include <rapidcheck.h>
 #include <stdexcept>
 
 using namespace lexigrove;
@@ -9,112 +12,103 @@ using namespace lexigrove;
 namespace
 {
 
-LetterFrequencies frequencies(std::int64_t characters, std::initializer_list<std::pair<char, std::int64_t>> letters)
+int sumOf(const std::array<int, 27>& counts)
 {
-    LetterFrequencies made;
-    made.characters = characters;
-    for (const auto& [letter, count] : letters)
-        made.letters[static_cast<std::size_t>(letterIndex(letter))] = count;
-    return made;
+    return std::accumulate(counts.begin(), counts.end(), 0);
 }
 
-LetterTables derived(const LetterFrequencies& made)
+/// As many of each letter as it has places: "AAAABB".
+std::string poolOf(const std::array<int, 27>& counts)
 {
-    Random random(718);
-    const StandingClock clock;
-    LetterTables tables;
-    tables.derive(made, random, clock);
-    return tables;
-}
-
-int sumOf(const LetterTables& tables)
-{
-    return std::accumulate(tables.letterCounts.begin(), tables.letterCounts.end(), 0);
+    std::string pool;
+    for (std::size_t letter = 1; letter <= 26; ++letter)
+        pool += std::string(static_cast<std::size_t>(counts[letter]), static_cast<char>('A' + letter - 1));
+    return pool;
 }
 
 } // namespace
 
-// A slip in one of the two tables of 26 numbers: their sums and the places that the rules name.
-TEST(LetterTables, StartUpPoolAndScores)
+// Shares are rounded down, and rare letters get a place each. Places left over go to random letters; places too many
+// come off the earliest of the largest shares alone, and where even that is too small the tables stay as they were.
+TEST(LetterTables, SharesFillThePool)
 {
-    const LetterTables tables;
-    EXPECT_EQ(sumOf(tables), 100);
-    EXPECT_EQ(tables.letterCounts[21], 6) << "six U";
-    EXPECT_EQ(tables.pool[0], 0);
-    EXPECT_EQ(std::string(tables.pool.begin() + 1, tables.pool.begin() + 14), "AAAAAAAAABBCC");
-    EXPECT_EQ(tables.pool[100], 'Z');
-    EXPECT_TRUE(std::is_sorted(tables.pool.begin(), tables.pool.end()));
+    const StillClock clock;
+    int thrown = 0;
+    const auto check = [&](const LetterFrequencies& frequencies) {
+        std::array<int, 27> shares{};
+        for (std::size_t letter = 1; letter <= 26; ++letter) {
+            const std::int64_t count = frequencies.letters[letter];
+            shares[letter] = static_cast<int>(std::max<std::int64_t>(count * 100 / frequencies.characters, count > 0));
+        }
+        const auto largest = std::max_element(shares.begin() + 1, shares.end()) - shares.begin();
+        const int over = sumOf(shares) - 100;
+        Random random(718);
+        LetterTables tables;
+        try {
+            tables.derive(frequencies, random, clock);
+        } catch (const std::length_error&) {
+            ++thrown;
+            RC_ASSERT(shares.at(static_cast<std::size_t>(largest)) < over);
+            RC_ASSERT(tables.letterCounts == LetterTables().letterCounts && tables.pool == LetterTables().pool);
+            return;
+        }
+        RC_ASSERT(sumOf(tables.letterCounts) == 100);
+        RC_ASSERT(std::string(tables.pool.begin() + 1, tables.pool.end()) == poolOf(tables.letterCounts));
+        if (over > 0) {
+            shares.at(static_cast<std::size_t>(largest)) -= over;
+            RC_ASSERT(tables.letterCounts == shares);
+        }
+        for (std::size_t letter = 1; letter <= 26; ++letter)
+            RC_ASSERT(tables.letterCounts[letter] >= shares[letter]);
+    };
+    EXPECT_TRUE(rc::check([&] {
+        LetterFrequencies frequencies;
+        const int rare = *rc::gen::inRange(0, 26); // so many letters stand once or twice, the others often
+        for (std::size_t letter = 1; letter <= 26; ++letter)
+            frequencies.letters[letter] =
+                *rc::gen::inRange<std::int64_t>(0, static_cast<int>(letter) > rare ? 9000 : 3);
+        frequencies.characters =
+            std::accumulate(frequencies.letters.begin(), frequencies.letters.end(), std::int64_t{1});
+        check(frequencies);
+    }));
+    LetterFrequencies crowded{{}, 100'000};
+    for (std::size_t letter = 1; letter <= 26; ++letter)
+        crowded.letters[letter] = letter <= 3 ? 17'200 : letter <= 6 ? 16'100 : 5;
+    check(crowded);
+    EXPECT_EQ(thrown, 1);
 
-    EXPECT_EQ(letterSum("ABCDEFGHIJKLMNOPQRSTUVWXYZ"), 87);
-    EXPECT_EQ(letterValue('Q'), 10);
-    EXPECT_EQ(letterSum("JKVWXYZ"), 8 + 5 + 4 + 4 + 8 + 4 + 10);
-    EXPECT_EQ(letterSum("az@[\xC4\x80 1"), 0) << "no letter, no value, no crash";
-}
-
-// Shares rounded down leave places over; they go to random letters, also to one that does not occur.
-TEST(LetterTables, PlacesLeftOverAreDrawn)
-{
-    LetterTables first;
-    bool differs = false;
+    const LetterFrequencies even{{0, 65, 65, 65}, 200}; // 32 each, 4 are drawn
+    std::set<std::array<int, 27>> drawn;
     for (std::uint64_t seed = 0; seed < 20; ++seed) {
         Random random(seed);
-        const StandingClock clock;
         LetterTables tables;
-        tables.derive(frequencies(200, {{'A', 65}, {'B', 65}, {'C', 65}}), random, clock); // 32 each, 96 together
-        EXPECT_EQ(sumOf(tables), 100);
-        EXPECT_GE(*std::min_element(tables.letterCounts.begin() + 1, tables.letterCounts.begin() + 4), 32);
-        EXPECT_EQ(std::count(tables.pool.begin() + 1, tables.pool.end(), 'A'), tables.letterCounts[1]);
-        differs = differs || (seed > 0 && tables.letterCounts != first.letterCounts);
-        first = tables;
+        tables.derive(even, random, clock);
+        drawn.insert(tables.letterCounts);
     }
-    EXPECT_TRUE(differs) << "twenty seeds gave the same four letters";
-}
-
-// Rare letters get a place each; what is too much comes off the earliest of the largest shares alone.
-TEST(LetterTables, PlacesTooManyComeOffTheEarliestLargest)
-{
-    LetterFrequencies made = frequencies(10'000, {{'Y', 4988}, {'Z', 4988}});
-    for (char letter = 'A'; letter <= 'X'; ++letter)
-        made.letters[static_cast<std::size_t>(letterIndex(letter))] = 1;
-    const LetterTables tables = derived(made); // 24 + 49 + 49 = 122
-    EXPECT_EQ(tables.letterCounts[25], 49 - 22);
-    EXPECT_EQ(tables.letterCounts[26], 49);
-    EXPECT_EQ(tables.letterCounts[1], 1);
-    EXPECT_EQ(sumOf(tables), 100);
-}
-
-// Where even the largest share is too small to give, the pool has no room; the tables must not be left half changed.
-TEST(LetterTables, FailuresLeaveTheTablesAlone)
-{
-    LetterFrequencies crowded = frequencies(100'000, {{'A', 17'200}, {'B', 17'200}, {'C', 17'200}});
-    for (char letter = 'D'; letter <= 'F'; ++letter)
-        crowded.letters[static_cast<std::size_t>(letterIndex(letter))] = 16'100;
-    for (char letter = 'G'; letter <= 'Z'; ++letter)
-        crowded.letters[static_cast<std::size_t>(letterIndex(letter))] = 5;
-
+    EXPECT_GT(drawn.size(), 5U);
     Random random;
-    const StandingClock clock;
     LetterTables tables;
-    const LetterTables before = tables;
-    EXPECT_THROW(tables.derive(crowded, random, clock), std::length_error);
     EXPECT_THROW(tables.derive({}, random, clock), std::domain_error);
-    EXPECT_THROW(tables.derive(frequencies(40'000'000, {{'E', 21'474'837}}), random, clock), std::overflow_error);
-    EXPECT_EQ(tables.letterCounts, before.letterCounts);
-    EXPECT_EQ(tables.pool, before.pool);
+    EXPECT_THROW(tables.derive({{0, 21'474'837}, 40'000'000}, random, clock), std::overflow_error);
+}
+
+TEST(LetterTables, Values)
+{
+    EXPECT_EQ(letterSum("ABCDEFGHIJKLMNOPQRSTUVWXYZ"), 87);
+    EXPECT_EQ(letterSum("JKVWXYZ"), 8 + 5 + 4 + 4 + 8 + 4 + 10);
+    EXPECT_EQ(letterSum("az@[\xC4\x80 1"), 0) << "no letter, no value, no crash";
 }
 
 // The counting goes through blocks of characters: none may be lost at their edges, and line ends are no characters.
 TEST(LetterTables, CountsEveryCharacter)
 {
-    std::string text;
-    LetterFrequencies expected;
-    for (int i = 0; i < 1000; ++i) {
-        const char letter = static_cast<char>('A' + i % 26);
-        text += letter;
-        text += i % 7 == 0 ? "\r\n" : i % 5 == 0 ? "a1'" : "";
-        ++expected.letters[static_cast<std::size_t>(letterIndex(letter))];
-        expected.characters += i % 7 != 0 && i % 5 == 0 ? 4 : 1;
-    }
-    EXPECT_EQ(countLetters(text).letters, expected.letters);
-    EXPECT_EQ(countLetters(text).characters, expected.characters);
+    EXPECT_TRUE(rc::check([] {
+        const auto text = *rc::gen::container<std::string>(rc::gen::element('A', 'B', 'Z', 'a', '@', '[', '\r', '\n'));
+        const LetterFrequencies counted = countLetters(text);
+        for (const char letter : {'A', 'B', 'Y', 'Z'})
+            RC_ASSERT(counted.letters[static_cast<std::size_t>(letter - 'A' + 1)] ==
+                      std::count(text.begin(), text.end(), letter));
+        RC_ASSERT(counted.letters[0] == 0);
+        RC_ASSERT(counted.characters == std::count_if(text.begin(), text.end(), [](char c) { return c >= ' '; }));
+    }));
 }

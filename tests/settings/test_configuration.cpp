@@ -1,48 +1,34 @@
 #include "platform/text_file.hpp"
 #include "settings/configuration.hpp"
-#include "tests/settings/options_world.hpp"
+#include "tests/support/quiet_ports.hpp"
+#include "tests/support/temporary_folder.hpp"
 
+#include <filesystem>
 #include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 namespace lexigrove
 {
-
 namespace
 {
 
-class FrozenClock : public Clock
-{
-public:
-    [[nodiscard]] double secondsSinceMidnight() const override { return 45296; }
-    [[nodiscard]] std::string shortDate() const override { return "08/01/05"; }
-    [[nodiscard]] std::string shortTime() const override { return "12:34"; }
-};
+const std::string defaultFile = "12/24/2023 12:00\r\n\r\n0\r\nGreen\r\n"
+                                "UsrDict.txt\r\nSysDict1.txt\r\nSysDict2.txt\r\nSysDict3.txt\r\n250\r\n"
+                                "False\r\nFalse\r\nTrue\r\nFalse\r\nFalse\r\nTrue\r\nFalse\r\nFalse\r\n"
+                                "False\r\nTrue\r\nTrue\r\nFalse\r\nTrue\r\nFalse\r\n";
 
-const std::string defaultFile = "08/01/05 12:34\r\n"
-                                "\r\n0\r\nGreen\r\n"
-                                "UsrDict.txt\r\nSysDict1.txt\r\nSysDict2.txt\r\nSysDict3.txt\r\n"
-                                "250\r\n"
-                                "False\r\nFalse\r\nTrue\r\nFalse\r\n"
-                                "False\r\nTrue\r\nFalse\r\nFalse\r\n"
-                                "False\r\nTrue\r\n"
-                                "True\r\nFalse\r\n"
-                                "True\r\nFalse\r\n";
-
-class ConfigurationTest : public OptionsWorld
+/// The options dialog, its file and all that they reach.
+class OptionsTest : public testing::Test
 {
 protected:
-    static constexpr const char* fileName = "Lexigrove.cfg";
-    static constexpr Colour windowColour = rgb(1, 2, 3);
-    static constexpr Colour listColour = rgb(4, 5, 6);
-
-    void load() { configuration.load(windowColour, listColour); }
-
-    [[nodiscard]] std::string notFound() const
+    /// The options kept in this text.
+    void load(const std::string& text)
     {
-        return "Configuration file:\r\n" + configuration.path() + "\r\nnot found, default file will be created";
+        folder.write("Lexigrove.cfg", text);
+        configuration.load(rgb(1, 2, 3), rgb(4, 5, 6));
     }
 
-    /// The default file with one line, 1 to 23, in place of its own.
+    /// A file with one line, 1 to 23, in place of its own.
     static std::string with(std::size_t line, const std::string& text, const std::string& file = defaultFile)
     {
         std::string changed;
@@ -52,186 +38,109 @@ protected:
         return changed;
     }
 
-    FrozenClock time;
+    TemporaryFolder folder;
+    ScriptedDialogs dialogs;
+    RecordedSounds device;
+    QuietScreen screen;
+    StillClock time;
     Dc clock;
+    Dictionary dictionary{folder.path()};
+    ColourScheme scheme{folder.path(), dialogs};
+    SoundCues sounds{device, folder.path()};
+    OptionsForm form{{dialogs, screen, dictionary, scheme, sounds, folder.path()}};
     Configuration configuration{{dialogs, time, form, clock, scheme, dictionary, folder.path()}};
 };
 
-} // namespace
-
-// Guards against a first start without a message or with another file.
-TEST_F(ConfigurationTest, MissingFileIsReplacedByTheDefaults)
-{
-    load();
-    EXPECT_THAT(dialogs.messages, testing::ElementsAre(notFound()));
-    EXPECT_EQ(folder.read(fileName), defaultFile);
-    EXPECT_EQ(form.Combo1.Text, "Default");
-    EXPECT_EQ(form.settings.dropDelay, 250);
-    EXPECT_TRUE(sounds.isOn());
-}
-
-// Guards against a choice that is written to, or read from, another line.
-TEST_F(ConfigurationTest, EveryChoiceComesBack)
-{
-    const std::string file = "yesterday\r\nNight.sch\r\n4\r\nRED\r\nC:\\my words.txt\r\na\r\nb\r\n\r\n77\r\n"
-                             "True\r\nFalse\r\nFalse\r\nFalse\r\nFalse\r\nFalse\r\nFalse\r\nTrue\r\n"
-                             "True\r\nFalse\r\nFalse\r\nTrue\r\nFalse\r\nTrue\r\n";
-    folder.write(fileName, file);
-    load();
-    EXPECT_TRUE(dialogs.messages.empty());
-    EXPECT_EQ(scheme.currentName, "Night.sch");
-    EXPECT_EQ(form.Combo1.Text, "Night.sch");
-    EXPECT_EQ(clock.DigitWidth(), 4);
-    EXPECT_EQ(clock.ClockBackground(), rgb(50, 0, 0));
-    EXPECT_THAT(dictionary.fileTable, testing::ElementsAre("C:\\my words.txt", "a", "b", ""));
-    EXPECT_EQ(form.settings.dropDelay, 77);
-    EXPECT_EQ(form.UsrDictName.Text, "C:\\my words.txt");
-    EXPECT_EQ(form.UsrDictName.ToolTipText, "C:\\my words.txt");
-    EXPECT_TRUE(form.UsrDictName.Enabled);
-    EXPECT_TRUE(form.GetUserDictName.Enabled());
-    EXPECT_FALSE(sounds.isOn());
-    EXPECT_EQ(sounds.SoundOnOff.Caption, "Sound is off");
-
-    // Each of lines 10 to 23 stands for one control and no other.
-    const char* const controls[] = {"Option2", "Option3",  "Option4",  "Option5",  "Option6",  "Option7", "Option8",
-                                    "Option9", "Option10", "Option11", "Option15", "Option16", "s7x8",    "s8x8"};
-    const auto lines = readLines(configuration.path());
-    for (std::size_t i = 0; i < std::size(controls); ++i)
-        EXPECT_EQ(form.find(controls[i])->Value, lines[9 + i] == "True") << controls[i];
-
-    dictionary.fileTable[0] = "not this"; // line 5 is the box's text
-    configuration.save();
-    EXPECT_EQ(folder.read(fileName), "08/01/05 12:34" + file.substr(9));
-}
-
-// Guards against the clock's own colours with "DEFAULT", and against a name that is compared without its case.
-TEST_F(ConfigurationTest, DefaultClockTakesTheWindowsColours)
-{
-    folder.write(fileName, with(4, "Default"));
-    load();
-    EXPECT_EQ(clock.ClockBackground(), 0U);
-    folder.write(fileName, with(4, "DEFAULT"));
-    load();
-    EXPECT_EQ(clock.ClockBackground(), windowColour);
-    EXPECT_EQ(clock.DigitHighlight(), listColour);
-    EXPECT_EQ(clock.ClockColor(), "DEFAULT");
-}
-
-// Guards against lines read more strictly or more loosely than they are written, and choices that contradict each
-// other.
-TEST_F(ConfigurationTest, PeculiarLines)
-{
-    folder.write(fileName, with(9, " 12 "));
-    load();
-    EXPECT_EQ(form.settings.dropDelay, 0); // line 19, "No Animation", overrides
-
-    folder.write(fileName, with(9, " 1 2 ", with(18, "True", with(19, "False"))));
-    load();
-    EXPECT_EQ(form.settings.dropDelay, 12);
-
-    folder.write(fileName, with(10, "true")); // selected, yet only "True" opens the box
-    load();
-    EXPECT_TRUE(form.Option4.Value); // line 12, the last "True" of its frame
-    EXPECT_FALSE(form.Option2.Value);
-    EXPECT_FALSE(form.UsrDictName.Enabled);
-
-    folder.write(fileName, with(20, "False", with(23, "True")));
-    form.soundButton();
-    load();
-    EXPECT_FALSE(sounds.isOn()); // neither "On" nor "Off": the flag stays
-    EXPECT_TRUE(form.s8x8.Value);
-    EXPECT_FALSE(form.s7x8.Value);
-    EXPECT_TRUE(dialogs.messages.empty());
-}
-
 // Guards against a file that is cut off, or garbled, at any line: what came before stays, the controls take their
 // defaults, and the fresh file is whole.
-TEST_F(ConfigurationTest, FaultAtAnyLine)
+TEST_F(OptionsTest, FaultAtAnyLine)
 {
-    std::vector<std::pair<std::size_t, std::string>> damaged; // the line of the fault, 1 to 23, and the file
     const std::string changed =
         with(2, "Night.sch",
              with(3, "5", with(4, "BLUE", with(9, "40", with(12, "False", with(13, "True", with(18, "True")))))));
-    std::string head;
-    std::size_t number = 0;
-    for (const auto line : splitLines(changed)) {
-        damaged.emplace_back(++number, head);
-        head += std::string(line) + "\r\n";
-        if (number == 3 || number >= 9)
-            damaged.emplace_back(number, with(number, "garbage", changed));
+    std::vector<std::pair<std::size_t, std::string>> damaged{
+        {3, with(3, "99999", changed)}, {9, with(9, "1e9", changed)}, {20, with(20, "", changed)}};
+    std::size_t place = 0;
+    for (std::size_t line = 1; line <= 23; place = changed.find('\n', place) + 1, ++line) {
+        damaged.emplace_back(line, changed.substr(0, place));
+        if (line == 3 || line >= 9)
+            damaged.emplace_back(line, with(line, "garbage", changed));
     }
-    damaged.emplace_back(3, with(3, "99999", changed));
-    damaged.emplace_back(9, with(9, "1e9", changed));
-    damaged.emplace_back(20, with(20, "", changed));
-    damaged.emplace_back(12, with(5, "mine.txt", with(10, "True", with(12, "garbage", changed))));
-
     for (const auto& [fault, file] : damaged) {
         SCOPED_TRACE("fault at line " + std::to_string(fault));
-        scheme.currentName.clear();
-        clock = Dc();
-        form.settings.dropDelay = 250;
+        load(defaultFile);
         dialogs.messages.clear();
-        folder.write(fileName, file);
-        load();
-        EXPECT_THAT(dialogs.messages, testing::ElementsAre(notFound()));
-        std::string expected = defaultFile;
-        if (fault > 2)
-            expected = with(2, "Night.sch", expected);
-        if (fault > 3)
-            expected = with(3, "5", expected);
-        if (fault > 4)
-            expected = with(4, "BLUE", expected);
-        if (fault > 9)
-            expected = with(9, "40", expected);
-        EXPECT_EQ(folder.read(fileName), expected);
+        load(file);
+        EXPECT_THAT(dialogs.messages, testing::ElementsAre("Configuration file:\r\n" + configuration.path() +
+                                                           "\r\nnot found, default file will be created"));
+        std::string expected = with(9, "0"); // as the file before had it, without animation
+        for (const std::size_t line : {2U, 3U, 4U, 9U}) {
+            if (fault > line)
+                expected = with(line, std::string(splitLines(changed).at(line - 1)), expected);
+        }
+        EXPECT_EQ(folder.read("Lexigrove.cfg"), expected);
     }
 }
 
 // Guards against sound that is neither on nor off after a file cut off between its two lines, and sound that a fault
 // behind them switches on again.
-TEST_F(ConfigurationTest, SoundAfterAFault)
+TEST_F(OptionsTest, SoundAfterAFault)
 {
     const std::string soundOff = with(20, "False", with(21, "True"));
-    const auto end = [&](int lines) { // of so many lines
-        std::size_t place = 0;
-        for (int i = 0; i < lines; ++i)
-            place = soundOff.find('\n', place) + 1;
-        return place;
-    };
-    folder.write(fileName, soundOff.substr(0, end(20)));
-    load();
-    EXPECT_TRUE(form.Option15.Value);
+    load(with(21, "garbage", soundOff));
     EXPECT_TRUE(sounds.isOn());
-    folder.write(fileName, soundOff.substr(0, end(21)));
-    load();
-    EXPECT_TRUE(form.Option16.Value);
+    load(with(22, "garbage", soundOff));
     EXPECT_FALSE(sounds.isOn());
-    EXPECT_EQ(folder.read(fileName), soundOff);
+    EXPECT_EQ(folder.read("Lexigrove.cfg"), soundOff);
 }
 
-// Guards against options lost, or a game that stops, where the folder cannot be written.
-TEST_F(ConfigurationTest, UnwritableFolderIsTold)
+// Guards against the clock's own colours with "DEFAULT", and against a name that is compared without its case.
+TEST_F(OptionsTest, DefaultClockTakesTheWindowsColours)
 {
-    std::filesystem::create_directory(folder.file(fileName)); // a folder in its place: can be neither read nor replaced
-    form.select(form.Option5);
-    configuration.save();
-    const std::string notSaved =
-        "Configuration file:\r\n" + configuration.path() + "\r\ncould not be accessed, options not saved";
-    EXPECT_THAT(dialogs.messages, testing::ElementsAre(notSaved));
-    EXPECT_TRUE(form.Option5.Value);
-    load();
-    EXPECT_THAT(dialogs.messages, testing::ElementsAre(notSaved, notFound(), notSaved));
+    load(with(4, "Default"));
+    EXPECT_EQ(clock.ClockBackground(), 0U);
+    load(with(4, "DEFAULT"));
+    EXPECT_EQ(clock.ClockBackground(), rgb(1, 2, 3));
+    EXPECT_EQ(clock.DigitHighlight(), rgb(4, 5, 6));
 }
 
-// Guards against a file name with a line break that shifts every line behind it.
-TEST_F(ConfigurationTest, LineBreaksInNamesStayInTheirLine)
+// Guards against choices of the keyboard, which run no handler, that a game's start passes over.
+TEST_F(OptionsTest, StartTakesWhatTheControlsSay)
 {
-    form.select(form.Option2);
-    form.typeUserDictName("/words/odd\r\nname.txt");
-    configuration.save();
-    load();
-    EXPECT_TRUE(dialogs.messages.empty());
-    EXPECT_EQ(form.UsrDictName.Text, "/words/odd??name.txt");
+    for (Choice* choice : {&form.Option16, &form.Option5, &form.Option11})
+        form.select(*choice);
+    EXPECT_TRUE(sounds.isOn());
+    form.takeChoices();
+    EXPECT_FALSE(sounds.isOn());
+    EXPECT_EQ(form.settings.dropDelay, 0);
+    EXPECT_EQ(dictionary.level(), 3);
+
+    form.settings.dropDelay = 33;
+    form.select(form.Option10);
+    form.setValue(form.Option5, false); // none selected: the old one stays
+    form.takeChoices();
+    EXPECT_EQ(form.settings.dropDelay, 33);
+    EXPECT_EQ(dictionary.level(), 3);
 }
 
+// Guards against a file dialog that moves the program's working folder, and schemes in the list that are none or stand
+// in an order that changes with the disk.
+TEST_F(OptionsTest, FilesOfTheFolder)
+{
+    const auto working = std::filesystem::current_path();
+    dialogs.answers = {""};
+    dialogs.at["Select"] = [&] { std::filesystem::current_path(folder.path()); };
+    form.browseUserDictionary();
+    EXPECT_EQ(std::filesystem::current_path(), working);
+    EXPECT_EQ(dialogs.requests.at(0).filter, std::string("Text Files (*.txt;*.dat;*.dic)\0*.txt;*.dat;*.dic\0", 49));
+    EXPECT_EQ(dialogs.requests.at(0).initialFolder, folder.path());
+
+    for (const char* name : {"b.sch", "A.sch", "Loud.SCH", "note.txt", "sch", "x.sch.bak", ".hidden.sch"})
+        folder.write(name, "");
+    std::filesystem::create_directory(folder.file("folder.sch"));
+    EXPECT_THAT(scheme.filesInFolder(), testing::ElementsAre("A.sch", "Loud.SCH", "b.sch"));
+    EXPECT_TRUE(ColourScheme(folder.file("nowhere/"), dialogs).filesInFolder().empty());
+}
+
+} // namespace
 } // namespace lexigrove

@@ -20,21 +20,17 @@ protected:
     ProgramFolder()
     {
         for (const char* name : {"usr/bin", "usr/share/lexigrove", "home"})
-            fs::create_directories(std::filesystem::path(machine_.path()) / name);
+            fs::create_directories(path(name));
         install("L1Ascii.txt", "ONE\r\n");
         install("Default.sch", "first colours");
     }
 
     void install(const std::string& name, const std::string& content)
     {
-        replaceFile((std::filesystem::path(machine_.path()) / "usr/share/lexigrove" / name).string(), content);
+        replaceFile(path("usr/share/lexigrove/" + name), content);
     }
 
-    [[nodiscard]] std::string path(const std::string& name) const
-    {
-        return (std::filesystem::path(machine_.path()) / name).string();
-    }
-
+    [[nodiscard]] std::string path(const std::string& name) const { return machine_.file(name); }
     [[nodiscard]] std::string user(const std::string& name) const
     {
         return path("home/.local/share/lexigrove/" + name);

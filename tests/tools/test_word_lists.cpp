@@ -35,11 +35,18 @@ std::string errorOf(const std::function<void()>& action)
     return "none";
 }
 
+class WordLists : public testing::Test
+{
+protected:
+    Words one = built(1);
+    Words two = built(2);
+    Words three = built(3);
+};
+
 // Guards against lists that the game reads without complaint and then finds no words in: its lookup compares bytes.
-TEST(WordLists, AreSortedPlainAndOfTheirSizes)
+TEST_F(WordLists, AreSortedPlainAndOfTheirSizes)
 {
     for (int level = 1; level <= 3; ++level) {
-        const std::string text = readFile(GAME_FILES "L" + std::to_string(level) + "Ascii.txt");
         const Words words = built(level);
         const double size = static_cast<double>(levelSizes.at(static_cast<std::size_t>(level - 1)));
         EXPECT_NEAR(static_cast<double>(words.size()), size, 0.05 * size);
@@ -49,49 +56,34 @@ TEST(WordLists, AreSortedPlainAndOfTheirSizes)
                 << word;
             expected += word + "\r\n";
         }
-        EXPECT_TRUE(text == expected) << "every line, the last one too, ends in CR LF";
+        EXPECT_TRUE(readFile(GAME_FILES "L" + std::to_string(level) + "Ascii.txt") == expected)
+            << "every line, the last one too, ends in CR LF";
         EXPECT_EQ(std::adjacent_find(words.begin(), words.end(), std::greater_equal<>()), words.end());
     }
-}
-
-TEST(WordLists, EachLevelHoldsTheOneBeforeIt)
-{
-    const Words one = built(1);
-    const Words two = built(2);
-    const Words three = built(3);
     EXPECT_TRUE(std::includes(two.begin(), two.end(), one.begin(), one.end()));
     EXPECT_TRUE(std::includes(three.begin(), three.end(), two.begin(), two.end()));
 }
 
-// Guards against counts that belong to other words (one record off is enough) and against lists cut by length.
-TEST(WordLists, TheFirstLevelsHoldTheCommonestWords)
+// Guards against counts that belong to other words (one record off is enough), lists cut by length, and names,
+// abbreviations, possessives and slurs that slip in with the counts.
+TEST_F(WordLists, HoldTheCommonestWordsAndWordsOnly)
 {
-    const Words one = built(1);
-    const Words two = built(2);
-    const Words three = built(3);
     for (const char* word : {"AS", "THE", "HOUSE", "WATER", "GAME", "FRIEND", "COFFEE", "TOMORROW", "UNFORTUNATELY"})
         EXPECT_TRUE(holds(one, word)) << word;
     for (const char* word : {"ZEBRA", "BANANA", "COLOUR", "PENGUIN", "GLACIER", "WHISPERED", "ARCHAEOLOGIST"})
         EXPECT_TRUE(holds(two, word) && !holds(one, word)) << word;
+    for (const char* word : {"BUTCHER", "SPICES", "SPIKED", "BOY", "QUEEN"})
+        EXPECT_TRUE(holds(two, word)) << word;
     for (const char* word : {"CWM", "ZYMURGY", "QUOIN", "AXOLOTL", "SYZYGY"})
         EXPECT_TRUE(holds(three, word) && !holds(two, word)) << word;
-}
-
-// Guards against names, abbreviations, possessives and slurs that slip in with the counts.
-TEST(WordLists, HoldWordsOnly)
-{
-    const Words two = built(2);
-    const Words three = built(3);
     for (const char* word : {"LONDON", "OBAMA", "MICHAEL", "TV", "USA", "MB", "CS", "LOL", "DONT", "DOGS'", "DIDN"})
         EXPECT_FALSE(holds(three, word)) << word;
     for (const char* word : {"NIGGER", "NIGGERS", "FAGGOTS", "FUCKING", "SHIT"})
         EXPECT_FALSE(holds(two, word)) << word;
-    for (const char* word : {"BUTCHER", "SPICES", "SPIKED", "BOY", "QUEEN"})
-        EXPECT_TRUE(holds(two, word)) << word;
 }
 
 // Guards against a licence that is broken by leaving its notice out.
-TEST(WordLists, TheNoticesOfTheirSourcesAreShippedWhole)
+TEST_F(WordLists, TheNoticesOfTheirSourcesAreShippedWhole)
 {
     const std::string notices = readFile(GAME_FILES "Words-Notices.txt");
     for (const char* sentence : {"Copyright 2000-2011 by Kevin Atkinson", "BY CARNEGIE MELLON UNIVERSITY ``AS IS\'\'",
@@ -100,7 +92,7 @@ TEST(WordLists, TheNoticesOfTheirSourcesAreShippedWhole)
 }
 
 // Guards against an obscure failure, or silently wrong lists, where a source is missing or damaged.
-TEST(WordLists, MissingOrDamagedSourcesAreNamed)
+TEST_F(WordLists, MissingOrDamagedSourcesAreNamed)
 {
     const TemporaryFolder empty;
     const std::string folder = empty.path();
