@@ -130,20 +130,25 @@ TEST(ConsoleProtocol, EveryCommandStandsAnyArguments)
 
 TEST(ConsoleProtocol, TheCommandLineIsRead)
 {
-    const char* const good[] = {"--time-of-day", "45240.5", "--folder", "a b", "--version"};
-    const CommandLine line = readCommandLine(good);
+    const auto read = [](std::vector<std::string> arguments) {
+        std::vector<char*> argv{arguments.front().data()};
+        for (std::string& argument : arguments)
+            argv.push_back(argument.data());
+        return readCommandLine(static_cast<int>(argv.size()), argv.data());
+    };
+    const CommandLine line = read({"--time-of-day", "45240.5", "--folder=a b", "--version"});
     EXPECT_EQ(line.timeOfDay, 45240.5);
     EXPECT_EQ(line.folder, "a b");
     EXPECT_TRUE(line.version);
     EXPECT_FALSE(line.help);
-    for (const auto& bad : std::vector<std::vector<const char*>>{{"--folders"},
+    for (const auto& bad : std::vector<std::vector<std::string>>{{"--folders"},
                                                                  {"--folder"},
                                                                  {"x"},
                                                                  {"--time-of-day", "86400"},
                                                                  {"--time-of-day", "-1"},
                                                                  {"--time-of-day", "nan"},
                                                                  {"--time-of-day", "1h"}})
-        EXPECT_THROW(readCommandLine(bad), BadOption) << bad.back();
+        EXPECT_THROW(read(bad), BadOption) << bad.back();
 }
 
 } // namespace
