@@ -21,14 +21,14 @@ namespace fs = std::filesystem;
 constexpr const char* noteName = ".installed";
 constexpr int noteFields = 4;
 
-/// The installed file that a copy was made of.
+/// The installed file that a copy was made from.
 struct Original {
-    std::string stamp; ///< size and time of last change, as they stand in the note
+    std::string stamp; ///< size and time of last change, as written in the manifest
     std::string sum;   ///< checksum of the content
 };
 using Note = std::map<std::string, Original>;
 
-/// 64-bit FNV-1a: tells a changed file from an unchanged one; no defence against forgery.
+/// 64-bit FNV-1a: detects changed files, but is no defence against forgery.
 std::string checksum(const std::string& path)
 {
     std::uint64_t sum = 14695981039346656037U;
@@ -45,7 +45,7 @@ std::string stampOf(const fs::path& file)
            std::to_string(fs::last_write_time(file).time_since_epoch().count());
 }
 
-/// A note that is missing or that somebody spoilt says nothing: every file then counts as the player's.
+/// A missing or corrupt manifest counts as empty.
 Note readNote(const std::string& path)
 {
     Note note;
@@ -73,7 +73,7 @@ void writeNote(const std::string& path, const Note& note)
     replaceLines(path, lines);
 }
 
-/// Brings one file. Returns what is to be noted of it.
+/// Syncs one file. Returns its manifest entry.
 Original follow(const fs::path& installed, const fs::path& target, const Original& noted)
 {
     Original now{stampOf(installed), checksum(installed.string())};
@@ -88,7 +88,7 @@ Original follow(const fs::path& installed, const fs::path& target, const Origina
         copyFile(installed.string(), target.string());
         return now;
     }
-    return {now.stamp, noted.sum}; // the player's own: looked at again when the installed one changes
+    return {now.stamp, noted.sum}; // the player's own; checked again when the installed file changes
 }
 
 std::vector<fs::path> filesToFollow(const std::string& installed)
@@ -107,7 +107,7 @@ std::vector<fs::path> filesToFollow(const std::string& installed)
 void followInstalledFiles(const std::string& installed, const std::string& target)
 {
     const std::string notePath = (fs::path(target) / noteName).string();
-    const FileLock lock(notePath); // two games that start at once
+    const FileLock lock(notePath); // two games may start at once
     Note note = readNote(notePath);
     bool changed = false;
     for (const fs::path& file : filesToFollow(installed)) {

@@ -23,7 +23,7 @@ namespace
 namespace fs = std::filesystem;
 
 constexpr const char* gameFolder = "lexigrove";
-constexpr const char* sureFile = "L1Ascii.txt"; // a folder with the game's data holds it
+constexpr const char* sureFile = "L1Ascii.txt"; // present in every folder that holds the game's data
 
 bool holdsData(const fs::path& folder)
 {
@@ -57,7 +57,7 @@ fs::path installedData(const ProgramFolderRequest& request)
     return !request.installedData.empty() && holdsData(request.installedData) ? request.installedData : "";
 }
 
-/// A FileError's lines as one.
+/// The lines of a FileError's text, joined.
 std::string oneLine(std::string text)
 {
     for (char& c : text) {
