@@ -10,26 +10,27 @@
 namespace lexigrove
 {
 
-/// The list `List1` of words: the first words of a word array as it stood when the list was filled, and the rows of
-/// them that the search box leaves. No item is made; filling takes no time whatever the number of words.
+/// The word list `List1`: the first words of a word array, as it was when the list was filled, and the rows among them
+/// that match the search box. No word is copied, so filling takes no time, however many there are.
 class WordView
 {
 public:
     void Clear();
 
-    /// Fills the list with entries 1 to `count` of `words`. The search stays as it is.
+    /// Fills the list with entries 1 to `count` of `words`. The search does not change.
     void fill(const WordList& words, int count);
 
     [[nodiscard]] int ListCount() const { return count_; }
 
-    /// The text at a position from 0 up, the search left aside. Throws std::out_of_range outside.
+    /// The text at a position, counted from 0, regardless of the search. Throws std::out_of_range otherwise.
     [[nodiscard]] std::string_view list(int position) const;
 
-    /// Leaves the rows whose words contain the text, upper and lower case alike; the empty text leaves all.
+    /// Keeps the rows whose words contain the text, in upper or lower case; an empty string keeps all.
     void setSearch(std::string_view text);
     [[nodiscard]] const std::string& search() const { return search_; }
 
-    /// The rows that the search leaves, and the text of one from 0 up. Throws std::out_of_range outside.
+    /// The number of rows that match the search, and the text of one, counted from 0. Throws std::out_of_range
+    /// otherwise.
     [[nodiscard]] int rowCount() const;
     [[nodiscard]] std::string_view row(int row) const;
 
@@ -39,7 +40,7 @@ private:
     WordList words_;
     int count_ = 0;
     std::string search_;              ///< in upper case
-    std::vector<std::int32_t> found_; ///< entries that the search leaves; not used while it is empty
+    std::vector<std::int32_t> found_; ///< entries that match the search; unused while it is empty
 };
 
 } // namespace lexigrove
