@@ -20,7 +20,7 @@ public:
     static constexpr int lineCount = 10;
     static constexpr int highestScore = 99999; ///< five digits; a higher score is stored as this
 
-    /// `folder` ends with its separator.
+    /// `folder` ends with a separator.
     ScoreFile(std::string folder, Dialogs& dialogs);
 
     /// If the file is missing or empty, says so and writes the default file: 19 down to 10 points, all Yelka's.

@@ -43,7 +43,7 @@ public:
     static constexpr std::size_t fileEntries = 13; ///< a file fills 0 to 12; entry 13 is never filled
     static constexpr const char* defaultName = "Default.sch";
 
-    /// `folder` ends with its separator.
+    /// `folder` ends with a separator.
     ColourScheme(std::string folder, Dialogs& dialogs);
 
     /// Makes `name` the current name and fills the table from that file; an empty name loads the default scheme. If the
