@@ -7,7 +7,7 @@
 namespace lexigrove
 {
 
-/// The rows of a `WordView` for a list widget. It holds no item and no text of its own.
+/// The rows of a `WordView` for a list widget. It stores no items or texts itself.
 class WordListModel : public QAbstractListModel
 {
     Q_OBJECT
@@ -15,7 +15,7 @@ class WordListModel : public QAbstractListModel
 public:
     explicit WordListModel(const WordView& words, QObject* parent = nullptr);
 
-    /// The view was filled, emptied or searched.
+    /// The words were filled, cleared or searched.
     void refresh();
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
