@@ -1,4 +1,4 @@
-// Brings the files of one folder into a program folder and leaves there what a player has changed.
+// Copies the files of one folder into a program folder and keeps what a player has changed there.
 
 #include "platform/installed_files.hpp"
 
