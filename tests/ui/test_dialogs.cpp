@@ -6,6 +6,7 @@
 #include "ui/pages/browser_view.hpp"
 #include "ui/play/words_view.hpp"
 
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
@@ -100,9 +101,14 @@ protected:
         ADD_FAILURE() << word << " is not listed";
         return 1;
     }
+    QPoint placeOf(QDialog& dialog, const std::string& word)
+    {
+        const WordsView& words = grid(dialog);
+        return words.visualRect(words.model()->index(rowOf(word) - 1, WordsGrid::wordColumn)).center();
+    }
     void clickRow(QDialog& dialog, const std::string& word)
     {
-        QTest::mouseClick(grid(dialog).viewport(), Qt::LeftButton, {}, grid(dialog).rowRect(rowOf(word)).center());
+        QTest::mouseClick(grid(dialog).viewport(), Qt::LeftButton, {}, placeOf(dialog, word));
     }
     bool isMarked(int tile) { return play_.theBoard().tile(tile).BorderStyle() == 1; }
     QColor selectedFace() { return toQColor(flow_.scheme.selectedFace()); }
@@ -134,10 +140,10 @@ TEST_F(HintsDialogTest, ARowPickedShowsItsPathOnTheBoard)
 TEST_F(HintsDialogTest, TheHeadingSortsAndSelectEntersTheWord)
 {
     script_.in("Form2", [&](QDialog& dialog) {
-        WordsView& words = grid(dialog);
+        const QHeaderView& headings = *grid(dialog).horizontalHeader();
         const auto clickHeading = [&](int column) {
-            const QPoint place(words.columnRect(column).center().x(), words.rowRect(0).center().y());
-            QTest::mouseClick(words.viewport(), Qt::LeftButton, {}, place);
+            const QPoint place(headings.sectionPosition(column) + 5, 5);
+            QTest::mouseClick(headings.viewport(), Qt::LeftButton, {}, place);
         };
         clickHeading(WordsGrid::wordColumn);
         EXPECT_EQ(rowOf("DO"), 3);
@@ -153,7 +159,8 @@ TEST_F(HintsDialogTest, TheHeadingSortsAndSelectEntersTheWord)
 TEST_F(HintsDialogTest, ADoubleClickAndEnterSelect)
 {
     script_.in("Form2", [&](QDialog& dialog) {
-        QTest::mouseDClick(grid(dialog).viewport(), Qt::LeftButton, {}, grid(dialog).rowRect(rowOf("DO")).center());
+        clickRow(dialog, "DO"); // the first half of the double click
+        QTest::mouseDClick(grid(dialog).viewport(), Qt::LeftButton, {}, placeOf(dialog, "DO"));
     });
     input(&GameFlow::getHint);
     EXPECT_EQ(flow_.game.state.WordsMade.text(1, WordsGrid::wordColumn), "DO");

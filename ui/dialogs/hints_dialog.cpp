@@ -21,7 +21,7 @@ public:
     HintsDialog(Host& gameHost, HintsForm& form)
         : FormDialog(gameHost, "Form2", form.Caption),
           form_(form),
-          WordsMade_(new WordsView(form.WordsMade, gameHost.theme)),
+          WordsMade_(new WordsView(form.WordsMade, gameHost.theme, this, &WindowColours::computerText)),
           Select_(newBox(form.BoxControl2, "BoxControl2")),
           Close_(newBox(form.BoxControl1, "BoxControl1")),
           Meaning_(newBox(form.Meaning, "Meaning"))

@@ -136,6 +136,9 @@ QLineEdit, QListView, QListWidget, QPlainTextEdit { background: @card; color: @c
     border-radius: 4px; padding: 3px; selection-background-color: @accent; selection-color: @accentText; }
 QLineEdit:focus, QListView:focus, QListWidget:focus { border-color: @accent; }
 QLineEdit:disabled { color: @disabled; background: @ground; }
+QTableView { background: @card; border: 1px solid @line; border-radius: 6px; padding: 4px 0; }
+QTableView QHeaderView { background: @card; border: none; }
+QTableView QHeaderView::section { background: @card; border: none; border-bottom: 1px solid @line; padding: 0 7px; }
 QGroupBox { border: 1px solid @line; border-radius: 6px; margin-top: 20px; padding: 4px 6px; }
 QGroupBox::title { subcontrol-origin: margin; subcontrol-position: top left; padding: 0 1px 4px 1px; color: @quietText; }
 QGroupBox::title:disabled { color: @disabled; }
