@@ -1,8 +1,8 @@
 #pragma once
 
 #include "dictionary/dictionary.hpp"
+#include "dictionary/filtered_words.hpp"
 #include "dictionary/maintained_format.hpp"
-#include "dictionary/word_view.hpp"
 #include "platform/clock.hpp"
 #include "platform/dialogs.hpp"
 #include "platform/screen.hpp"
@@ -99,7 +99,7 @@ public:
 
     std::string word;  ///< the word property, set before the window is shown
     std::string Text1; ///< the word being edited
-    WordView List1;
+    FilteredWords List1;
     Option Option1, Option2, Option3;
 
 private:

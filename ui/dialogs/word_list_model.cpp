@@ -5,7 +5,7 @@
 namespace lexigrove
 {
 
-WordListModel::WordListModel(const WordView& words, QObject* parent) : QAbstractListModel(parent), words_(words) {}
+WordListModel::WordListModel(const FilteredWords& words, QObject* parent) : QAbstractListModel(parent), words_(words) {}
 
 void WordListModel::refresh()
 {

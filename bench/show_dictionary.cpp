@@ -1,6 +1,6 @@
 // Show Dictionary over a dictionary of level 3: from the click until the list has been painted, against a list widget
 // that is given the same words as items.
-//   bench_word_view [LIST]
+//   bench_show_dictionary [LIST]
 
 #include "bench/level_three.hpp"
 #include "flow/game_flow.hpp"

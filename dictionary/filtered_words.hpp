@@ -12,7 +12,7 @@ namespace lexigrove
 
 /// The word list `List1`: the first words of a word array, as it was when the list was filled, and the rows among them
 /// that match the search box. No word is copied, so filling takes no time, however many there are.
-class WordView
+class FilteredWords
 {
 public:
     void Clear();
