@@ -10,6 +10,6 @@ namespace lexigrove
 /// The manifest ".installed" in `target` lists what was copied, with size, time and checksum, so that a start without
 /// changes reads no file's content. Subfolders and hidden files are skipped. Throws FileError or
 /// std::filesystem::filesystem_error.
-void followInstalledFiles(const std::string& installed, const std::string& target);
+void syncInstalledFiles(const std::string& installed, const std::string& target);
 
 } // namespace lexigrove

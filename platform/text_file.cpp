@@ -124,14 +124,14 @@ public:
     TemporaryFile& operator=(const TemporaryFile&) = delete;
 
     /// Gives the file the permissions of the one that it replaces, and the owner if the system allows.
-    void takeRightsOf(const struct stat& old) const
+    void copyPermissionsOf(const struct stat& old) const
     {
         struct stat own = {};
         const bool sameOwner =
             ::fstat(descriptor_.get(), &own) == 0 && own.st_uid == old.st_uid && own.st_gid == old.st_gid;
-        const bool ownerGiven = sameOwner || ::fchown(descriptor_.get(), old.st_uid, old.st_gid) == 0;
-        const mode_t rights = old.st_mode & (ownerGiven ? 07777U : 0777U);
-        if (::fchmod(descriptor_.get(), rights) != 0)
+        const bool hasOwner = sameOwner || ::fchown(descriptor_.get(), old.st_uid, old.st_gid) == 0;
+        const mode_t permissions = old.st_mode & (hasOwner ? 07777U : 0777U);
+        if (::fchmod(descriptor_.get(), permissions) != 0)
             throw FileError("Cannot write the file", target_, errno);
     }
 
@@ -240,7 +240,7 @@ void replaceFile(const std::string& path, std::string_view bytes)
 
     TemporaryFile temporary(target);
     if (exists)
-        temporary.takeRightsOf(old);
+        temporary.copyPermissionsOf(old);
     temporary.write(bytes);
     temporary.renameOverTarget();
 
