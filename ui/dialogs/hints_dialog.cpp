@@ -69,7 +69,7 @@ protected:
     }
 
 private:
-    /// An input of which the board behind shows something.
+    /// An input that changes what the board behind shows.
     template <std::invocable Action>
     void play(Action action)
     {
