@@ -18,7 +18,7 @@
 namespace lexigrove
 {
 
-/// The board and everything that is played on it, put together. What it is given outlives it.
+/// The board and the rules that play on it, put together. The constructor's arguments outlive it.
 struct Game {
     Game(const Ports& outside, Dictionary& words, SoundCues& cues, ColourScheme& colours, OptionsForm& form)
         : ports(outside), dictionary(words), sounds(cues), scheme(colours), options(form)
@@ -44,7 +44,7 @@ struct Game {
     WordEntry wordEntry{*this};
     RedTiles redTiles{*this};
 
-    /// Gives every tile the look of its multiplier, or of the path where it is part of it, in the current scheme.
+    /// Gives every tile its look in the current scheme: that of the path for a tile in it, else that of its multiplier.
     void refreshLooks();
 };
 

@@ -32,7 +32,7 @@ void ComputerTurn::take()
     end();
 }
 
-/// The player cannot act while the turn lasts, and the clock stands still.
+/// The player cannot act during the turn, and the clock is stopped.
 void ComputerTurn::begin()
 {
     Dc1_.SuspendCountDown();
@@ -41,7 +41,7 @@ void ComputerTurn::begin()
     game_.ports.screen.yield();
 }
 
-/// "Any" takes the first candidate twice as often as any other and never the last one of several.
+/// "Any" picks the first candidate twice as often as any other, and never the last one of several.
 int ComputerTurn::choosePosition(const CandidateList& candidates) const
 {
     const Strategy strategy = game_.options.settings.strategy;
@@ -49,8 +49,9 @@ int ComputerTurn::choosePosition(const CandidateList& candidates) const
         const double draw = game_.ports.random.reseedAndDraw(game_.ports.clock);
         return std::max(1, static_cast<int>(candidates.count() * draw));
     }
-    const int position = strategy == Strategy::LongestWord ? candidates.bestLengthPosition() : candidates.bestScorePosition();
-    return std::max(1, position); // no candidate is best where none scores: letters outside A to Z have no value
+    const int position =
+        strategy == Strategy::LongestWord ? candidates.bestLengthPosition() : candidates.bestScorePosition();
+    return std::max(1, position); // no candidate is best if none scores: letters outside A to Z have no value
 }
 
 void ComputerTurn::showSelected(std::span<const std::uint8_t> path)

@@ -12,14 +12,15 @@ class ScoreForm;
 class StatisticsForm;
 struct MeaningForm;
 
-/// The windows that the rules open, as a front end shows them. All but the help window are modal: the call returns when
-/// the form has been hidden or the window closed, and throws `Leaving` when the player closed the main window meanwhile.
+/// The windows that the rules open, as a front end shows them. All except the help window are modal: the call returns
+/// when the form has been hidden or the window closed, and throws `Leaving` if the player closed the main window
+/// meanwhile.
 class Windows
 {
 public:
     virtual ~Windows() = default;
 
-    /// Returns when `Startx` or `Exitx` has hidden the form; the form holds which.
+    /// Returns when `Startx` or `Exitx` has hidden the form; the form knows which.
     virtual void show(OptionsForm& form) = 0;
 
     /// Activates the form, and returns when one of its buttons has hidden it (closing it is `CloseForm`).
@@ -28,7 +29,7 @@ public:
     /// Returns when `Select` or `Close` has hidden the form (closing the window is `Close`).
     virtual void show(HintsForm& form) = 0;
 
-    /// Network and page errors are the browser view's.
+    /// The browser view handles network and page errors.
     virtual void show(const MeaningForm& form) = 0;
 
     virtual void show(const StatisticsForm& form) = 0;

@@ -36,7 +36,7 @@ BoardView::BoardView(GameFlow& flow, const Theme& theme, QWidget* parent)
     setObjectName("Picture1");
     setAccessibleName(tr("Board"));
     setMouseTracking(true);
-    setFocusPolicy(Qt::StrongFocus); // keys that it leaves go to the window
+    setFocusPolicy(Qt::StrongFocus); // keys that it ignores go to the window
     connect(&theme, &Theme::changed, this, [this] { update(); });
 }
 
@@ -190,7 +190,7 @@ void BoardView::mouseReleaseEvent(QMouseEvent* event)
 
 void BoardView::paintEvent(QPaintEvent* event)
 {
-    shape_.fit(size(), devicePixelRatioF()); // the window may have come to another screen
+    shape_.fit(size(), devicePixelRatioF()); // the window may have moved to another screen
     QPainter painter(this);
     const QRectF dirty = event->rect();
     paintGround(painter, dirty);
@@ -233,7 +233,7 @@ void BoardView::paintGround(QPainter& painter, const QRectF& dirty) const
     painter.setRenderHint(QPainter::Antialiasing, false);
 }
 
-/// A little arrow under each letter that can drop; during a drop the guide line in its place.
+/// A little arrow under each letter that can drop or, during a drop, the guide line.
 void BoardView::paintDropMarks(QPainter& painter) const
 {
     painter.setBrush(toQColor(theme_.colours().accent));
@@ -289,7 +289,7 @@ void BoardView::paintLinks(QPainter& painter) const
         tiles_.paintLink(painter, placeOfTile(marks_.path[i - 1]), placeOfTile(marks_.path[i]));
 }
 
-/// One of the waiting tiles, or of the sliding ones.
+/// A waiting tile or a sliding one.
 void BoardView::paintControl(QPainter& painter, const BoxControl& control, Spot spot) const
 {
     const QRectF place = shape_.tilePlace(control);

@@ -15,8 +15,7 @@ namespace lexigrove
 {
 
 /// The board panel `Picture1` with the drop row above it: the 64 `Tiles`, the waiting `TopDrop`, the links of the path,
-/// the sliding panel `Picture2` and what falls. It shows the models and gives the
-/// flow what was clicked.
+/// the sliding panel `Picture2` and what falls. It shows the models and passes clicks on to the flow.
 class BoardView : public QWidget
 {
     Q_OBJECT
@@ -24,7 +23,7 @@ class BoardView : public QWidget
 public:
     BoardView(GameFlow& flow, const Theme& theme, QWidget* parent = nullptr);
 
-    /// Repaints what differs from what is shown.
+    /// Repaints whatever has changed.
     void synchronise();
 
     /// Where tile 1 to 64, or the waiting tile of column 1 to 8, is shown.
@@ -48,13 +47,13 @@ protected:
     void leaveEvent(QEvent* event) override;
 
 private:
-    /// What was painted of a control.
+    /// What was last painted of a control.
     struct Shown {
         std::uint32_t revision = 0;
         QRectF place;
     };
 
-    /// A place that the pointer is over or that is pressed: a tile, or a column of the drop row.
+    /// A place under the pointer or pressed: a tile, or a column of the drop row.
     struct Spot {
         int tile = 0;
         int col = 0;

@@ -14,7 +14,7 @@ class ScoreForm;
 class StatisticsForm;
 struct MeaningForm;
 
-// The modal windows over their forms. Each returns when its form was hidden or its window closed.
+// The modal windows for the forms. Each call returns when its form has been hidden or its window closed.
 
 /// The options dialog `Form7`. Closing it is "Exit"; Esc does nothing, so that a slip never ends the program.
 void runOptionsDialog(Host& host, OptionsForm& form);
@@ -22,11 +22,11 @@ void runOptionsDialog(Host& host, OptionsForm& form);
 /// The top-ten window `ScoreForm`. Closing it, by its frame or with Esc, is "Close".
 void runScoreDialog(Host& host, ScoreForm& form);
 
-/// The hints window `Form2`. It opens to the right of the board, which stays in sight, for the row picked is shown
+/// The hints window `Form2`. It opens to the right of the board, which stays visible, because the row picked is shown
 /// there at once. Enter and a double click on a row select it; Esc is "Close".
 void runHintsDialog(Host& host, HintsForm& form);
 
-/// The meaning window `Form3`: the browser view `WbDictionary` fills it. Esc closes it, and the page ends with it.
+/// The meaning window `Form3`: the browser view `WbDictionary` fills it. Esc closes it together with its page.
 void runMeaningDialog(Host& host, BrowserLoader& loader, const MeaningForm& form);
 
 /// The statistics window `Form4`, with its chart in `Picture1`.
