@@ -1,5 +1,7 @@
 #include "console/console.hpp"
 
+#include "platform/ascii.hpp"
+
 #include <algorithm>
 #include <cstdint>
 #include <random>
@@ -28,7 +30,7 @@ std::string_view takeId(std::string_view& line)
 {
     const std::size_t end = std::min(line.find(' '), line.size());
     const std::string_view id = line.substr(0, end);
-    if (id.empty() || !std::all_of(id.begin(), id.end(), [](char c) { return c >= '0' && c <= '9'; }))
+    if (!ascii::isNumber(id))
         return {};
     line.remove_prefix(end);
     return id;

@@ -1,7 +1,7 @@
 #include "console/command.hpp"
+#include "platform/ascii.hpp"
 
 #include <algorithm>
-#include <cctype>
 
 namespace lexigrove
 {
@@ -16,8 +16,8 @@ std::string cell(const BoxControl& tile)
     if (!tile.Visible())
         return ".";
     std::string text = tile.Caption().empty() ? "_" : tile.Caption();
-    if (tile.Tag() == "X" && text[0] >= 'A' && text[0] <= 'Z')
-        text[0] = static_cast<char>(text[0] - 'A' + 'a');
+    if (tile.Tag() == "X")
+        text[0] = ascii::toLower(text[0]);
     return tile.MaskColor() == multiplier::plain ? text : text + std::to_string(tile.MaskColor());
 }
 

@@ -1,7 +1,10 @@
 #include "console/option_settings.hpp"
 
+#include "platform/ascii.hpp"
+
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace lexigrove
 {
@@ -69,18 +72,13 @@ bool isFreeText(std::string_view key)
 /// Letters in any case, or what `options` prints of a game whose score is not recorded: "x".
 void checkPreset(const std::string& value)
 {
-    const auto isLetter = [](char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); };
-    if (value.size() > GameSettings::presetLength || !std::all_of(value.begin(), value.end(), isLetter))
+    if (value.size() > GameSettings::presetLength || !std::all_of(value.begin(), value.end(), ascii::isLetter))
         throw CommandError("preset must be up to 100 letters A to Z: " + value);
 }
 
 std::string presetLetters(std::string value)
 {
-    if (value == "x")
-        return value;
-    for (char& c : value)
-        c = static_cast<char>(c >= 'a' ? c - 'a' + 'A' : c);
-    return value;
+    return value == "x" ? value : ascii::upperCase(std::move(value));
 }
 
 } // namespace

@@ -1,4 +1,5 @@
 #include "console/command.hpp"
+#include "platform/ascii.hpp"
 
 #include <algorithm>
 #include <cstdint>
@@ -22,11 +23,9 @@ std::string letterArgument(Arguments& arguments)
     const std::string text = arguments.required("letter");
     if (text == ".")
         return {};
-    const char letter =
-        static_cast<char>(text.size() == 1 && text[0] >= 'a' && text[0] <= 'z' ? text[0] - 'a' + 'A' : text[0]);
-    if (text.size() != 1 || letter < 'A' || letter > 'Z')
+    if (text.size() != 1 || !ascii::isLetter(text[0]))
         throw CommandError("letter must be A to Z or .: " + text);
-    return {letter};
+    return ascii::upperCase(text);
 }
 
 TileEdit tileEdit(Arguments& arguments)

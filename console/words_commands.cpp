@@ -1,7 +1,7 @@
 #include "console/command.hpp"
 #include "dictionary/field_cipher.hpp"
-#include "dictionary/word_text.hpp"
 #include "opponent/board_snapshot.hpp"
+#include "platform/ascii.hpp"
 #include "settings/window_colours.hpp"
 
 namespace lexigrove
@@ -151,7 +151,7 @@ Lines saveConfiguration(CommandContext& context)
 std::string schemeArgument(Arguments& arguments)
 {
     const std::string text = arguments.rest();
-    return std::string(trimBlanks(text));
+    return std::string(ascii::trimmed(text));
 }
 
 Lines loadScheme(CommandContext& context, const std::string& name)

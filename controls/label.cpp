@@ -1,5 +1,7 @@
 #include "controls/label.hpp"
 
+#include "platform/ascii.hpp"
+
 #include <cstdint>
 #include <limits>
 
@@ -18,7 +20,7 @@ int numberOf(std::string_view caption)
 
     std::int64_t number = 0;
     for (const char c : caption) {
-        if (c < '0' || c > '9')
+        if (!ascii::isDigit(c))
             break;
         number = number * 10 + (c - '0');
         if (number > std::numeric_limits<int>::max())

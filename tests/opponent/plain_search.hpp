@@ -4,6 +4,7 @@
 #include "dictionary/word_list.hpp"
 #include "dictionary/word_text.hpp"
 #include "opponent/search_board.hpp"
+#include "platform/ascii.hpp"
 
 #include <array>
 #include <cstdio>
@@ -31,7 +32,7 @@ public:
         index_ = {};
         for (int tile = 1; tile <= 64; ++tile) {
             const int entry = letterCode(tile) - 64;
-            if (!trimBlanks(letter(tile)).empty() && entry >= 1 && entry <= 64)
+            if (!ascii::trimmed(letter(tile)).empty() && entry >= 1 && entry <= 64)
                 index_[static_cast<std::size_t>(entry)] += std::to_string(tile) + ",";
         }
     }
