@@ -4,6 +4,7 @@
 #include "dictionary/word_list.hpp"
 #include "dictionary/word_text.hpp"
 #include "opponent/search_board.hpp"
+#include "platform/ascii.hpp"
 
 #include <random>
 #include <string>
