@@ -40,8 +40,8 @@ TEST(RedTiles, PressureMakesThemAtTheTopsOfColumns)
     EXPECT_EQ(played.flow.dictionary.redThreshold(), 499);
     for (int i = 0; i < 5000; ++i)
         played.flow.redTimerTick();
-    EXPECT_EQ(redTilesDrawn(played.board()), RedTiles::mostRedTiles);
-    EXPECT_EQ(state.redTilesOnBoard, RedTiles::mostRedTiles);
+    EXPECT_EQ(redTilesDrawn(played.board()), RedTiles::maxRedTiles);
+    EXPECT_EQ(state.redTilesOnBoard, RedTiles::maxRedTiles);
     for (int tile = 1; tile <= 64; ++tile) {
         if (played.board().maskcolor(tile) == multiplier::red) {
             EXPECT_LE(played.board().row(tile), 4) << "as high as a plain tile stands";
@@ -154,7 +154,7 @@ TEST(RedTiles, ADayOfTicks)
         for (const int secondsPerWord : {0, 20}) {
             std::vector<int> expected;
             int due = 0;
-            for (int tile = 0; tile < RedTiles::mostRedTiles; ++tile) {
+            for (int tile = 0; tile < RedTiles::maxRedTiles; ++tile) {
                 const int last = expected.empty() ? 0 : expected.back();
                 const auto pressureAt = [&](int t) { return t + (secondsPerWord > 0 ? 3 * (t / secondsPerWord) : 0); };
                 due = pressureAt(last) + thresholds[level] - tile;
