@@ -16,8 +16,8 @@ namespace lexigrove
 namespace
 {
 
-// Guards texts on their way through the window: every byte must come back, and what the game's text does not hold is
-// told by a question mark each.
+// Guards texts on their way through the window: every byte must come back, and each character that the game's text
+// cannot hold becomes a question mark.
 TEST(Text, IsWindows1252)
 {
     for (int byte = 0; byte < 256; ++byte) {
@@ -79,7 +79,7 @@ TEST(Sound, IsSilentAndQuickWithoutAFile)
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
 }
 
-// Guards the command line: a slip must be told, not passed over.
+// Guards the command line: a slip must be reported, not ignored.
 TEST(StartOptions, AreRead)
 {
     const StartOptions options =
