@@ -3,6 +3,7 @@
 #include "tests/ui/played_window.hpp"
 #include "ui/dialogs/beside.hpp"
 #include "ui/dialogs/score_dialog.hpp"
+#include "ui/look/game_icon.hpp"
 #include "ui/pages/browser_view.hpp"
 #include "ui/play/words_view.hpp"
 
@@ -277,6 +278,7 @@ TEST_F(DialogTest, MaintenanceSearchesAndAddsAWord)
 TEST_F(DialogTest, TheAboutBoxClosesThreeWays)
 {
     script_.in("AboutForm", [](QDialog& dialog) {
+        EXPECT_EQ(gameIcon().pixmap(256).toImage().pixelColor(100, 100), QColor("#24382c")) << "no picture in there";
         EXPECT_TRUE(dialog.findChild<QLabel*>("AboutText")->text().contains("LexiGrove - January 2005"));
         QTest::keyClick(&dialog, Qt::Key_Escape);
     });
