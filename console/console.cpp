@@ -57,7 +57,7 @@ void Console::run()
             carryOut(*line);
         } else {
             flow_.perform(Command::Exit);
-            tellExit();
+            writeExit();
         }
     }
 }
@@ -72,7 +72,7 @@ void Console::carryOut(const std::string& line)
     Arguments arguments(rest);
     try {
         const Lines lines = answer(arguments.required("command"), arguments);
-        tellExit();
+        writeExit();
         channel_.writeAnswer(id, lines);
     } catch (const CommandError& error) {
         channel_.writeFailure(id, error.what());
@@ -89,7 +89,7 @@ Lines Console::answer(const std::string& name, Arguments& arguments)
     return command->run(context_, arguments);
 }
 
-void Console::tellExit()
+void Console::writeExit()
 {
     if (flow_.ended())
         channel_.writeEvent("exit");

@@ -79,7 +79,7 @@ void checkPreset(const std::string& value)
 void choosePresetLetters(PresetLetters& preset, const std::string& value)
 {
     if (value == "x")
-        preset.closeScoreOffer();
+        preset.markUnrecorded();
     else
         preset.choose(ascii::upperCase(value));
 }

@@ -82,20 +82,20 @@ struct Setting {
     int GameState::*number; ///< null for those that are set differently
 };
 
-constexpr int mostPoints = 1'000'000'000; // adding a word's score is then far from overflowing
-constexpr int most16 = std::numeric_limits<std::int16_t>::max();
-constexpr int least16 = std::numeric_limits<std::int16_t>::min();
+constexpr int maxPoints = 1'000'000'000; // adding a word's score is then far from overflowing
+constexpr int max16 = std::numeric_limits<std::int16_t>::max();
+constexpr int min16 = std::numeric_limits<std::int16_t>::min();
 
 constexpr Setting settings[] = {
-    {"YourScore", -mostPoints, mostPoints, &GameState::yourScore},
-    {"CompScore", -mostPoints, mostPoints, &GameState::compScore},
-    {"TilesLeft", least16, most16, nullptr},
-    {"ticks", 0, most16, &GameState::tickCount},
-    {"hints_used", 0, most16, &GameState::hintsUsed},
-    {"red_threshold", least16, most16, nullptr},
-    {"last_pressure", -mostPoints, mostPoints, &GameState::lastPressure},
-    {"bonus_tiles", 0, most16, &GameState::bonusTilesOnBoard},
-    {"red_tiles_used", 0, most16, &GameState::redTilesUsed},
+    {"YourScore", -maxPoints, maxPoints, &GameState::yourScore},
+    {"CompScore", -maxPoints, maxPoints, &GameState::compScore},
+    {"TilesLeft", min16, max16, nullptr},
+    {"ticks", 0, max16, &GameState::tickCount},
+    {"hints_used", 0, max16, &GameState::hintsUsed},
+    {"red_threshold", min16, max16, nullptr},
+    {"last_pressure", -maxPoints, maxPoints, &GameState::lastPressure},
+    {"bonus_tiles", 0, max16, &GameState::bonusTilesOnBoard},
+    {"red_tiles_used", 0, max16, &GameState::redTilesUsed},
 };
 
 struct NewValue {

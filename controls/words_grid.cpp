@@ -12,7 +12,7 @@ namespace
 {
 
 /// The lower-case form of a Windows-1252 capital letter; any other character is returned unchanged.
-unsigned char smallLetter(char c)
+unsigned char lowerCase(char c)
 {
     const auto code = static_cast<unsigned char>(c);
     if (ascii::isUpper(c) || (code >= 0xC0 && code <= 0xDE && code != 0xD7))
@@ -32,7 +32,7 @@ bool isBefore(const WordsRow& a, const WordsRow& b, int column)
     case WordsGrid::lengthColumn:
         return a.word.size() < b.word.size();
     default:
-        return std::ranges::lexicographical_compare(a.word, b.word, {}, smallLetter, smallLetter);
+        return std::ranges::lexicographical_compare(a.word, b.word, {}, lowerCase, lowerCase);
     }
 }
 

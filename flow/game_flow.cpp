@@ -37,7 +37,7 @@ ScoreForm::Answer offerScore(GameParts& parts)
     return showTopTen(parts.scoreForm, parts.ports.windows, score);
 }
 
-void tellWinner(const GameState& state, StatusLine& status)
+void showWinner(const GameState& state, StatusLine& status)
 {
     const int lead = state.yourScore - state.compScore;
     if (lead > 0)
@@ -131,7 +131,7 @@ void GameFlow::openOptionsAndStart()
 void GameFlow::startGame()
 {
     input(When::Always, [this](GameParts& p) {
-        if (!p.options.settings.presetLetters.wait()) // a game was dealt from them, or its score is not recorded
+        if (!p.options.settings.presetLetters.areWaiting()) // a game was dealt from them, or its score is not recorded
             p.options.settings.presetLetters.clear();
         clearGame();
         beginGame();
@@ -171,7 +171,7 @@ void GameFlow::beginGame()
     p.game.supply.dealLetters();
     p.game.refreshLooks();
     if (p.game.state.computerGame) {
-        p.options.settings.presetLetters.closeScoreOffer();
+        p.options.settings.presetLetters.markUnrecorded();
         p.Dc1.ShowTimeOnly(false);
         p.Dc1.ClockStartValue(gameSeconds);
         p.Dc1.StartCountdown();
@@ -202,7 +202,7 @@ void GameFlow::newGame()
             return;
         PresetLetters& preset = p.options.settings.presetLetters;
         if (preset.isNormalGame()) {
-            preset.closeScoreOffer(); // offered once: leaving does not record the score a second time
+            preset.markUnrecorded(); // offered once: leaving does not record the score a second time
             if (offerScore(p) == ScoreForm::Answer::ExitProgram)
                 leave();
         }
@@ -234,7 +234,7 @@ void GameFlow::endOfGame()
     PresetLetters& preset = p.options.settings.presetLetters;
     if (preset.isNormalGame()) {
         p.game.state.statistics.setHintsUsed(p.game.state.hintsUsed);
-        preset.closeScoreOffer(); // offered once: leaving does not record the score a second time
+        preset.markUnrecorded(); // offered once: leaving does not record the score a second time
         const ScoreForm::Answer answer = offerScore(p);
         if (answer == ScoreForm::Answer::ExitProgram)
             leave();
@@ -257,7 +257,7 @@ void GameFlow::clockExpired()
     parts_->Dc1.SuspendCountDown(); // reported once
     parts_->letterSwap.cancel();
     parts_->ports.dialogs.message("Game over\r\n5 minutes have elapsed");
-    tellWinner(parts_->game.state, parts_->ports.status);
+    showWinner(parts_->game.state, parts_->ports.status);
     endOfGame();
 }
 

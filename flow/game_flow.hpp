@@ -114,7 +114,7 @@ private:
     void loseGame(int col);
     void endOfGame();
     void clockExpired();
-    void openingWindow();
+    void prepareWindow();
     void pauseOrResume();
     void resume();
     [[noreturn]] void leave();

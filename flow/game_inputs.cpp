@@ -46,7 +46,7 @@ const GameFlow::Entry& GameFlow::entryOf(Command command)
         Entry{Command::GetHint, When::InPlay, Ends, [](Flow&, Parts& p) { p.hints.getHint(); }},
         Entry{Command::CheckWord, When::InPlay, Ends,
               [](Flow&, Parts& p) { checkSpelling(p.game.selection, p.dictionary, p.sounds, p.ports.status); }},
-        Entry{Command::ShowMeaning, When::InPlay, Ends, [](Flow&, Parts& p) { p.meanings.showOfCurrentRow(); }},
+        Entry{Command::ShowMeaning, When::InPlay, Ends, [](Flow&, Parts& p) { p.meanings.showForCurrentRow(); }},
         Entry{Command::AddWord, When::InPlay, Ends,
               [](Flow&, Parts& p) {
                   if (!p.maintenance.open(p.game.selection.word(), p.ports.status))
@@ -56,24 +56,24 @@ const GameFlow::Entry& GameFlow::entryOf(Command command)
               }},
         Entry{Command::TopTen, When::InPlay, Ends,
               [](Flow& flow, Parts& p) {
-                  flow.openingWindow();
+                  flow.prepareWindow();
                   showTopTen(p.scoreForm, p.ports.windows, {});
               }},
         Entry{Command::Statistics, When::InPlay, Ends,
               [](Flow& flow, Parts& p) {
-                  flow.openingWindow();
+                  flow.prepareWindow();
                   p.game.state.statistics.setHintsUsed(p.game.state.hintsUsed);
                   p.statisticsForm.activate(p.game.state.computerGame, p.dictionary.letters.letterCounts);
                   p.ports.windows.show(p.statisticsForm);
               }},
         Entry{Command::Help, When::Always, Ends,
               [](Flow& flow, Parts& p) {
-                  flow.openingWindow();
+                  flow.prepareWindow();
                   p.ports.windows.showHelp(p.folder + "lexigrove.htm");
               }},
         Entry{Command::About, When::Always, Ends,
               [](Flow& flow, Parts& p) {
-                  flow.openingWindow();
+                  flow.prepareWindow();
                   p.ports.windows.showAbout();
               }},
         Entry{Command::AskPassword, When::Always, Ends,
@@ -150,7 +150,7 @@ void GameFlow::typeLetter(char letter)
 {
     input(When::InPlay, [=](GameParts& p) {
         p.letterSwap.cancel(); // typing counts as another action
-        spellOn(p.game, letter);
+        extendWord(p.game, letter);
     });
 }
 
@@ -159,7 +159,7 @@ void GameFlow::typeWord(const std::string& word)
     input(When::InPlay, [&](GameParts& p) {
         p.letterSwap.cancel();
         for (const char letter : word) {
-            if (!spellOn(p.game, letter))
+            if (!extendWord(p.game, letter))
                 return;
         }
     });
@@ -210,7 +210,7 @@ void GameFlow::releaseDeveloperKey(DeveloperKey key)
 }
 
 /// What precedes every window opened from the main one: a sound, and no pressure until the next word.
-void GameFlow::openingWindow()
+void GameFlow::prepareWindow()
 {
     parts_->game.state.redTileHold = true;
     parts_->sounds.play(cue::menu);
@@ -248,9 +248,9 @@ void GameFlow::tick(Timer timer)
     case Timer::Push:
         input(When::InPlay, [this](GameParts& p) {
             const RedTiles::PushResult push = p.game.redTiles.pushTimerTick();
-            if (push.what == RedTiles::Push::Pushed)
+            if (push.outcome == RedTiles::Push::Pushed)
                 p.letterSwap.cancel();
-            if (push.what == RedTiles::Push::Lost)
+            if (push.outcome == RedTiles::Push::Lost)
                 loseGame(push.col);
         });
         break;

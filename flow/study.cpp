@@ -11,7 +11,7 @@ namespace
 {
 
 /// Updates the counts that follow from the tiles, and the tiles' looks.
-void takeBoardAsItStands(Game& game)
+void updateFromBoard(Game& game)
 {
     GameState& state = game.state;
     state.redTilesOnBoard = 0;
@@ -44,7 +44,7 @@ void Study::editTile(int tile, const std::string& letter, Colour maskcolor)
         control.Caption(letter);
         control.MaskColor(maskcolor);
         control.Visible(!letter.empty());
-        takeBoardAsItStands(p.game);
+        updateFromBoard(p.game);
     });
 }
 
@@ -53,7 +53,7 @@ void Study::editWaiting(int col, const std::string& letter)
     flow_.input(When::InGame, [&](GameParts& p) {
         p.letterSwap.cancel();
         p.game.supply.waitAtHome(col, letter);
-        takeBoardAsItStands(p.game);
+        updateFromBoard(p.game);
     });
 }
 

@@ -12,7 +12,7 @@ struct Game;
 class RedTiles
 {
 public:
-    static constexpr int mostRedTiles = 4;
+    static constexpr int maxRedTiles = 4;
 
     explicit RedTiles(Game& game) : game_(game) {}
 
@@ -34,7 +34,7 @@ public:
     };
 
     struct PushResult {
-        Push what = Push::Nothing;
+        Push outcome = Push::Nothing;
         int col = 0; ///< the column drawn, 0 for Nothing
     };
 

@@ -42,7 +42,7 @@ const CandidateList& BoardSearch::sweep(const SearchBoard& board, const WordList
     }
     board_.prepare(board);
     candidates_.clear(board);
-    for (WordTrie::Node node = 0; node != trie_.firstLetters(); ++node) {
+    for (WordTrie::Node node = 0; node != trie_.firstLetterCount(); ++node) {
         const char letter = trie_.letter(node);
         const Frontier paths = board_.start(upperCase(letter));
         visitChildren(node, paths, 1, letterValue(letter));

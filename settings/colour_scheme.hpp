@@ -34,7 +34,7 @@ inline constexpr std::size_t computer = 12; ///< the computer's back colour
 using ColourTable = std::array<Colour, 14>;
 
 /// The table before any file is read.
-ColourTable groveColours();
+ColourTable builtInColours();
 
 /// The colour table, filled from the scheme files "*.sch" of the program folder.
 class ColourScheme
@@ -81,7 +81,7 @@ public:
 private:
     std::string folder_;
     Dialogs& dialogs_;
-    ColourTable entries_ = groveColours();
+    ColourTable entries_ = builtInColours();
 };
 
 /// Read one line of a scheme file (red;green;blue) or of the default scheme (a whole colour before the first ";").

@@ -74,7 +74,7 @@ Colour readableText(Colour wanted, Colour ground, Colour otherGround)
     const Colour end = darker ? black : white;
     for (int i = 0; i < steps; ++i) {
         const Colour text = mixed(wanted, end, static_cast<double>(i) / steps);
-        if (worseContrast(text, ground, otherGround) >= leastContrast)
+        if (worseContrast(text, ground, otherGround) >= minimumContrast)
             return text;
     }
     return end;
@@ -85,7 +85,7 @@ Colour quietOn(Colour text, Colour ground)
     constexpr double quietest = 0.35;
     for (int i = 0; i < steps; ++i) {
         const Colour quiet = mixed(text, ground, quietest * (steps - i) / steps);
-        if (contrastRatio(quiet, ground) >= leastContrast)
+        if (contrastRatio(quiet, ground) >= minimumContrast)
             return quiet;
     }
     return text;
@@ -96,8 +96,8 @@ Colour lifted(Colour face, Colour text)
     constexpr double visibly = 1.06;
     const Colour lighter = mixed(face, white, 0.10);
     const Colour darker = mixed(face, black, 0.07);
-    const bool lighterReads = contrastRatio(text, lighter) >= leastContrast;
-    const bool darkerReads = contrastRatio(text, darker) >= leastContrast;
+    const bool lighterReads = contrastRatio(text, lighter) >= minimumContrast;
+    const bool darkerReads = contrastRatio(text, darker) >= minimumContrast;
     if (lighterReads && (contrastRatio(lighter, face) >= visibly || !darkerReads))
         return lighter;
     return darker;

@@ -8,7 +8,7 @@ namespace lexigrove
 // Pure functions of plain colours; system colours are resolved beforehand.
 
 /// The minimum contrast between a text and its background.
-inline constexpr double leastContrast = 4.5;
+inline constexpr double minimumContrast = 4.5;
 
 /// The mixture of two colours: `share` (0 to 1) of `b`, the rest of `a`.
 Colour mixed(Colour a, Colour b, double share);

@@ -21,7 +21,7 @@ Colour linkColour(const ColourScheme& scheme, Colour accent)
 Colour toned(Colour ground, Colour text, double share)
 {
     const Colour towards = mixed(ground, text, share);
-    if (contrastRatio(readableOn(ground), towards) >= leastContrast)
+    if (contrastRatio(readableOn(ground), towards) >= minimumContrast)
         return towards;
     return mixed(ground, readableOn(ground) == rgb(0, 0, 0) ? rgb(255, 255, 255) : rgb(0, 0, 0), share);
 }

@@ -8,7 +8,7 @@ namespace lexigrove
 {
 
 /// All colours of the windows, as plain colours, derived from the 13 of a scheme. Every text has at least
-/// `leastContrast` on the background that its comment names. Low contrast adjusts the text, never a scheme colour.
+/// `minimumContrast` on the background that its comment names. Low contrast adjusts the text, never a scheme colour.
 struct WindowColours {
     Colour ground;    ///< of windows, frames and panels
     Colour text;      ///< on the background and the strip

@@ -12,7 +12,7 @@ namespace lexigrove
 namespace
 {
 
-/// What the console writes for this input, in a folder without any files but a dictionary.
+/// What the console writes for this input, in a folder that holds only a dictionary.
 std::string output(const std::string& input, std::optional<double> timeOfDay = 45240)
 {
     const TemporaryFolder folder;
@@ -60,7 +60,7 @@ TEST(Console, WithoutATimeOfDayEveryGameIsAnother)
     EXPECT_NE(output("new_game\nshow\nquit", std::nullopt), output("new_game\nshow\nquit", std::nullopt));
 }
 
-/// Guards against bytes that break a line, and blanks that a text loses.
+/// Guards against bytes that break a line, and against a text losing its blanks.
 TEST(Console, AnyTextPassesBothWays)
 {
     EXPECT_TRUE(rc::check([](const std::string& text) {

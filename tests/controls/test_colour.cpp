@@ -19,12 +19,12 @@ TEST(Colour, contrastFollowsTheStandard)
     EXPECT_NEAR(contrastRatio(rgb(0, 0, 255), white), 8.59, 0.005);
     EXPECT_NEAR(contrastRatio(rgb(5, 5, 5), rgb(5, 5, 5)), 1, 1e-9);
 
-    for (unsigned step = 0; step < 256; step += 15) // the better of the two always reads
+    for (unsigned step = 0; step < 256; step += 15) // the better of the two is always readable
         EXPECT_GE(contrastRatio(readableOn(rgb(step, 255 - step, step / 2)), rgb(step, 255 - step, step / 2)), 4.5)
             << step;
 }
 
-// Guards unreadable default windows, and an index from a foreign scheme file that leads beyond the table.
+// Guards against unreadable default windows, and against an index from a foreign scheme file beyond the table.
 TEST(Colour, systemColoursResolve)
 {
     const SystemPalette palette;

@@ -30,8 +30,8 @@ int litSegments(const Dc& clock)
     return count;
 }
 
-// Guards the segment table, in which a swapped pair of segments still "works", and shows wrong figures; and a look-up
-// beyond the figures.
+// Guards the segment table, in which a swapped pair of segments still "works" but shows wrong figures; and against a
+// look-up beyond the figures.
 TEST(Dc, figuresLightTheirSegments)
 {
     Dc clock;
@@ -55,8 +55,8 @@ TEST(Dc, figuresLightTheirSegments)
         EXPECT_THROW(static_cast<void>(clock.lin2(line)), std::out_of_range);
 }
 
-// Guards the one-tick distance between 00:00 and the expiry, its repetition until the clock is stopped, and a counter
-// that wraps round.
+// Guards the one-tick distance between 00:00 and the expiry, its repetition until the clock is stopped, and against a
+// counter that wraps around.
 TEST(Dc, aCountdownExpiresOneTickAfterItShowsZero)
 {
     Dc clock;
@@ -138,7 +138,7 @@ TEST(Dc, linesStandInTheirPlaces)
     EXPECT_EQ(clock.Shapet().size, (Size{1650, 580}));
 }
 
-// Guards the frame's clicks: the wrap of the thickness and the round of the themes.
+// Guards the frame's clicks, which cycle through the thicknesses and the themes.
 TEST(Dc, clicksOnItsFrameChangeItsLook)
 {
     Dc clock;

@@ -17,7 +17,7 @@ int sumOf(const std::array<int, 27>& counts)
     return std::accumulate(counts.begin(), counts.end(), 0);
 }
 
-/// As many of each letter as it has places: "AAAABB".
+/// Each letter as often as it has places: "AAAABB".
 std::string poolOf(const std::array<int, 27>& counts)
 {
     std::string pool;
@@ -63,7 +63,7 @@ TEST(LetterTables, SharesFillThePool)
     };
     EXPECT_TRUE(rc::check([&] {
         LetterFrequencies frequencies;
-        const int rare = *rc::gen::inRange(0, 26); // so many letters stand once or twice, the others often
+        const int rare = *rc::gen::inRange(0, 26); // this many letters occur once or twice, the others often
         for (std::size_t letter = 1; letter <= 26; ++letter)
             frequencies.letters[letter] =
                 *rc::gen::inRange<std::int64_t>(0, static_cast<int>(letter) > rare ? 9000 : 3);

@@ -16,7 +16,7 @@ namespace
 void expectReadable(const ColourScheme& scheme, const WindowColours& window)
 {
     const auto expect = [](Colour text, Colour ground, const char* what) {
-        EXPECT_GE(contrastRatio(text, ground), leastContrast) << what;
+        EXPECT_GE(contrastRatio(text, ground), minimumContrast) << what;
     };
     for (const Colour multiplier : multiplier::all) {
         SCOPED_TRACE("multiplier " + std::to_string(multiplier));
@@ -43,14 +43,14 @@ void expectReadable(const ColourScheme& scheme, const WindowColours& window)
     EXPECT_EQ(window.computerBack, scheme.plain(scheme_entry::computer));
 }
 
-/// How light a colour is without its hue, 0 to 100 (CIE L*), which is what a grey picture shows.
+/// The lightness of a colour, 0 to 100 (CIE L*), which is what a grey picture shows.
 double greyLevel(Colour colour)
 {
     const double luminance = contrastRatio(colour, rgb(0, 0, 0)) * 0.05 - 0.05;
     return luminance > 0.008856 ? 116 * std::cbrt(luminance) - 16 : 903.3 * luminance;
 }
 
-// Guards against a shipped scheme that does not load, or that somebody cannot read: Clarity's tiles tell apart without
+// Guards against a shipped scheme that does not load, or that somebody cannot read: Clarity's tiles differ even without
 // hues, and Contrast's texts are the strongest. A game without scheme files looks like one with them.
 TEST(ShippedSchemes, EveryTextReadsOnItsBackground)
 {
@@ -63,13 +63,13 @@ TEST(ShippedSchemes, EveryTextReadsOnItsBackground)
         ASSERT_TRUE(scheme.load(name));
         const WindowColours window = deriveWindowColours(scheme);
         expectReadable(scheme, window);
-        EXPECT_GE(contrastRatio(window.accent, window.ground), leastContrast);
-        EXPECT_GE(contrastRatio(window.accent, window.card), leastContrast);
+        EXPECT_GE(contrastRatio(window.accent, window.ground), minimumContrast);
+        EXPECT_GE(contrastRatio(window.accent, window.card), minimumContrast);
         EXPECT_GE(contrastRatio(window.link, scheme.selectedFace()), 2.5);
         EXPECT_GT(contrastRatio(window.line, window.ground), name == "Contrast.sch" ? 3 : 1.2);
         EXPECT_NE(window.strip, window.ground);
         if (name == "Default.sch") {
-            EXPECT_EQ(scheme.entries(), groveColours());
+            EXPECT_EQ(scheme.entries(), builtInColours());
         }
         std::vector<double> greys{greyLevel(scheme.selectedFace())};
         for (const Colour multiplier : multiplier::all) {
@@ -85,7 +85,7 @@ TEST(ShippedSchemes, EveryTextReadsOnItsBackground)
     }
 }
 
-// Guards against schemes of the players' own, however garish, and desktop colours, that make a window unreadable.
+// Guards against players' own schemes, however garish, and desktop colours making a window unreadable.
 TEST(WindowColours, AnySchemeReads)
 {
     TemporaryFolder folder;

@@ -20,8 +20,8 @@
 namespace lexigrove
 {
 
-/// What the player does in the windows that come up, in their order: a step waits until its window is on top. Steps of
-/// a window that opens another one go on in that one. A script that its test leaves unfinished fails.
+/// What the player does in the windows that come up, in order: a step waits until its window is on top. A step that
+/// opens another window is followed by that window's steps. A script that its test leaves unfinished fails.
 class Script : public QObject
 {
 public:
@@ -106,12 +106,12 @@ private:
             }
             const Step step = std::move(steps_.front().step);
             steps_.pop_front();
-            waitForNext(); // before the step: it may open another window and return only when that is closed
+            waitForNext(); // before the step, which may open another window and return only when that is closed
             step(*window);
         });
     }
 
-    /// Closes what is open, so that the test ends and tells.
+    /// Closes what is open, so that the test ends with a report.
     void giveUp(QDialog* window)
     {
         if (window != nullptr) {

@@ -39,7 +39,7 @@ public:
     }
 };
 
-/// The letters of a board: "V", of which no word is made, but for what a test puts there. The drop row shows BFHKMPTY.
+/// The letters of a board: "V", which makes no word, except for what a test puts there. The drop row shows BFHKMPTY.
 class Letters
 {
 public:
@@ -155,7 +155,7 @@ private:
 };
 
 /// Does something once from the event loop, as soon as the condition holds: while a dialog, a wait or an animation is
-/// open. A test that ends before fails.
+/// in progress. A test that ends before that fails.
 class Meanwhile : public QObject
 {
 public:

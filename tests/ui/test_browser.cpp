@@ -19,8 +19,8 @@ namespace lexigrove
 namespace
 {
 
-/// A web server on the machine itself. It answers every path with the page set for it, else with one that names the
-/// path, and notes what was asked for.
+/// A web server on this machine. It answers every path with the page set for it, else with one that names the path, and
+/// records the requests.
 class Server
 {
 public:
@@ -40,7 +40,7 @@ public:
     }
 
     std::vector<std::string> asked;           ///< path and query of each request
-    std::vector<std::string> cookies;         ///< that came with each of them
+    std::vector<std::string> cookies;         ///< sent with each of them
     std::map<std::string, std::string> pages; ///< by path: further header lines, an empty line and the page
 
 private:
@@ -62,7 +62,7 @@ private:
     QTcpServer server_;
 };
 
-/// What the page shown says, once it holds the text that is waited for.
+/// The text of the page shown, once it contains the awaited one.
 std::string pageText(QWidget& window, const QString& awaited)
 {
     const auto text = std::make_shared<QString>(); // an answer may come after the wait
@@ -85,7 +85,7 @@ bool enginePageExists()
     return false;
 }
 
-/// The game with the meaning services on the machine itself.
+/// The game with the meaning services on this machine.
 class BrowserTest : public testing::Test
 {
 protected:
@@ -141,7 +141,7 @@ TEST_F(BrowserTest, EachServiceIsAskedForItsPage)
 // Guards the machine against the pages: no question, no window, no other host, and nothing is remembered.
 TEST_F(BrowserTest, APageReachesNothingBeyondItself)
 {
-    const std::string stranger = server_.host("127.0.0.2"); // this server too, but not a host that pages may have
+    const std::string stranger = server_.host("127.0.0.2"); // also this server, but a host that pages may not use
     server_.pages["/CAT"] = "Set-Cookie: seen=yes; Max-Age=9999\r\n\r\n<p>A page</p><img src='" + stranger +
                             "/picture'><iframe src='" + stranger +
                             "/frame'></iframe><script>alert(1); confirm(2);"
@@ -168,7 +168,7 @@ TEST_F(BrowserTest, APageReachesNothingBeyondItself)
     }
 }
 
-// Guards the end: the main window closed under a page, with the help beside it, leaves no page of the engine behind.
+// Guards the end: closing the main window below a page, with the help beside it, leaves no page of the engine behind.
 TEST_F(BrowserTest, LeavingEndsThePages)
 {
     flow().options.settings.presetLetters = Letters().text(); // no score to offer
@@ -217,18 +217,18 @@ protected:
     static void press(QWidget& help, const char* button)
     {
         QTest::mouseClick(help.findChild<QPushButton*>(button), Qt::LeftButton);
-        QTest::qWait(150); // what must not happen has its chance
+        QTest::qWait(150); // a chance for what must not happen
     }
-    /// The upper left corner of the page, where each anchor's link comes to stand.
+    /// Clicks in the upper left corner of the page, where each anchor's link is.
     static void clickPage(QWidget& help)
     {
-        QTest::qWait(300); // a page that has scrolled takes a click when it is painted
+        QTest::qWait(300); // a scrolled page accepts a click once it is painted
         QTest::mouseClick(help.findChild<QWebEngineView*>()->focusProxy(), Qt::LeftButton, {}, {40, 40});
     }
 };
 
 // Guards Back and Forward, which only move between the places of the page.
-TEST_F(HelpTest, BackAndForwardLeafThroughTheAnchors)
+TEST_F(HelpTest, BackAndForwardMoveBetweenTheAnchors)
 {
     QWidget* const help = showHelp();
     ASSERT_NE(help, nullptr);

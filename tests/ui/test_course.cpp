@@ -71,7 +71,7 @@ TEST_F(Course, PauseCoversAndAClickResumes)
     EXPECT_EQ(play_.word(), "C");
 }
 
-// Guards the swap: its mark must be seen, and the click on the drop row must not drop.
+// Guards the swap: its mark must be visible, and the click on the drop row must not drop.
 TEST_F(Course, AShiftClickSwapsLetters)
 {
     start();
@@ -155,7 +155,7 @@ TEST_F(Course, ClosingInTheMiddleOfAnAnimationLeaves)
 TEST_F(Course, AnyInputEndsTheComputersTurnAndIsUsedUp)
 {
     startAgainstComputer();
-    const auto waiting = [&] { // the status line alone may still tell of the turn before
+    const auto waiting = [&] { // the status line alone may still be about the previous turn
         const GameState& state = play_.flow().game.state;
         return state.computerTurnInProgress && state.EnterWord.Visible &&
                play_.shown("Label1") == "Press any key to continue";
@@ -204,7 +204,7 @@ TEST_F(Course, ClosingInTheMiddleOfTheComputersTurnLeaves)
     EXPECT_EQ(play_.shown("CompScore"), "0") << "the word was not played";
 }
 
-// Guards the two ways in which a hint is not given: both must be told, and only the second costs.
+// Guards the two ways in which a hint is not given: both must be reported, and only the second costs.
 TEST_F(Course, AHintIsRefusedOrNotFound)
 {
     start(Letters());
@@ -288,7 +288,7 @@ TEST_F(Course, MenusCarryWhatButtonsDo)
     }
 }
 
-// Guards the first start: its question stands over the window, and the configuration is written.
+// Guards the first start: its question is over the window, and the configuration is written.
 TEST(FirstStart, TellsThatTheConfigurationIsNew)
 {
     ProgramFolder folder;

@@ -45,7 +45,7 @@ QStringList linesOfList(const QDialog& dialog)
     return lines;
 }
 
-// Guards the top ten: the list is in sight when the name is asked for, an empty name is asked for again, and the new
+// Guards the top ten: the list is visible when the name is asked for, an empty name is asked for again, and the new
 // line is shown.
 TEST_F(DialogTest, TopTenAsksForTheNameOverTheList)
 {
@@ -115,8 +115,8 @@ protected:
     QColor selectedFace() { return toQColor(flow_.scheme.selectedFace()); }
 };
 
-// Guards the point of the window: the path of a row is painted on the board at once, the one before is taken back,
-// and the window leaves the board in sight.
+// Guards the point of the window: the path of a row is painted on the board at once, the previous one disappears, and
+// the window leaves the board visible.
 TEST_F(HintsDialogTest, ARowPickedShowsItsPathOnTheBoard)
 {
     play_.window().resize(640, 520); // leaves room on the small screen of the tests

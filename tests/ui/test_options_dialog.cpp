@@ -89,7 +89,7 @@ TEST_F(OptionsDialogTest, HandlersRunOnTheRelease)
     EXPECT_EQ(play_.theBoard().arrangement(), Arrangement::Square);
 }
 
-// Guards the mouse that changes its mind, and the tool tips and captions, which players look for.
+// Guards against a release elsewhere, and guards the tool tips and captions, which players look for.
 TEST_F(OptionsDialogTest, AReleaseElsewhereDoesNothing)
 {
     form_.select(form_.Option15);
@@ -203,7 +203,7 @@ TEST_F(OptionsDialogTest, ASchemeChosenColoursEveryWindow)
     open();
 }
 
-// Guards the user dictionary: the file chosen stands in the box, and a cancelled dialog changes nothing.
+// Guards the user dictionary: the chosen file is in the box, and a cancelled dialog changes nothing.
 TEST_F(OptionsDialogTest, TheFileDialogNamesTheUserDictionary)
 {
     play_.folder.write("mine.dic", "CAT\r\n");

@@ -18,8 +18,8 @@ namespace lexigrove
 namespace
 {
 
-// Guards texts on their way through the window: every byte must come back, and what the game's text does not hold is
-// told by a question mark each.
+// Guards texts on their way through the window: every byte must come back, and each character that the game's text
+// cannot hold becomes a question mark.
 TEST(Text, IsWindows1252)
 {
     for (int byte = 0; byte < 256; ++byte) {
@@ -94,7 +94,7 @@ std::pair<int, QByteArray> answerTo(const QStringList& arguments)
     return {program.exitCode(), program.readAllStandardOutput() + program.readAllStandardError()};
 }
 
-// Guards the command line: a slip must be told, not passed over, and on a machine without a display, too.
+// Guards the command line: a slip must be reported, not ignored, even on a machine without a display.
 TEST(StartOptions, AreReadBeforeADisplayIsLookedFor)
 {
     const std::pair<int, QByteArray> version{0, "LexiGrove " LEXIGROVE_VERSION "\n"};

@@ -77,7 +77,8 @@ TEST_P(Playing, TwoRightClicksEnterTheWord)
     EXPECT_EQ(play_.letter(13), "S");
 }
 
-// Guards the player from losing what he built with a word that is none, or with a click over a full column.
+// Guards players against losing what they built by entering something that is not a word, or by a click over a full
+// column.
 TEST_P(Playing, RefusedActionsChangeNothing)
 {
     play_.clickAll({12, 11, 10});
@@ -108,7 +109,7 @@ TEST_P(Playing, ThePathIsShortenedAndRestarted)
     EXPECT_EQ(play_.paintedFace(13), face());
 }
 
-// Guards what the pointer tells, and developers' description from everybody else.
+// Guards the description of the tile under the pointer, and keeps the developers' one from everybody else.
 TEST_P(Playing, HoveringTellsTheLetter)
 {
     QTest::mouseMove(&play_.board(), play_.board().tileRect(9).center());

@@ -42,7 +42,7 @@ std::vector<Ranked> rankedWords(const Scowl& scowl, const WordCounts& counts, co
     std::vector<Ranked> ranked;
     for (const auto& [word, size] : scowl.classes) {
         const auto entry = counts.find(word);
-        if (size > level2Class || entry == counts.end() || !isWord(word) || offensive.contain(word))
+        if (size > level2Class || entry == counts.end() || !isWord(word) || offensive.contains(word))
             continue;
         const bool everyday = size <= everydayClass;
         const bool isName = !everyday && scowl.names.contains(word);

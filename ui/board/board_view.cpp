@@ -162,8 +162,8 @@ void BoardView::mousePressEvent(QMouseEvent* event)
 void BoardView::mouseMoveEvent(QMouseEvent* event)
 {
     const Spot spot = spotAt(event->position());
-    const bool another = spot != under_;
-    setSpot(under_, spot);
+    const bool another = spot != hovered_;
+    setSpot(hovered_, spot);
     if (pressed_ != Spot{} && event->buttons() == Qt::NoButton)
         setSpot(pressed_, {});
     if (another && spot.tile != 0)
@@ -172,7 +172,7 @@ void BoardView::mouseMoveEvent(QMouseEvent* event)
 
 void BoardView::leaveEvent(QEvent* /*event*/)
 {
-    setSpot(under_, {});
+    setSpot(hovered_, {});
 }
 
 /// What counts is where the button is released.
@@ -266,7 +266,7 @@ void BoardView::paintTiles(QPainter& painter, const QRectF& dirty) const
     };
     forEachDirty([&](int tile, const QRectF& place) {
         const BoxControl& control = board_.tile(tile);
-        const bool lifted = under_.tile == tile && takesInput();
+        const bool lifted = hovered_.tile == tile && takesInput();
         if (pressed_.tile == tile)
             tiles_.paintFace(painter, heldDown(control), place, lifted);
         else
@@ -293,7 +293,7 @@ void BoardView::paintLinks(QPainter& painter) const
 void BoardView::paintControl(QPainter& painter, const BoxControl& control, Spot spot) const
 {
     const QRectF place = shape_.tilePlace(control);
-    const bool lifted = spot != Spot{} && spot == under_ && takesInput();
+    const bool lifted = spot != Spot{} && spot == hovered_ && takesInput();
     tiles_.paintFace(painter, spot != Spot{} && spot == pressed_ ? heldDown(control) : control, place, lifted);
     tiles_.paintLetter(painter, control, place);
 }

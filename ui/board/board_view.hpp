@@ -91,7 +91,7 @@ private:
     std::array<Shown, Board::columns + 1> shownWaiting_;
     QRectF shownPanel_;
     Marks marks_;
-    Spot under_;
+    Spot hovered_;
     Spot pressed_;
 };
 

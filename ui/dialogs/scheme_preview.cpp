@@ -35,7 +35,7 @@ SchemePreview::SchemePreview(const Theme& theme, QWidget* parent) : QWidget(pare
     setObjectName("SchemePreview");
 }
 
-void SchemePreview::show(const ColourScheme& scheme)
+void SchemePreview::setScheme(const ColourScheme& scheme)
 {
     scheme_.emplace(scheme);
     update();

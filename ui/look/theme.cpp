@@ -57,7 +57,7 @@ SystemPalette desktopPalette()
 }
 
 /// The system colours as these windows show them.
-SystemPalette familyPalette(const WindowColours& colours)
+SystemPalette shownSystemColours(const WindowColours& colours)
 {
     SystemPalette family;
     family.entries.fill(colours.text);
@@ -209,14 +209,14 @@ Theme::Theme() : desktop_(desktopPalette())
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
 }
 
-void Theme::follow(const ColourScheme& scheme)
+void Theme::apply(const ColourScheme& scheme)
 {
     if (applied_ && scheme.entries() == shown_)
         return;
     applied_ = true;
     shown_ = scheme.entries();
     colours_ = deriveWindowColours(scheme);
-    family_ = familyPalette(colours_);
+    systemColours_ = shownSystemColours(colours_);
     QApplication::setPalette(palette(colours_));
     qApp->setStyleSheet(styleSheet(colours_));
     emit changed();
@@ -224,7 +224,7 @@ void Theme::follow(const ColourScheme& scheme)
 
 QColor Theme::colour(Colour colour) const
 {
-    return toQColor(family_.resolve(colour));
+    return toQColor(systemColours_.resolve(colour));
 }
 
 QFont Theme::font(double pixelSize, bool bold)

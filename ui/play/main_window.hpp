@@ -58,7 +58,7 @@ private:
     PlayArea* area_;
     StatusLineView* status_;
     std::vector<MenuEntry> menuEntries_;
-    bool toldEnd_ = false;
+    bool endReported_ = false;
 };
 
 } // namespace lexigrove

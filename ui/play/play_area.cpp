@@ -123,9 +123,9 @@ void PlayArea::synchronise()
     const GameState& state = flow_.view().state;
     board->synchronise();
     clock->synchronise();
-    yourScore_->show(std::to_string(state.yourScore));
-    compScore_->show(std::to_string(state.compScore));
-    tilesLeft_->show(state.tilesLeftText());
+    yourScore_->setNumber(std::to_string(state.yourScore));
+    compScore_->setNumber(std::to_string(state.compScore));
+    tilesLeft_->setNumber(state.tilesLeftText());
     if (compScore_->isHidden() == state.computerGame) // a solo player needs no second score
         compScore_->setVisible(state.computerGame);
     word_->synchronise();
