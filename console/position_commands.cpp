@@ -86,7 +86,7 @@ constexpr int maxPoints = 1'000'000'000; // adding a word's score is then far fr
 constexpr int max16 = std::numeric_limits<std::int16_t>::max();
 constexpr int min16 = std::numeric_limits<std::int16_t>::min();
 
-constexpr Setting settings[] = {
+constexpr Setting numbersToSet[] = {
     {"YourScore", -maxPoints, maxPoints, &GameState::yourScore},
     {"CompScore", -maxPoints, maxPoints, &GameState::compScore},
     {"TilesLeft", min16, max16, nullptr},
@@ -106,9 +106,9 @@ struct NewValue {
 NewValue newValue(Arguments& arguments)
 {
     const std::string name = arguments.required("name");
-    const auto* const setting = std::find_if(std::begin(settings), std::end(settings),
+    const auto* const setting = std::find_if(std::begin(numbersToSet), std::end(numbersToSet),
                                              [&](const Setting& entry) { return entry.name == name; });
-    if (setting == std::end(settings))
+    if (setting == std::end(numbersToSet))
         throw CommandError("unknown name: " + name);
     const std::string value = arguments.required("value");
     if (name == "TilesLeft" && value == "NONE")

@@ -60,7 +60,7 @@ std::vector<Ranked> rankedWords(const Scowl& scowl, const WordCounts& counts, co
 
 /// SCOWL's large classes list names and abbreviations in lower case too: "texas", "gif". A rare word that is spelled
 /// like one is taken for one.
-bool isPlainWord(const Scowl& scowl, const std::string& word, int size)
+bool isPlainLevelWord(const Scowl& scowl, const std::string& word, int size)
 {
     return isWord(word) &&
            (size <= surelyPlainClass || (!scowl.names.contains(word) && !scowl.abbreviations.contains(word)));
@@ -73,7 +73,7 @@ std::vector<std::string> wordsOfLevel3(const Scowl& scowl)
     std::vector<std::string> words;
     std::map<std::size_t, std::vector<std::string>> rareByLength;
     for (const auto& [word, size] : scowl.classes) {
-        if (!isPlainWord(scowl, word, size))
+        if (!isPlainLevelWord(scowl, word, size))
             continue;
         (size <= completeClass ? words : rareByLength[word.size()]).push_back(word);
     }
