@@ -37,23 +37,5 @@ TEST(LetterSupply, AFrozenClockStillShufflesWell)
     EXPECT_EQ(sorted, pool) << "a shuffle neither adds nor loses letters";
 }
 
-TEST(LetterSupply, OnlyTheComputersQueueIsFilledUpAfterTheRow)
-{
-    QuietWorld world("");
-    GameParts parts(world.ports(), world.folder.path());
-    Game& game = parts.game;
-    game.board.layOut(Arrangement::Square);
-    game.supply.RandomLetters = {"A", "B"};
-    for (const int col : {2, 3, 5})
-        game.board.waiting(col).Visible(false);
-    for (const bool computer : {false, true}) {
-        game.state.computerGame = computer;
-        game.supply.refillTopRow();
-        EXPECT_EQ(game.board.waiting(3).Caption(), "B");
-        EXPECT_FALSE(game.board.waiting(5).Visible());
-        EXPECT_EQ(game.supply.RandomLetters.size(), computer ? 100U : 0U);
-    }
-}
-
 } // namespace
 } // namespace lexigrove

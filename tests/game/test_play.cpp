@@ -81,20 +81,9 @@ TEST(Play, LettersAreSeenMoving)
     }
 }
 
-/// Guards against a user dictionary that plays otherwise than level 2, and a bonus tile that looks for ever for a
-/// place.
-TEST(Play, BonusTilesAndPricesWithAUserDictionary)
+/// Guards against a bonus tile that looks for a place forever.
+TEST(Play, ABonusTileNeedsAPlainOne)
 {
-    PlayedGame played("TABLE\r\n");
-    played.choose(&OptionsForm::Option2);
-    played.start(Arrangement::Square, presetOf("TABLEABLE"));
-    played.click({1, 2, 3, 4, 5});
-    played.flow.perform(Command::EnterWord);
-    EXPECT_EQ(played.state.bonusTilesOnBoard, 1);
-    played.study.set(&GameState::yourScore, 14);
-    played.flow.perform(Command::GetHint);
-    EXPECT_EQ(played.status.Label1, "your score must be at least15 to get a hint");
-
     QuietWorld world("");
     GameParts parts(world.ports(), world.folder.path());
     parts.game.board.layOut(Arrangement::Square);
