@@ -1,4 +1,4 @@
-// For a build with the address sanitizer: what the web engine does with its own memory is not this game's concern.
+// For a build with the address sanitizer: what the web engine does with its own memory is not this game's.
 
 extern "C" const char* __asan_default_options();
 

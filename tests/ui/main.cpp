@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-/// The windows are real; unless another platform is asked for, they are not shown to anyone.
+/// The windows are real ones; without a wish for another platform nobody sees them.
 int main(int argc, char** argv)
 {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))

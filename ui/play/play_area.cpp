@@ -50,6 +50,7 @@ PlayArea::PlayArea(GameFlow& flow, const Theme& theme, QWidget* parent)
         });
     }
     connect(&theme, &Theme::changed, this, &PlayArea::applyColours);
+    applyColours();
 }
 
 void PlayArea::buildSide()
