@@ -63,7 +63,7 @@ inline QPoint facePoint(const QRect& tile)
     return tile.topLeft() + QPoint(tile.width() * 36 / 100, tile.height() * 78 / 100);
 }
 
-/// The real main window over a game in a folder of its own.
+/// The real main window over a game in its own folder.
 class PlayedWindow
 {
 public:
