@@ -2,6 +2,7 @@
 
 #include "controls/colour.hpp"
 #include "platform/ports.hpp"
+#include "platform/ascii.hpp"
 
 #include <algorithm>
 #include <cstdint>
@@ -31,7 +32,7 @@ std::string_view takeId(std::string_view& line)
 {
     const std::size_t end = std::min(line.find(' '), line.size());
     const std::string_view id = line.substr(0, end);
-    if (id.empty() || !std::all_of(id.begin(), id.end(), [](char c) { return c >= '0' && c <= '9'; }))
+    if (!ascii::isNumber(id))
         return {};
     line.remove_prefix(end);
     return id;

@@ -2,6 +2,7 @@
 #include "game/board.hpp"
 #include "game/game_state.hpp"
 #include "settings/options_form.hpp"
+#include "platform/ascii.hpp"
 
 #include <algorithm>
 #include <cstdint>
@@ -25,11 +26,9 @@ std::string letterArgument(Arguments& arguments)
     const std::string text = arguments.required("letter");
     if (text == ".")
         return {};
-    const char letter =
-        static_cast<char>(text.size() == 1 && text[0] >= 'a' && text[0] <= 'z' ? text[0] - 'a' + 'A' : text[0]);
-    if (text.size() != 1 || letter < 'A' || letter > 'Z')
+    if (text.size() != 1 || !ascii::isLetter(text[0]))
         throw CommandError("letter must be A to Z or .: " + text);
-    return {letter};
+    return ascii::upperCase(text);
 }
 
 TileEdit tileEdit(Arguments& arguments)

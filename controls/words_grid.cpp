@@ -1,5 +1,7 @@
 #include "controls/words_grid.hpp"
 
+#include "platform/ascii.hpp"
+
 #include <algorithm>
 #include <stdexcept>
 
@@ -13,7 +15,7 @@ namespace
 unsigned char lowerCase(char c)
 {
     const auto code = static_cast<unsigned char>(c);
-    if ((code >= 'A' && code <= 'Z') || (code >= 0xC0 && code <= 0xDE && code != 0xD7))
+    if (ascii::isUpper(c) || (code >= 0xC0 && code <= 0xDE && code != 0xD7))
         return static_cast<unsigned char>(code + 0x20);
     if (code == 0x8A || code == 0x8C || code == 0x8E) // S with caron, OE, Z with caron
         return static_cast<unsigned char>(code + 0x10);

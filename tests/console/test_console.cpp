@@ -43,7 +43,7 @@ TEST(Console, EveryCommandStandsAnyArguments)
     const char* const arguments[] = {"",   " 1",   " -1",          " 99999999999999999999",
                                      " =", " A\\", " 1 2 3 4 5 6", " \xFF\\t"};
     const CommandTable table;
-    for (const Command& command : table.all()) {
+    for (const ConsoleCommand& command : table.all()) {
         for (const char* const argument : arguments) {
             const std::string line = std::string(command.name) + argument;
             for (const char* const start : {"name\n", "new_game\n"}) {

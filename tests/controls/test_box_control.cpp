@@ -122,8 +122,8 @@ TEST(BoxControl, pressAndReleaseSwitchTheLookAndTell)
     box.setEvents(&events);
     for (const bool enabled : {false, true}) { // a disabled control takes no input
         box.Enabled(enabled);
-        box.mousePressed(rightButton, 1, 5, 6.5F);
-        box.mouseReleased(rightButton, 1, 7, 8);
+        box.mousePressed(2, 1, 5, 6.5F);
+        box.mouseReleased(2, 1, 7, 8);
         box.clicked();
         box.keyUp(66, 3);
     }

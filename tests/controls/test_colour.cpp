@@ -1,8 +1,6 @@
 #include "controls/colour.hpp"
-#include "controls/label.hpp"
 
 #include <gtest/gtest.h>
-#include <limits>
 
 namespace lexigrove
 {
@@ -37,17 +35,6 @@ TEST(Colour, systemColoursResolve)
     EXPECT_GT(contrastRatio(palette.entries[17], palette.resolve(system_colour::buttonFace)), 4.5) << "grey text";
     EXPECT_EQ(palette.resolve(0x80000000U + 25), rgb(0, 0, 0));
     EXPECT_EQ(palette.resolve(0xFFFFFFFFU), rgb(0, 0, 0));
-}
-
-// Guards the scores that are read back from labels: "NONE", a count below zero, and a number beyond the counters.
-TEST(Label, numbersAreReadFromCaptions)
-{
-    EXPECT_EQ(numberOf("NONE"), 0);
-    EXPECT_EQ(numberOf(""), 0);
-    EXPECT_EQ(numberOf("  -3"), -3);
-    EXPECT_EQ(numberOf("12 hints"), 12);
-    EXPECT_EQ(numberOf("99999999999999999999999"), std::numeric_limits<int>::max());
-    EXPECT_EQ(numberOf("-99999999999999999999999"), std::numeric_limits<int>::min());
 }
 
 } // namespace

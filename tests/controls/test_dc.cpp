@@ -144,15 +144,15 @@ TEST(Dc, clicksOnItsFrameChangeItsLook)
     Dc clock;
     clock.DigitWidth(5);
     for (const int thickness : {6, 2}) {
-        frame10Released(clock, leftButton);
+        frame10Released(clock, MouseButton::Left);
         EXPECT_EQ(clock.DigitWidth(), thickness);
     }
     clock.DigitWidth(32767);
-    frame10Released(clock, leftButton);
+    frame10Released(clock, MouseButton::Left);
     EXPECT_EQ(clock.DigitWidth(), 2);
     clock.ClockColor("DEFAULT");
     for (const char* next : {"GREEN", "BLUE", "RED", "GREEN"}) {
-        frame10Released(clock, rightButton);
+        frame10Released(clock, MouseButton::Right);
         EXPECT_EQ(clock.ClockColor(), next);
     }
 }

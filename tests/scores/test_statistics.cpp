@@ -39,12 +39,12 @@ TEST(StatisticsForm, ShowsBothColumnsAndTheChart)
 
     statistics.recordWord("ABA", Statistics::computerBase);
     form.activate(true, provided);
-    EXPECT_TRUE(form.Frame2.Enabled);
+    EXPECT_TRUE(form.isComputerGame());
     EXPECT_THAT(barsOf(form.chart(120)),
                 testing::ElementsAre(Bar{600, 40 * 66, rgb(255, 0, 0)}, Bar{720, 40 * 33, rgb(255, 0, 0)}, a, z));
     statistics.reset();
     form.activate(false, provided);
-    EXPECT_FALSE(form.Frame2.Enabled);
+    EXPECT_FALSE(form.isComputerGame());
     EXPECT_EQ(form.sval[1], "");
     EXPECT_EQ(form.sval[16], "ABA ");
 }

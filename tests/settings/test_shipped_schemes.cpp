@@ -12,15 +12,13 @@ namespace lexigrove
 namespace
 {
 
-constexpr int multipliers[] = {1, 2, 3, 4, 9};
-
-/// Every letter of a tile and every text of a window on its background.
+/// Every letter of a tile and every text of a window with its background.
 void expectReadable(const ColourScheme& scheme, const WindowColours& window)
 {
     const auto expect = [](Colour text, Colour background, const char* what) {
         EXPECT_GE(contrastRatio(text, background), minimumContrast) << what;
     };
-    for (const int multiplier : multipliers) {
+    for (const Colour multiplier : multiplier::all) {
         SCOPED_TRACE("multiplier " + std::to_string(multiplier));
         const Colour face = scheme.tileFace(multiplier);
         const Colour letter = scheme.tileLetter(multiplier);
@@ -74,7 +72,7 @@ TEST(ShippedSchemes, EveryTextReadsOnItsBackground)
             EXPECT_EQ(scheme.entries(), builtInColours());
         }
         std::vector<double> greys{greyLevel(scheme.selectedFace())};
-        for (const int multiplier : multipliers) {
+        for (const Colour multiplier : multiplier::all) {
             greys.push_back(greyLevel(scheme.tileFace(multiplier)));
             if (name == "Contrast.sch") {
                 EXPECT_GE(contrastRatio(scheme.tileLetter(multiplier), scheme.tileFace(multiplier)), 7);

@@ -1,7 +1,8 @@
 #include "tools/word_lists/levels.hpp"
 
+#include "platform/ascii.hpp"
+
 #include <algorithm>
-#include <cctype>
 #include <cmath>
 #include <map>
 #include <stdexcept>
@@ -89,10 +90,8 @@ std::vector<std::string> wordsOfLevel3(const Scowl& scowl)
 
 std::vector<std::string> printed(std::vector<std::string> words)
 {
-    for (std::string& word : words) {
-        for (char& c : word)
-            c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
-    }
+    for (std::string& word : words)
+        word = ascii::upperCase(std::move(word));
     std::sort(words.begin(), words.end());
     return words;
 }

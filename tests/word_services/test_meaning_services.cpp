@@ -1,4 +1,4 @@
-#include "settings/meaning_services.hpp"
+#include "word_services/meaning_services.hpp"
 
 #include <gtest/gtest.h>
 
