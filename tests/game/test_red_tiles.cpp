@@ -24,7 +24,7 @@ TEST(RedTiles, ADayOfTicks)
                 if (second % 20 == 0 && !word.empty() && second < 20'000)
                     state.statistics.recordWord(word, Statistics::playerBase);
                 const int pressure = std::min(second, 32'767) + weight * (std::min(second, 19'999) / 20);
-                const bool isDue = state.redTilesOnBoard < RedTiles::mostRedTiles && pressure >= due;
+                const bool isDue = state.redTilesOnBoard < RedTiles::maxRedTiles && pressure >= due;
                 const int before = state.redTilesOnBoard;
                 parts.game.redTiles.redTimerTick();
                 ASSERT_EQ(state.redTilesOnBoard, before + (isDue ? 1 : 0)) << second;
