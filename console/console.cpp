@@ -1,8 +1,8 @@
 #include "console/console.hpp"
 
 #include "controls/colour.hpp"
-#include "platform/ports.hpp"
 #include "platform/ascii.hpp"
+#include "platform/ports.hpp"
 
 #include <algorithm>
 #include <cstdint>

@@ -5,8 +5,8 @@
 #include "game/game_state.hpp"
 #include "game/letter_supply.hpp"
 #include "game/selection.hpp"
-#include "settings/options_form.hpp"
 #include "platform/ascii.hpp"
+#include "settings/options_form.hpp"
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
 #include "console/command.hpp"
 #include "game/board.hpp"
 #include "game/game_state.hpp"
-#include "settings/options_form.hpp"
 #include "platform/ascii.hpp"
+#include "settings/options_form.hpp"
 
 #include <algorithm>
 #include <cstdint>

@@ -2,8 +2,8 @@
 #include "dictionary/dictionary.hpp"
 #include "dictionary/field_cipher.hpp"
 #include "dictionary/word_text.hpp"
-#include "settings/colour_scheme.hpp"
 #include "platform/ascii.hpp"
+#include "settings/colour_scheme.hpp"
 
 namespace lexigrove
 {

@@ -105,12 +105,12 @@ void GameFlow::startUp(std::optional<Arrangement> arrangement)
     input(When::Always, [&](GameParts& p) {
         setUpClock(p.Dc1);
         const WindowColours before = deriveWindowColours(p.scheme);
-        p.configuration.load(before.ground, before.card);
+        p.configuration.load(before.background, before.card);
         p.options.applyDictionaryChoice();
         p.options.loadSchemes();
         if (p.Dc1.ClockColor() == "DEFAULT") { // its colours are from before the scheme was loaded
             const WindowColours colours = deriveWindowColours(p.scheme);
-            p.Dc1.ClockBackground(colours.ground);
+            p.Dc1.ClockBackground(colours.background);
             p.Dc1.DigitHighlight(colours.card);
         }
         p.game.refreshLooks();

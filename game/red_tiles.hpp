@@ -38,8 +38,8 @@ public:
         int col = 0; ///< the column drawn, 0 for Nothing
     };
 
-    /// A tick of `MoveColDownTimer`: draws a special tile and pushes its column down by one cell; the waiting letter
-    /// falls in at the top.
+    /// A tick of `MoveColDownTimer`: picks a random special tile and pushes its column down by one cell; the waiting
+    /// letter falls in at the top.
     PushResult pushTimerTick();
 
     /// Shows the red tile at the bottom of a column leaving the board: the end of a lost game.

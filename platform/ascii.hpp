@@ -4,8 +4,7 @@
 #include <string>
 #include <string_view>
 
-/// Letters, digits and blanks of ASCII, whatever the machine's language. Any other character is none of them and stays
-/// as it is.
+/// ASCII letters, digits and blanks, whatever the locale. Any other character is none of these and is left unchanged.
 namespace lexigrove::ascii
 {
 
@@ -44,7 +43,7 @@ constexpr int hexValue(char c)
     return letter >= 'A' && letter <= 'F' ? letter - 'A' + 10 : -1;
 }
 
-/// Digits and nothing else; false for the empty text.
+/// Digits and nothing else; false for an empty string.
 inline bool isNumber(std::string_view text)
 {
     return !text.empty() && std::ranges::all_of(text, isDigit);

@@ -16,7 +16,7 @@ namespace lexigrove
 /// Indices into the colour table. The other window colours are derived from these in settings/window_colours.hpp.
 namespace scheme_entry
 {
-inline constexpr std::size_t ground = 0; ///< frames and panels
+inline constexpr std::size_t background = 0; ///< frames and panels
 inline constexpr std::size_t tileTop = 1;
 inline constexpr std::size_t tileLeft = 2;
 inline constexpr std::size_t tileBottom = 3;

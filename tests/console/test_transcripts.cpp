@@ -19,7 +19,7 @@ namespace fs = std::filesystem;
 
 const fs::path transcriptFolder = TRANSCRIPT_FOLDER;
 
-/// Plays a transcript in a program folder of its own, which begins as a copy of transcripts/folder. A transcript reads
+/// Plays a transcript in its own program folder, initially a copy of transcripts/folder. A transcript reads
 /// like a terminal; its lines are
 ///
 ///     # TEXT            a comment
@@ -204,7 +204,7 @@ class Transcript : public testing::TestWithParam<std::string>
 };
 
 /// Guards every text, event and number that the transcripts show. With LEXIGROVE_RECORD in the environment a transcript
-/// that reads otherwise is written anew: read what has changed before you keep it.
+/// that reads otherwise is rewritten: read what has changed before you keep it.
 TEST_P(Transcript, ReadsAsItIsWritten)
 {
     const fs::path file = transcriptFolder / (GetParam() + ".txt");

@@ -28,8 +28,8 @@ std::string poolOf(const std::array<int, 27>& counts)
 
 } // namespace
 
-// Shares are rounded down, and rare letters get a place each. Places left over go to random letters; places too many
-// come off the earliest of the largest shares alone, and where even that is too small the tables stay as they were.
+// Shares are rounded down, and rare letters get a place each. Places left over go to random letters; excess places are
+// taken only from the first of the largest shares, and if even that is too small the tables do not change.
 TEST(LetterTables, SharesFillThePool)
 {
     const StillClock clock;

@@ -120,7 +120,7 @@ TEST_F(TextFile, aFailedWriteLosesNothing)
 {
     const std::string old(3000, 'o');
     replaceFile(path("file"), old);
-    const pid_t child = inChild([&] { // a limit on the file size stands for every failure in mid-write
+    const pid_t child = inChild([&] { // a limit on the file size represents any failure in mid-write
         std::signal(SIGXFSZ, SIG_IGN);
         const rlimit limit{20000, 20000};
         ::setrlimit(RLIMIT_FSIZE, &limit);

@@ -15,8 +15,8 @@ namespace
 /// Every letter of a tile and every text of a window with its background.
 void expectReadable(const ColourScheme& scheme, const WindowColours& window)
 {
-    const auto expect = [](Colour text, Colour ground, const char* what) {
-        EXPECT_GE(contrastRatio(text, ground), minimumContrast) << what;
+    const auto expect = [](Colour text, Colour background, const char* what) {
+        EXPECT_GE(contrastRatio(text, background), minimumContrast) << what;
     };
     for (const Colour multiplier : multiplier::all) {
         SCOPED_TRACE("multiplier " + std::to_string(multiplier));
@@ -27,9 +27,9 @@ void expectReadable(const ColourScheme& scheme, const WindowColours& window)
         expect(quietOn(letter, face), face, "value");
     }
     expect(scheme.selectedLetter(), scheme.selectedFace(), "selected");
-    expect(window.text, window.ground, "text");
+    expect(window.text, window.background, "text");
     expect(window.text, window.strip, "text on the strip");
-    expect(window.quietText, window.ground, "quiet text");
+    expect(window.quietText, window.background, "quiet text");
     expect(window.cardText, window.card, "card");
     expect(window.cardQuietText, window.card, "quiet on the card");
     expect(window.cardSelectionText, window.cardSelection, "chosen row");
@@ -38,7 +38,7 @@ void expectReadable(const ColourScheme& scheme, const WindowColours& window)
     expect(window.buttonText, window.buttonHover, "button under the pointer");
     expect(window.computerFore, window.computerBack, "the computer's word");
     expect(window.computerText, window.card, "the computer's score");
-    EXPECT_EQ(window.ground, scheme.plain(scheme_entry::ground)) << "the scheme's own colours stay";
+    EXPECT_EQ(window.background, scheme.plain(scheme_entry::background)) << "the scheme's own colours stay";
     EXPECT_EQ(window.card, scheme.plain(scheme_entry::wordList));
     EXPECT_EQ(window.computerBack, scheme.plain(scheme_entry::computer));
 }
@@ -63,11 +63,11 @@ TEST(ShippedSchemes, EveryTextReadsOnItsBackground)
         ASSERT_TRUE(scheme.load(name));
         const WindowColours window = deriveWindowColours(scheme);
         expectReadable(scheme, window);
-        EXPECT_GE(contrastRatio(window.accent, window.ground), minimumContrast);
+        EXPECT_GE(contrastRatio(window.accent, window.background), minimumContrast);
         EXPECT_GE(contrastRatio(window.accent, window.card), minimumContrast);
         EXPECT_GE(contrastRatio(window.link, scheme.selectedFace()), 2.5);
-        EXPECT_GT(contrastRatio(window.line, window.ground), name == "Contrast.sch" ? 3 : 1.2);
-        EXPECT_NE(window.strip, window.ground);
+        EXPECT_GT(contrastRatio(window.line, window.background), name == "Contrast.sch" ? 3 : 1.2);
+        EXPECT_NE(window.strip, window.background);
         if (name == "Default.sch") {
             EXPECT_EQ(scheme.entries(), builtInColours());
         }
@@ -76,7 +76,7 @@ TEST(ShippedSchemes, EveryTextReadsOnItsBackground)
             greys.push_back(greyLevel(scheme.tileFace(multiplier)));
             if (name == "Contrast.sch") {
                 EXPECT_GE(contrastRatio(scheme.tileLetter(multiplier), scheme.tileFace(multiplier)), 7);
-                EXPECT_GE(contrastRatio(window.text, window.ground), 15);
+                EXPECT_GE(contrastRatio(window.text, window.background), 15);
             }
         }
         std::sort(greys.begin(), greys.end());

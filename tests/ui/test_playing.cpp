@@ -20,7 +20,7 @@ protected:
 };
 INSTANTIATE_TEST_SUITE_P(SquareAndStaggered, Playing, testing::Values(Arrangement::Square, Arrangement::Staggered));
 
-// Guards the road of a word through the window: a click on the wrong tile, a look that lags behind the model, an
+// Guards a word's way through the window against a click on the wrong tile, a look that lags behind the model, an
 // animation that nobody sees, a gap that is not refilled.
 TEST_P(Playing, AWordIsClickedEnteredAndRefilled)
 {

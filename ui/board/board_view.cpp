@@ -193,7 +193,7 @@ void BoardView::paintEvent(QPaintEvent* event)
     shape_.fit(size(), devicePixelRatioF()); // the window may have moved to another screen
     QPainter painter(this);
     const QRectF dirty = event->rect();
-    paintGround(painter, dirty);
+    paintBackground(painter, dirty);
     paintTiles(painter, dirty);
     for (int col = 1; col <= Board::columns; ++col) {
         const BoxControl& waiting = board_.waiting(col);
@@ -204,7 +204,7 @@ void BoardView::paintEvent(QPaintEvent* event)
 }
 
 /// The strip of the drop row, what can drop, and the empty cells.
-void BoardView::paintGround(QPainter& painter, const QRectF& dirty) const
+void BoardView::paintBackground(QPainter& painter, const QRectF& dirty) const
 {
     const WindowColours& colours = theme_.colours();
     painter.setRenderHint(QPainter::Antialiasing);
@@ -221,7 +221,7 @@ void BoardView::paintGround(QPainter& painter, const QRectF& dirty) const
     };
     if (flow_.inGame()) {
         for (int col = 1; col <= Board::columns; ++col) {
-            paintSlot(dropRect(col), mixed(colours.strip, colours.ground, 0.5));
+            paintSlot(dropRect(col), mixed(colours.strip, colours.background, 0.5));
             for (int row = 1; row <= board_.columnHeight(col); ++row) {
                 const BoxControl& tile = board_.tile(row, col);
                 if (!tile.Visible())

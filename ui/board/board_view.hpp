@@ -75,7 +75,7 @@ private:
     void repaintIfChanged(const BoxControl& control, Shown& shown);
     [[nodiscard]] bool takesInput() const;
 
-    void paintGround(QPainter& painter, const QRectF& dirty) const;
+    void paintBackground(QPainter& painter, const QRectF& dirty) const;
     void paintDropMarks(QPainter& painter) const;
     void paintTiles(QPainter& painter, const QRectF& dirty) const;
     void paintLinks(QPainter& painter) const;
