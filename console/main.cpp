@@ -40,8 +40,7 @@ int main(int argc, char** argv)
             return badOptionStatus;
         }
         if (options.help || options.version) {
-            std::cout << (options.help ? lexigrove::helpText
-                                       : std::string("LexiGrove ") + LEXIGROVE_VERSION + "\n");
+            std::cout << (options.help ? lexigrove::helpText : std::string("LexiGrove ") + LEXIGROVE_VERSION + "\n");
             return 0;
         }
         try {
