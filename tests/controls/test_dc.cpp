@@ -86,6 +86,10 @@ TEST(Dc, aCountdownExpiresOneTickAfterItShowsZero)
     clock.ClockIncrement(0);
     EXPECT_FALSE(clock.tick(0)) << "a still clock never expires";
     EXPECT_TRUE(clock.gotFocus());
+    clock.ClockStartValue(0);
+    clock.ShowTimeOnly(true);
+    EXPECT_FALSE(clock.tick(86'400)) << "the time of day never expires, nor does it pass midnight";
+    EXPECT_EQ(face(clock), "00lh00");
 }
 
 // Guards the themes' asymmetry: they change what is drawn, not the two digit properties.
