@@ -43,7 +43,6 @@ TEST_P(Playing, AWordIsClickedEnteredAndRefilled)
     press("EnterWord");
     EXPECT_EQ(shown("YourScore"), "5");
     EXPECT_EQ(letter(9) + letter(10) + letter(11) + letter(12), "...Q");
-    EXPECT_EQ(paintedFace(12), face());
     EXPECT_NE(paintedFace(10), face());
 
     drop(2);
@@ -166,8 +165,7 @@ TEST_F(Course, PauseCoversAndAClickResumes)
     EXPECT_EQ(cover.parentWidget()->childAt(board().pos() + overTile), &cover);
     QTest::mouseClick(&cover, Qt::LeftButton, {}, overTile);
     EXPECT_FALSE(cover.isVisible());
-    EXPECT_EQ(word(), "");
-    click(10);
+    click(10); // the first click on this tile
     EXPECT_EQ(word(), "C");
 }
 
@@ -241,13 +239,12 @@ TEST_F(Course, AnyInputEndsTheComputersTurnAndIsUsedUp)
     const auto& words = child<WordsView>("WordsMade");
     EXPECT_EQ(painted(*words.viewport(), wordCell(words, 1).topLeft()), toQColor(colours().computerBack));
 
-    script.when(waits, [&] { click(40); });
+    const QPoint tile = board().tileRect(40).center();
+    script.when(waits, [&] { QTest::mousePress(&board(), Qt::LeftButton, {}, tile); });
     press("EnterWord"); // a pass
+    QTest::mouseRelease(&board(), Qt::LeftButton, {}, tile);
     EXPECT_EQ(shown("CompScore"), "8");
     EXPECT_EQ(word(), "") << "the release is used up with the press";
-    click(40);
-    EXPECT_EQ(word(), "V");
-    key(Qt::Key_Escape);
 
     Study(flow()).editTile(57, "D", 1);
     Study(flow()).editTile(58, "O", 1);
