@@ -180,6 +180,8 @@ void GameFlow::sortWordsMade(int x)
 
 void GameFlow::releaseClockFrame(MouseButton button)
 {
+    if (button == MouseButton::Middle)
+        return;
     input(When::Always, [=](GameParts& p) {
         p.letterSwap.cancel();
         frame10Released(p.Dc1, button);

@@ -11,7 +11,7 @@ namespace
 {
 
 /// Updates the counts that follow from the tiles, and the tiles' looks.
-void updateFromBoard(Game& game)
+void recount(Game& game)
 {
     GameState& state = game.state;
     state.redTilesOnBoard = 0;
@@ -39,12 +39,12 @@ void Study::editTile(int tile, const std::string& letter, Colour maskcolor)
     flow_.input(When::InGame, [&](GameParts& p) {
         p.letterSwap.cancel();
         BoxControl& control = p.game.board.tile(tile);
-        if (control.Tag() == "X")
+        if (p.game.selection.contains(tile))
             p.game.selection.clear(); // the path keeps the letter as it was clicked
         control.Caption(letter);
         control.MaskColor(maskcolor);
         control.Visible(!letter.empty());
-        updateFromBoard(p.game);
+        recount(p.game);
     });
 }
 
@@ -53,7 +53,7 @@ void Study::editWaiting(int col, const std::string& letter)
     flow_.input(When::InGame, [&](GameParts& p) {
         p.letterSwap.cancel();
         p.game.supply.waitAtHome(col, letter);
-        updateFromBoard(p.game);
+        recount(p.game);
     });
 }
 

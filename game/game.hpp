@@ -44,7 +44,9 @@ struct Game {
     WordEntry wordEntry{*this};
     RedTiles redTiles{*this};
 
-    /// Gives every tile its look in the current scheme: that of the path for a tile in it, else that of its multiplier.
+    /// Gives a tile its look in the current scheme: that of the path for a tile in it, else that of its multiplier.
+    void refreshLook(int tile);
+    /// The same for every tile, and for the waiting ones.
     void refreshLooks();
 };
 

@@ -33,7 +33,7 @@ struct GameState {
     bool redTileHold = false;            ///< stops both pressure timers
     bool computerTurnInProgress = false; ///< set for the whole of the computer's turn
 
-    // Counted per game, in 16 bits
+    // Counted per game; what counts up stops at 32,767
     Statistics statistics; ///< also the word-length counts
     int bonusTilesOnBoard = 0;
     int redTilesOnBoard = 0;

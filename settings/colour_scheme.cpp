@@ -5,7 +5,6 @@
 #include "settings/readable_colours.hpp"
 
 #include <algorithm>
-#include <cmath>
 #include <filesystem>
 #include <optional>
 #include <system_error>

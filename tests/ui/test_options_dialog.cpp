@@ -154,7 +154,7 @@ TEST_F(OptionsDialogTest, ASchemeChosenColoursEveryWindow)
         EXPECT_EQ(box.currentText(), "Default.sch");
         QTest::keyClick(&box, Qt::Key_Down);
         EXPECT_EQ(view().scheme.currentName, "Night.sch");
-        const QColor ground = toQColor(view().scheme.plain(scheme_entry::background));
+        const QColor background = toQColor(view().scheme.plain(scheme_entry::background));
         EXPECT_EQ(dialog.palette().color(QPalette::Window), ground);
         EXPECT_EQ(box.palette().color(QPalette::Base), toQColor(view().scheme.plain(scheme_entry::wordList)));
         EXPECT_EQ(painted(window(), {window().width() - 3, window().height() / 2}), ground);
