@@ -117,7 +117,6 @@ TEST_P(Playing, HeadingsSortTheWordsAndRowsArePicked)
     EXPECT_EQ(view().state.WordsMade.Row(), 2);
     QTest::keyClick(&words, Qt::Key_Down);
     EXPECT_EQ(view().state.WordsMade.Row(), 3);
-    EXPECT_EQ(painted(*words.viewport(), wordCell(words, 2).topLeft()), toQColor(colours().card));
     EXPECT_EQ(painted(*words.viewport(), wordCell(words, 3).topLeft()), toQColor(colours().cardSelection));
 }
 
@@ -169,7 +168,8 @@ TEST_F(Course, PauseCoversAndAClickResumes)
     EXPECT_EQ(word(), "C");
 }
 
-// Guards the swap: its mark must be seen, and the click on the drop row must not drop.
+// Guards the swap: its mark must be seen, and the click on the drop row must not drop. A tile that turns red by itself
+// is seen at once, too.
 TEST_F(Course, AShiftClickSwapsLetters)
 {
     start({{9, "QCATS"}});
@@ -181,8 +181,9 @@ TEST_F(Course, AShiftClickSwapsLetters)
     drop(3);
     EXPECT_EQ(letter(10), "H");
     EXPECT_EQ(view().board.waiting(3).Caption(), "C");
-    EXPECT_EQ(shown("YourScore"), "15");
     EXPECT_NE(painted(board(), border), toQColor(colours().accent));
+    Study(flow()).editTile(33, "V", multiplier::red);
+    EXPECT_EQ(paintedFace(33), toQColor(view().scheme.tileFace(multiplier::red)));
 }
 
 // Guards New Game, which asks, and leads through the options into a new one.

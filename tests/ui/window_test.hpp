@@ -102,7 +102,7 @@ public:
     /// A part of a widget as it stands on the screen, and a pixel of it.
     [[nodiscard]] static QImage picture(QWidget& widget, const QRect& part)
     {
-        QTest::qWait(10); // for the painting of what has changed
+        QTest::qWait(25); // for the painting of what has changed
         const QPoint place = widget.mapTo(widget.window(), part.topLeft());
         const WId window = widget.window()->winId();
         return widget.screen()->grabWindow(window, place.x(), place.y(), part.width(), part.height()).toImage();
