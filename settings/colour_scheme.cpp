@@ -5,6 +5,7 @@
 #include "settings/readable_colours.hpp"
 
 #include <algorithm>
+#include <cmath>
 #include <filesystem>
 #include <optional>
 #include <system_error>

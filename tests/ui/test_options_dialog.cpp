@@ -155,9 +155,9 @@ TEST_F(OptionsDialogTest, ASchemeChosenColoursEveryWindow)
         QTest::keyClick(&box, Qt::Key_Down);
         EXPECT_EQ(view().scheme.currentName, "Night.sch");
         const QColor background = toQColor(view().scheme.plain(scheme_entry::background));
-        EXPECT_EQ(dialog.palette().color(QPalette::Window), ground);
+        EXPECT_EQ(dialog.palette().color(QPalette::Window), background);
         EXPECT_EQ(box.palette().color(QPalette::Base), toQColor(view().scheme.plain(scheme_entry::wordList)));
-        EXPECT_EQ(painted(window(), {window().width() - 3, window().height() / 2}), ground);
+        EXPECT_EQ(painted(window(), {window().width() - 3, window().height() / 2}), background);
     });
     openAndStart();
 }
