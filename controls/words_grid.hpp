@@ -25,6 +25,8 @@ struct WordsRow {
     std::string word = {};
     Maker maker = Maker::Player;
     std::vector<std::uint8_t> path = {}; ///< the tile numbers of a hint, in order; empty for a word that was made
+
+    friend bool operator==(const WordsRow&, const WordsRow&) = default;
 };
 
 /// The words grid `WordsMade` of the main window and of the hints window: a heading row and one row a word with the
@@ -78,6 +80,12 @@ public:
 
     /// Rises with every change that shows: a front end fills its table again when it differs.
     [[nodiscard]] std::uint32_t revision() const { return revision_; }
+
+    /// The same rows in the same order, the same current one and the same sort mark.
+    friend bool operator==(const WordsGrid& a, const WordsGrid& b)
+    {
+        return a.rows_ == b.rows_ && a.row_ == b.row_ && a.Tag == b.Tag;
+    }
 
 private:
     std::vector<WordsRow> rows_; ///< without the heading

@@ -14,7 +14,7 @@ namespace
 
 GameView viewOf(const GameParts& p)
 {
-    return {p.game.state, p.game.board, p.game.selection, p.game.supply, p.game.dropRow, p.letterSwap,
+    return {p.game.state, p.game.board, p.game.selection, p.game.supply, p.game.dropRow, p.game.letterSwap,
             p.hintsForm,  p.options,    p.dictionary,     p.scheme,      p.sounds,       p.Dc1};
 }
 
@@ -151,7 +151,7 @@ void GameFlow::showOptions()
 void GameFlow::clearGame()
 {
     resume();
-    parts_->letterSwap.cancel();
+    parts_->game.letterSwap.cancel();
     parts_->game.selection.clear();
     parts_->game.board.clear();
     parts_->game.supply.RandomLetters.clear();
@@ -255,7 +255,7 @@ void GameFlow::clockExpired()
     if (!inGame_ || !parts_->game.state.computerGame)
         return;
     parts_->Dc1.SuspendCountDown(); // told once
-    parts_->letterSwap.cancel();
+    parts_->game.letterSwap.cancel();
     parts_->ports.dialogs.message("Game over\r\n5 minutes have elapsed");
     tellWinner(parts_->game.state, parts_->ports.status);
     endOfGame();

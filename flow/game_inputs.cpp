@@ -33,8 +33,8 @@ const GameFlow::Entry& GameFlow::entryOf(Command command)
         Entry{Command::EnterWord, When::InPlay, Ends, [](Flow&, Parts& p) { p.wordRound.enterWord(); }},
         Entry{Command::ClearWord, When::InPlay, Stays,
               [](Flow&, Parts& p) {
-                  if (p.letterSwap.isPending())
-                      p.letterSwap.cancel();
+                  if (p.game.letterSwap.isPending())
+                      p.game.letterSwap.cancel();
                   else
                       p.game.selection.clear();
               }},
@@ -98,7 +98,7 @@ void GameFlow::perform(Command command)
     const Entry& entry = entryOf(command);
     input(entry.when, [&](GameParts& p) {
         if (entry.swap == Entry::Swap::Ends)
-            p.letterSwap.cancel();
+            p.game.letterSwap.cancel();
         entry.run(*this, p);
     });
 }
@@ -110,12 +110,12 @@ void GameFlow::clickTile(int tile, MouseButton button, bool shift)
     input(When::InPlay, [=](GameParts& p) {
         if (!p.game.board.isVisible(tile))
             return;
-        const bool again = p.letterSwap.isPending() && p.letterSwap.tile() == tile;
+        const bool again = p.game.letterSwap.isPending() && p.game.letterSwap.tile() == tile;
         if (shift || again) {
-            p.letterSwap.request(tile);
+            p.game.letterSwap.request(tile);
             return;
         }
-        p.letterSwap.cancel();
+        p.game.letterSwap.cancel();
         if (button == MouseButton::Right && p.game.selection.entryPending) {
             p.game.selection.entryPending = false;
             p.wordRound.enterWord();
@@ -139,8 +139,8 @@ void GameFlow::hoverTile(int tile)
 void GameFlow::drop(int col)
 {
     input(When::InPlay, [=](GameParts& p) {
-        if (p.letterSwap.isPending())
-            p.letterSwap.exchange(col);
+        if (p.game.letterSwap.isPending())
+            p.game.letterSwap.exchange(col);
         else if (p.game.board.waiting(col).Visible())
             p.game.dropRow.dropIntoColumn(col);
     });
@@ -149,7 +149,7 @@ void GameFlow::drop(int col)
 void GameFlow::typeLetter(char letter)
 {
     input(When::InPlay, [=](GameParts& p) {
-        p.letterSwap.cancel(); // typing is another action
+        p.game.letterSwap.cancel(); // typing is another action
         spellOn(p.game, letter);
     });
 }
@@ -157,7 +157,7 @@ void GameFlow::typeLetter(char letter)
 void GameFlow::typeWord(const std::string& word)
 {
     input(When::InPlay, [&](GameParts& p) {
-        p.letterSwap.cancel();
+        p.game.letterSwap.cancel();
         for (const char letter : word) {
             if (!spellOn(p.game, letter))
                 return;
@@ -173,7 +173,7 @@ void GameFlow::pickWord(int row)
 void GameFlow::sortWordsMade(int x)
 {
     input(When::InPlay, [=](GameParts& p) {
-        p.letterSwap.cancel();
+        p.game.letterSwap.cancel();
         p.game.state.WordsMade.headingClicked(x);
     });
 }
@@ -181,7 +181,7 @@ void GameFlow::sortWordsMade(int x)
 void GameFlow::releaseClockFrame(MouseButton button)
 {
     input(When::Always, [=](GameParts& p) {
-        p.letterSwap.cancel();
+        p.game.letterSwap.cancel();
         frame10Released(p.Dc1, button);
     });
 }
@@ -249,7 +249,7 @@ void GameFlow::tick(Timer timer)
         input(When::InPlay, [this](GameParts& p) {
             const RedTiles::PushResult push = p.game.redTiles.pushTimerTick();
             if (push.what == RedTiles::Push::Pushed)
-                p.letterSwap.cancel();
+                p.game.letterSwap.cancel();
             if (push.what == RedTiles::Push::Lost)
                 loseGame(push.col);
         });

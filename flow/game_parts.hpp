@@ -3,7 +3,6 @@
 #include "controls/dc.hpp"
 #include "dictionary/maintenance.hpp"
 #include "game/game.hpp"
-#include "game/letter_swap.hpp"
 #include "opponent/board_search.hpp"
 #include "opponent/computer_turn.hpp"
 #include "opponent/hints.hpp"
@@ -36,7 +35,6 @@ struct GameParts {
     OptionsForm options{{ports.dialogs, ports.screen, dictionary, scheme, sounds, folder}};
     Dc Dc1;
     Game game{ports, dictionary, sounds, scheme, options};
-    LetterSwap letterSwap{game};
     MeaningServices services{folder};
     ScoreFile scoreFile{folder, ports.dialogs};
     ScoreForm scoreForm{scoreFile, ports.dialogs};

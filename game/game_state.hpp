@@ -13,6 +13,15 @@ namespace lexigrove
 /// What `WordTried` shows in place of the word being built.
 enum class Prompt { None, YourMove, ComputerMove };
 
+/// How a game was begun.
+enum class GameKind {
+    Normal,
+    Preset,   ///< from preset letters
+    Position, ///< from a position that was set up
+    Shared,   ///< from a board that somebody shared
+    Daily,    ///< from the board of a day
+};
+
 /// Whether letters come from the queue, and so what `TilesLeft` shows: nothing before the deal, the count, "NONE".
 enum class LetterDraw { NotDealt, Going, Ended };
 
@@ -27,8 +36,9 @@ struct GameState {
     int hoveredTile = 0; ///< the tile that `Label4` describes, 0 for none
     WordsGrid WordsMade;
 
-    bool developerMode = false;
+    GameKind kind = GameKind::Normal;
     bool computerGame = false;
+    bool developerMode = false;
     bool redTileHold = false;            ///< stops both pressure timers
     bool computerTurnInProgress = false; ///< set for the whole of the computer's turn
 
@@ -45,6 +55,8 @@ struct GameState {
 
     /// Back to the start of a game. Developer mode, the kind of game, the hold and the sort mark of the words stay.
     void resetForNewGame();
+
+    friend bool operator==(const GameState&, const GameState&) = default;
 
     /// The caption of `TilesLeft`.
     [[nodiscard]] std::string tilesLeftText() const;
