@@ -36,6 +36,15 @@ bool isBefore(const WordsRow& a, const WordsRow& b, int column)
 
 } // namespace
 
+WordsGrid& WordsGrid::operator=(const WordsGrid& other)
+{
+    rows_ = other.rows_;
+    row_ = other.row_;
+    Tag = other.Tag;
+    ++revision_;
+    return *this;
+}
+
 void WordsGrid::clear()
 {
     rows_.clear();

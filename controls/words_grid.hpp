@@ -46,6 +46,11 @@ public:
         {"Word...", 1750, CellAlignment::Left},
     }};
 
+    WordsGrid() = default;
+    WordsGrid(const WordsGrid&) = default;
+    /// Takes the rows of another grid; the revision goes on from this one's.
+    WordsGrid& operator=(const WordsGrid& other);
+
     /// Leaves the heading row alone and makes it the current row. The sort mark stays.
     void clear();
 

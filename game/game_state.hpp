@@ -1,11 +1,13 @@
 #pragma once
 
 #include "controls/words_grid.hpp"
+#include "game/turn.hpp"
 #include "game/word_score.hpp"
 #include "scores/statistics.hpp"
 
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace lexigrove
 {
@@ -42,6 +44,10 @@ struct GameState {
     bool redTileHold = false;            ///< stops both pressure timers
     bool computerTurnInProgress = false; ///< set for the whole of the computer's turn
 
+    std::string start;       ///< the board that the game began with, as a line of text
+    std::vector<Turn> turns; ///< every word of the game, the first one first
+    int secondsPlayed = 0;   ///< in play, pauses left out
+
     // Counted per game, in 16 bits
     Statistics statistics; ///< also the word-length counts
     int bonusTilesOnBoard = 0;
@@ -49,6 +55,8 @@ struct GameState {
     int redTilesUsed = 0;
     int wordsMade = 0;
     int hintsUsed = 0;
+    int redTilesMade = 0;
+    int pushes = 0; ///< columns pushed down
     int tickCount = 0;
     int pressure = 0; ///< as the last red tick computed it
     int lastPressure = 0;

@@ -22,23 +22,6 @@ std::string captionOf(char letter)
     return letter == BoardPosition::none || letter == BoardPosition::blank ? std::string() : std::string(1, letter);
 }
 
-BoardPosition boardPositionOf(const Game& game)
-{
-    BoardPosition position;
-    position.arrangement = game.board.arrangement();
-    position.level = game.dictionary.loadedLevel();
-    for (int tile = 1; tile <= Board::tileCount; ++tile) {
-        const BoxControl& control = game.board.tile(tile);
-        if (control.Visible())
-            position.cells[static_cast<std::size_t>(tile)] = {letterOf(control), control.MaskColor()};
-    }
-    for (int col = 1; col <= Board::columns; ++col)
-        position.waiting[static_cast<std::size_t>(col)] = letterOf(game.board.waiting(col));
-    for (const std::string& letter : game.supply.RandomLetters)
-        position.queue += letter.empty() ? BoardPosition::blank : letter.front();
-    return position;
-}
-
 void setUp(Game& game, const BoardPosition& position)
 {
     game.selection.clear();
@@ -82,10 +65,38 @@ BoardPosition::BoardPosition()
     waiting.fill(none);
 }
 
+BoardPosition boardOf(const Game& game)
+{
+    BoardPosition position;
+    position.arrangement = game.board.arrangement();
+    position.level = game.dictionary.loadedLevel();
+    for (int tile = 1; tile <= Board::tileCount; ++tile) {
+        const BoxControl& control = game.board.tile(tile);
+        if (control.Visible())
+            position.cells[static_cast<std::size_t>(tile)] = {letterOf(control), control.MaskColor()};
+    }
+    for (int col = 1; col <= Board::columns; ++col)
+        position.waiting[static_cast<std::size_t>(col)] = letterOf(game.board.waiting(col));
+    for (const std::string& letter : game.supply.RandomLetters)
+        position.queue += letter.empty() ? BoardPosition::blank : letter.front();
+    return position;
+}
+
+Turn turnOf(const Game& game, Maker maker)
+{
+    return {.before = boardOf(game),
+            .word = game.selection.word(),
+            .path = game.selection.tiles(),
+            .maker = maker,
+            .hintsUsed = game.state.hintsUsed,
+            .redTilesMade = game.state.redTilesMade,
+            .pushes = game.state.pushes};
+}
+
 Position positionOf(const Game& game)
 {
     Position position;
-    position.board = boardPositionOf(game);
+    position.board = boardOf(game);
     position.userDictionary = game.dictionary.loadedLevel() == 0 ? game.dictionary.fileTable[0] : "";
     position.words = game.dictionary.fingerprint();
     position.strategy = game.options.settings.strategy;

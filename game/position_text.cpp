@@ -1,6 +1,8 @@
-#include "game/position.hpp"
+#include "game/board.hpp"
+#include "game/board_position.hpp"
 
 #include <algorithm>
+#include <vector>
 
 namespace lexigrove
 {

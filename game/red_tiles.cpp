@@ -53,6 +53,7 @@ void RedTiles::makeRedTile()
         game_.look.showSelected(tile);
     else
         game_.look.showNormal(tile);
+    countUp(game_.state.redTilesMade);
     game_.dictionary.setRedThreshold(game_.dictionary.redThreshold() - 1);
 }
 
@@ -90,6 +91,7 @@ void RedTiles::pushOutRedTile(int col)
 void RedTiles::pushColumn(int col)
 {
     game_.selection.clear();
+    countUp(game_.state.pushes);
     game_.removal.moveColumnDown(game_.board.columnHeight(col), col);
 }
 
