@@ -13,6 +13,7 @@ class ConsoleWindows : public Windows
 public:
     explicit ConsoleWindows(LineChannel& channel) : channel_(channel) {}
 
+    void show(ContinueForm& form) override;
     void show(OptionsForm& form) override;
     void show(ScoreForm& form) override;
     void show(HintsForm& form) override;

@@ -58,6 +58,12 @@ void WordsGrid::add(WordsRow row)
     ++revision_;
 }
 
+void WordsGrid::assign(std::vector<WordsRow> rows)
+{
+    rows_ = std::move(rows);
+    setCurrent(0);
+}
+
 void WordsGrid::insertOnTop(WordsRow row)
 {
     row.number = Rows();

@@ -58,6 +58,9 @@ public:
     void add(WordsRow row);
     void insertOnTop(WordsRow row);
 
+    /// Takes rows as they stand, with their numbers, the topmost first; the heading is the current row.
+    void assign(std::vector<WordsRow> rows);
+
     /// The number of rows, the heading counted: 1 for an empty grid.
     [[nodiscard]] int Rows() const { return static_cast<int>(rows_.size()) + 1; }
 

@@ -13,23 +13,25 @@ enum class When {
 
 /// The inputs that take nothing but their name: what menus, buttons, keys and the console's commands offer.
 enum class Command {
-    NewGame,     ///< from the menu, with its questions
-    Pause,       ///< pauses and resumes
-    Sound,       ///< switches the sound on or off
-    Exit,        ///< offers the score, saves the configuration and ends the program; closing the window does the same
-    EnterWord,   ///< `EnterWord`
-    ClearWord,   ///< Esc: cancels a letter swap, else clears the path
-    TakeBack,    ///< takes the last tile off the path
-    GetHint,     ///< `Hintx`
-    CheckWord,   ///< `CheckDict`
-    ShowMeaning, ///< of the current word of `WordsMade`
-    AddWord,     ///< opens the maintenance window with the selected word
-    TopTen,      ///< shows the top ten
-    Statistics,  ///< `showstatx`
-    Help,        ///< `Helpx`
-    About,       ///< shows the about box
-    AskPassword, ///< F1: the developer's password
-    ExportWords, ///< see `Dictionary::exportWords`
+    NewGame,      ///< from the menu, with its questions
+    Daily,        ///< the board of the day, with the questions of a new game
+    KeepForLater, ///< leaves the program and keeps the game for the next start
+    Pause,        ///< pauses and resumes
+    Sound,        ///< switches the sound on or off
+    Exit,         ///< offers the score, saves the configuration and ends the program; closing the window does the same
+    EnterWord,    ///< `EnterWord`
+    ClearWord,    ///< Esc: cancels a letter swap, else clears the path
+    TakeBack,     ///< takes the last tile off the path
+    GetHint,      ///< `Hintx`
+    CheckWord,    ///< `CheckDict`
+    ShowMeaning,  ///< of the current word of `WordsMade`
+    AddWord,      ///< opens the maintenance window with the selected word
+    TopTen,       ///< shows the top ten
+    Statistics,   ///< `showstatx`
+    Help,         ///< `Helpx`
+    About,        ///< shows the about box
+    AskPassword,  ///< F1: the developer's password
+    ExportWords,  ///< see `Dictionary::exportWords`
 };
 
 /// The keys that set the drop-animation delay in developer mode.

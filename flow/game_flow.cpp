@@ -146,10 +146,12 @@ void GameFlow::showOptions()
     parts_->ports.windows.show(parts_->options);
     if (parts_->options.answer() == OptionsForm::Answer::Exit)
         leave();
+    parts_->configuration.saveQuietly();
 }
 
 void GameFlow::clearGame()
 {
+    forgetSavedGame();
     resume();
     parts_->game.letterSwap.cancel();
     parts_->game.selection.clear();
@@ -165,20 +167,27 @@ void GameFlow::beginGame()
     p.services.choose(p.options);
     p.game.state.resetForNewGame();
     p.game.state.computerGame = p.options.isComputerGame();
+    p.game.state.kind = p.options.settings.presetLetters.wait() ? GameKind::Preset : GameKind::Normal;
     p.maintenance.reset();
     p.dictionary.read(p.ports.dialogs, p.ports.status, p.ports.random, p.ports.clock);
     p.game.board.layOut(p.options.isSquare() ? Arrangement::Square : Arrangement::Staggered);
     p.game.supply.dealLetters();
     p.game.refreshLooks();
-    if (p.game.state.computerGame) {
+    if (p.game.state.computerGame)
         p.options.settings.presetLetters.closeScoreOffer();
-        p.Dc1.ShowTimeOnly(false);
-        p.Dc1.ClockStartValue(gameSeconds);
-        p.Dc1.StartCountdown();
-    } else {
+    gameBegun();
+}
+
+/// Counts down in a game against the computer; in a solo game it goes on showing the time of day.
+void GameFlow::startClock(int seconds)
+{
+    if (!parts_->game.state.computerGame) {
         showWallClock();
+        return;
     }
-    inGame_ = true;
+    parts_->Dc1.ShowTimeOnly(false);
+    parts_->Dc1.ClockStartValue(static_cast<std::int16_t>(seconds));
+    parts_->Dc1.StartCountdown();
 }
 
 /// Between games and in a solo game the clock shows the time of day, at once.
@@ -195,11 +204,18 @@ void GameFlow::showWallClock()
 
 void GameFlow::newGame()
 {
+    if (giveUpGame())
+        anotherGame();
+}
+
+/// The questions before a game makes room for another one. False when it goes on; else it is cleared.
+bool GameFlow::giveUpGame()
+{
     GameParts& p = *parts_;
     p.sounds.play(cue::menu);
     if (p.game.state.wordsMade > 0) {
         if (!p.ports.dialogs.confirm("Do you wish to reset?"))
-            return;
+            return false;
         PresetLetters& preset = p.options.settings.presetLetters;
         if (preset.isNormalGame()) {
             preset.closeScoreOffer(); // offered once: leaving does not record the score a second time
@@ -207,7 +223,9 @@ void GameFlow::newGame()
                 leave();
         }
     }
-    anotherGame();
+    p.options.settings.presetLetters.clear();
+    clearGame();
+    return true;
 }
 
 /// The board and everything that is counted per game are cleared, the player chooses, and a game starts.
@@ -275,6 +293,7 @@ void GameFlow::leave()
         if (parts_->options.settings.presetLetters.isNormalGame())
             offerScore(*parts_);
     });
+    forgetSavedGame();
     despiteLeaving([this] { parts_->configuration.save(); });
     parts_->sounds.play(cue::thanks);
     throw ProgramEnd();

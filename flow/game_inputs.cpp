@@ -27,6 +27,8 @@ const GameFlow::Entry& GameFlow::entryOf(Command command)
     using enum Entry::Swap;
     static constexpr std::array entries{
         Entry{Command::NewGame, When::NotPaused, Ends, [](Flow& flow, Parts&) { flow.newGame(); }},
+        Entry{Command::Daily, When::NotPaused, Ends, [](Flow& flow, Parts&) { flow.playDaily(); }},
+        Entry{Command::KeepForLater, When::InGame, Ends, [](Flow& flow, Parts&) { flow.keepForLater(); }},
         Entry{Command::Pause, When::InGame, Ends, [](Flow& flow, Parts&) { flow.pauseOrResume(); }},
         Entry{Command::Sound, When::Always, Ends, [](Flow&, Parts& p) { p.options.soundButton(); }},
         Entry{Command::Exit, When::Always, Stays, [](Flow& flow, Parts&) { flow.leave(); }},
@@ -259,6 +261,8 @@ void GameFlow::tick(Timer timer)
         // again at every tick.
         if (parts_->Dc1.tick(parts_->ports.clock.secondsSinceMidnight()))
             input(When::Always, [this](GameParts& /*parts*/) { clockExpired(); });
+        if (inGame_ && !paused_)
+            ++parts_->game.state.secondsPlayed;
         parts_->ports.screen.inputEnded();
         break;
     case Timer::Pause:

@@ -8,6 +8,7 @@
 #include "opponent/hints.hpp"
 #include "opponent/word_round.hpp"
 #include "platform/ports.hpp"
+#include "record/saved_game_file.hpp"
 #include "scores/score_file.hpp"
 #include "scores/score_form.hpp"
 #include "scores/statistics_form.hpp"
@@ -40,6 +41,7 @@ struct GameParts {
     ScoreForm scoreForm{scoreFile, ports.dialogs};
     StatisticsForm statisticsForm{game.state.statistics};
     DictionaryMaintenance maintenance{dictionary, ports.dialogs, ports.screen, ports.clock};
+    SavedGameFile savedGame{folder};
     BoardSearch search;
     ComputerTurn computerTurn{game, search, Dc1};
     WordRound wordRound{game, computerTurn};

@@ -44,6 +44,7 @@ struct GameState {
     bool redTileHold = false;            ///< stops both pressure timers
     bool computerTurnInProgress = false; ///< set for the whole of the computer's turn
 
+    std::string begun;       ///< when: "2026-11-23 04:15"
     std::string start;       ///< the board that the game began with, as a line of text
     std::vector<Turn> turns; ///< every word of the game, the first one first
     int secondsPlayed = 0;   ///< in play, pauses left out

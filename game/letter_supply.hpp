@@ -1,5 +1,7 @@
 #pragma once
 
+#include "game/arrangement.hpp"
+
 #include <deque>
 #include <string>
 
@@ -21,6 +23,9 @@ public:
     /// `TilesLeft` to its start value. A preset letters text replaces the shuffled letters. Called once a game, after
     /// the board is laid out.
     void dealLetters();
+
+    /// The start value of `TilesLeft`. The queue of a square board holds four letters more.
+    static int startCount(Arrangement arrangement) { return arrangement == Arrangement::Staggered ? 32 : 24; }
 
     /// Takes the first letter off the queue; the empty text when the queue is empty.
     std::string nextLetter();

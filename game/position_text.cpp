@@ -137,8 +137,8 @@ BoardPosition boardPositionOf(std::string_view text)
 {
     constexpr std::string_view names[] = {"arrangement", "level", "board", "drop row", "queue"};
     const std::vector<std::string_view> fields = fieldsOf(text);
-    if (fields.size() < std::size(names))
-        throw PositionError(std::string(names[fields.size()]) + " is missing");
+    if (fields.empty())
+        throw PositionError("arrangement is missing");
     if (fields.size() > std::size(names))
         throw PositionError("after the queue: '" + std::string(fields[std::size(names)]) + "' is too much");
 
@@ -146,8 +146,10 @@ BoardPosition boardPositionOf(std::string_view text)
     if (fields[0] != arrangementNames[0] && fields[0] != arrangementNames[1])
         throw PositionError("arrangement: '" + std::string(fields[0]) + "' is neither square nor staggered");
     position.arrangement = fields[0] == arrangementNames[0] ? Arrangement::Square : Arrangement::Staggered;
-    if (fields[1].size() != 1 || fields[1][0] < '0' || fields[1][0] > '3')
+    if (fields.size() > 1 && (fields[1].size() != 1 || fields[1][0] < '0' || fields[1][0] > '3'))
         throw PositionError("level: '" + std::string(fields[1]) + "' is not 0 to 3");
+    if (fields.size() < std::size(names))
+        throw PositionError(std::string(names[fields.size()]) + " is missing");
     position.level = fields[1][0] - '0';
     readBoard(FieldReader(names[2], fields[2]), position);
 

@@ -10,14 +10,19 @@ class HintsForm;
 class OptionsForm;
 class ScoreForm;
 class StatisticsForm;
+struct ContinueForm;
 struct MeaningForm;
 
 /// The windows that the rules open, as a front end shows them. All but the help window are modal: the call returns when
-/// the form has been hidden or the window closed, and throws `Leaving` when the player closed the main window meanwhile.
+/// the form has been hidden or the window closed, and throws `Leaving` when the player closed the main window
+/// meanwhile.
 class Windows
 {
 public:
     virtual ~Windows() = default;
+
+    /// The question whether the last game goes on; the form holds the answer.
+    virtual void show(ContinueForm& form) = 0;
 
     /// Returns when `Startx` or `Exitx` has hidden the form; the form holds which.
     virtual void show(OptionsForm& form) = 0;
