@@ -198,8 +198,7 @@ void GameFlow::playDaily()
     GameParts& p = *parts_;
     if (!giveUpGame())
         return;
-    const int level = p.dictionary.level() == 0 ? 2 : p.dictionary.level();
-    const BoardPosition board = boardOfTheDay(p.ports.clock.today(), level);
+    const BoardPosition board = boardOfTheDay(p.ports.clock.today(), p.dictionary.level());
     beginFrom(board, GameKind::Daily);
     p.game.state.tilesLeft = LetterSupply::startCount(board.arrangement);
 }

@@ -61,7 +61,7 @@ BoardPosition boardOfTheDay(Day day, int level)
 {
     BoardPosition board;
     board.arrangement = day.time_since_epoch().count() % 2 == 0 ? Arrangement::Square : Arrangement::Staggered;
-    board.level = level;
+    board.level = level == 0 ? 2 : level;
     const std::string letters = lettersOfTheDay(day);
     auto letter = letters.begin();
     for (int tile = 1; tile <= Board::tileCount; ++tile) {
@@ -91,11 +91,9 @@ std::string dailySummary(const GameRecord& record)
     if (words > mostSquares)
         squares += " +" + std::to_string(words - mostSquares);
 
-    const int level = record.start.level;
-    const std::string levelText = level == 0 ? "user dictionary" : "level " + std::to_string(level);
     const bool onePoint = record.yourScore == 1;
-    return "LexiGrove " + record.begun.substr(0, 10) + ", " + levelText + "\n" + std::to_string(record.yourScore) +
-           (onePoint ? " point in " : " points in ") + counted(words, "word") +
+    return "LexiGrove " + record.begun.substr(0, 10) + ", level " + std::to_string(record.start.level) + "\n" +
+           std::to_string(record.yourScore) + (onePoint ? " point in " : " points in ") + counted(words, "word") +
            "\nLongest word: " + counted(longest, "letter") + "\n" + squares;
 }
 

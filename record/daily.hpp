@@ -9,8 +9,9 @@
 namespace lexigrove
 {
 
-/// The board of a day for a level, 0 to 3: the same letters at every level, with every compiler. docs/daily.md writes
-/// out how they are drawn, so that another program can make the same.
+/// The board of a day for a level, 1 to 3, or 0 for a user dictionary, which plays at level 2: the same letters at
+/// every level, with every compiler. docs/daily.md writes out how they are drawn, so that another program can make the
+/// same.
 BoardPosition boardOfTheDay(Day day, int level);
 
 /// A daily game in four lines for the clipboard, which give no word away: date and level, points and words, the longest

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "record/review.hpp"
+#include "record/review_texts.hpp"
 #include "word_services/meanings.hpp"
 
 #include <string>
@@ -18,30 +18,20 @@ public:
     enum class Lit { Made, Best, Longest };
 
     /// A row of the turns, and one of those that left most behind.
-    struct TurnRow {
-        int turn = 0;
-        std::string maker; ///< "You" or "Computer"
-        std::string word;
-        int score = 0;
-        std::string bestWord;
-        int bestScore = 0;
-    };
+    using TurnRow = lexigrove::TurnRow;
 
     /// The lists and the meanings outlive the form.
     ReviewForm(GameRecord record, ReviewLists& lists, Meanings& meanings);
 
     // The game
 
-    [[nodiscard]] std::string caption() const; ///< "Game of 2026-11-23 04:15"
-    /// "You took 187 of the 412 points that the best word of each turn would have given".
-    [[nodiscard]] std::string summary() const;
+    [[nodiscard]] std::string caption() const { return "Game of " + review_.record().begun; }
+    [[nodiscard]] std::string summary() const { return summaryText(review_, list_); }
     /// The turns that left most behind: three or fewer, the greatest loss first.
     [[nodiscard]] std::vector<TurnRow> mostLeftBehind() const;
-    /// "Turn 4: you made CAT for 5, QUIZ would have given 22".
-    [[nodiscard]] static std::string textOf(const TurnRow& left);
-    [[nodiscard]] std::string rarestText() const; ///< "Your rarest word was QUIRE"; empty without a word
-    /// Says that the game's own dictionary cannot be read any more, so that nothing is found with it; else empty.
-    [[nodiscard]] std::string notice() const;
+    [[nodiscard]] static std::string textOf(const TurnRow& left) { return leftBehindText(left); }
+    [[nodiscard]] std::string rarestText() const { return lexigrove::rarestText(review_); }
+    [[nodiscard]] std::string notice() const { return noticeText(review_, list_); }
     [[nodiscard]] std::vector<TurnRow> rows() const; ///< every turn, in order
 
     // The turn
@@ -62,7 +52,8 @@ public:
 
     void choose(ReviewList list) { list_ = list; }
     [[nodiscard]] ReviewList list() const { return list_; }
-    [[nodiscard]] static std::string textOf(ReviewList list, int level); ///< "Level 2", "User dictionary", "Level 3"
+    /// What a side of the switch says: "Level 2", "User dictionary".
+    [[nodiscard]] static std::string textOf(ReviewList list, int level) { return listText(list, level); }
     /// Whether the switch has two sides: a game of level 3 has one.
     [[nodiscard]] bool hasTwoLists() const { return review_.record().start.level != 3; }
     [[nodiscard]] std::string thereText() const; ///< "214 words were on the board"; empty without a turn
@@ -83,8 +74,6 @@ public:
     [[nodiscard]] const Review& review() const { return review_; }
 
 private:
-    [[nodiscard]] TurnRow rowOf(int turn) const;
-
     Review review_;
     Meanings& meanings_;
     int turn_ = 0;
