@@ -22,6 +22,8 @@ public:
     // No event tells of these: what they show has commands of its own, and they are closed at once.
 
     void show(const StatisticsForm& /*form*/) override {}
+    void show(PastGamesForm& /*form*/) override {}
+    void show(ReviewForm& /*form*/) override {}
     void show(DictionaryMaintenance& /*form*/) override {}
     void showHelp(const std::string& /*address*/) override {}
     void showAbout() override {}

@@ -15,6 +15,10 @@ enum class When {
 enum class Command {
     NewGame,      ///< from the menu, with its questions
     Daily,        ///< the board of the day, with the questions of a new game
+    CopyBoard,    ///< the board that the game began with, as a line of text on the clipboard
+    SharedBoard,  ///< asks for such a line and plays its board, with the questions of a new game
+    PastGames,    ///< shows the games that are over
+    LookBack,     ///< shows the last game that is over
     KeepForLater, ///< leaves the program and keeps the game for the next start
     Pause,        ///< pauses and resumes
     Sound,        ///< switches the sound on or off

@@ -142,10 +142,15 @@ void GameFlow::showOptions()
 {
     inGame_ = false;
     showWallClock();
-    parts_->options.open();
-    parts_->ports.windows.show(parts_->options);
-    if (parts_->options.answer() == OptionsForm::Answer::Exit)
-        leave();
+    OptionsForm& options = parts_->options;
+    do {
+        options.open(lastRecord_.empty() ? OptionsForm::LookBack::Hidden : OptionsForm::LookBack::Offered);
+        parts_->ports.windows.show(options);
+        if (options.answer() == OptionsForm::Answer::Exit)
+            leave();
+        if (options.answer() == OptionsForm::Answer::LookBack)
+            lookBack();
+    } while (options.answer() != OptionsForm::Answer::Start);
     parts_->configuration.saveQuietly();
 }
 
@@ -216,6 +221,7 @@ bool GameFlow::giveUpGame()
     if (p.game.state.wordsMade > 0) {
         if (!p.ports.dialogs.confirm("Do you wish to reset?"))
             return false;
+        recordGame(GameEnd::NewGame);
         PresetLetters& preset = p.options.settings.presetLetters;
         if (preset.isNormalGame()) {
             preset.closeScoreOffer(); // offered once: leaving does not record the score a second time
@@ -242,12 +248,13 @@ void GameFlow::loseGame(int col)
     parts_->game.redTiles.pushOutRedTile(col);
     parts_->ports.status.show("A red tile was pushed out. Game over.");
     parts_->ports.screen.yield();
-    endOfGame();
+    endOfGame(GameEnd::Lost);
 }
 
-void GameFlow::endOfGame()
+void GameFlow::endOfGame(GameEnd end)
 {
     GameParts& p = *parts_;
+    recordGame(end);
     p.sounds.play(cue::menu);
     PresetLetters& preset = p.options.settings.presetLetters;
     if (preset.isNormalGame()) {
@@ -276,7 +283,7 @@ void GameFlow::clockExpired()
     parts_->game.letterSwap.cancel();
     parts_->ports.dialogs.message("Game over\r\n5 minutes have elapsed");
     tellWinner(parts_->game.state, parts_->ports.status);
-    endOfGame();
+    endOfGame(GameEnd::ClockExpired);
 }
 
 /// Leaving goes on whatever happens to its questions: one that is closed counts as declined.
@@ -293,6 +300,7 @@ void GameFlow::leave()
         if (parts_->options.settings.presetLetters.isNormalGame())
             offerScore(*parts_);
     });
+    recordGame(GameEnd::Left);
     forgetSavedGame();
     despiteLeaving([this] { parts_->configuration.save(); });
     parts_->sounds.play(cue::thanks);

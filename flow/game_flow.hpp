@@ -12,6 +12,7 @@ namespace lexigrove
 {
 
 class Board;
+enum class GameEnd;
 class ColourScheme;
 class Dc;
 class Dictionary;
@@ -126,6 +127,10 @@ private:
     void gameBegun();
     void clearGame();
     bool giveUpGame();
+    void askForSharedBoard();
+    bool beginShared(const std::string& text);
+    void recordGame(GameEnd end);
+    void lookBack();
     bool continueKept();
     void continueFrom(const Position& position);
     void keepForLater();
@@ -137,7 +142,7 @@ private:
     void newGame();
     void showWallClock();
     void loseGame(int col);
-    void endOfGame();
+    void endOfGame(GameEnd end);
     void clockExpired();
     void openingWindow();
     void pauseOrResume();
@@ -147,6 +152,7 @@ private:
     const std::unique_ptr<GameParts> parts_;
     const GameView view_;
     std::optional<Position> saved_; ///< the file's, without what time alone changes
+    std::string lastRecord_;        ///< the file of the game that was over last, empty for none
     Keeping keeping_ = Keeping::On;
     bool busy_ = false;
     bool ended_ = false;

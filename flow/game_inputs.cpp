@@ -28,6 +28,19 @@ const GameFlow::Entry& GameFlow::entryOf(Command command)
     static constexpr std::array entries{
         Entry{Command::NewGame, When::NotPaused, Ends, [](Flow& flow, Parts&) { flow.newGame(); }},
         Entry{Command::Daily, When::NotPaused, Ends, [](Flow& flow, Parts&) { flow.playDaily(); }},
+        Entry{Command::CopyBoard, When::InGame, Ends,
+              [](Flow&, Parts& p) {
+                  p.ports.screen.copyText(p.game.state.start);
+                  p.ports.status.show("The board that this game began with is on the clipboard");
+              }},
+        Entry{Command::SharedBoard, When::NotPaused, Ends, [](Flow& flow, Parts&) { flow.askForSharedBoard(); }},
+        Entry{Command::PastGames, When::NotPaused, Ends,
+              [](Flow& flow, Parts& p) {
+                  flow.openingWindow();
+                  p.pastGames.activate(p.ports.clock.today());
+                  p.ports.windows.show(p.pastGames);
+              }},
+        Entry{Command::LookBack, When::NotPaused, Ends, [](Flow& flow, Parts&) { flow.lookBack(); }},
         Entry{Command::KeepForLater, When::InGame, Ends, [](Flow& flow, Parts&) { flow.keepForLater(); }},
         Entry{Command::Pause, When::InGame, Ends, [](Flow& flow, Parts&) { flow.pauseOrResume(); }},
         Entry{Command::Sound, When::Always, Ends, [](Flow&, Parts& p) { p.options.soundButton(); }},

@@ -208,9 +208,9 @@ Theme::Theme() : desktop_(desktopPalette())
 
 void Theme::follow(const ColourScheme& scheme)
 {
-    if (applied_ && scheme.entries() == shown_)
+    if (scheme_ == &scheme && scheme.entries() == shown_)
         return;
-    applied_ = true;
+    scheme_ = &scheme;
     shown_ = scheme.entries();
     colours_ = deriveWindowColours(scheme);
     family_ = familyPalette(colours_);

@@ -44,6 +44,9 @@ public:
 
     [[nodiscard]] const WindowColours& colours() const { return colours_; }
 
+    /// The scheme that was followed last, which outlives the theme's use.
+    [[nodiscard]] const ColourScheme& scheme() const { return *scheme_; }
+
     /// A plain colour, or a system colour as it stands in this family of windows (a window's background is the card).
     [[nodiscard]] QColor colour(Colour colour) const;
 
@@ -58,7 +61,7 @@ signals:
 
 private:
     SystemPalette desktop_;
-    bool applied_ = false;
+    const ColourScheme* scheme_ = nullptr;
     ColourTable shown_{};
     WindowColours colours_{};
     SystemPalette family_; ///< system colours as they stand in these windows
