@@ -48,8 +48,11 @@ GameRecord recordOf(const Game& game, const std::string& begun, GameEnd end);
 /// The readable text of a record, "LexiGrove record 1" and then a line a field; docs/record.md describes it.
 std::string textOf(const GameRecord& record);
 
+/// The size of text, in bytes, that is read: a game of 60 words takes about 20,000.
+inline constexpr std::size_t largestRecord = std::size_t{1} << 20;
+
 /// The record of such a text. Throws PositionError, which names the line and what is wrong with it, when the text is of
-/// another kind, of a later version, above a mebibyte, or differs in any byte from what `textOf` writes: its last line
+/// another kind, of another version, too large, or differs in any byte from what `textOf` writes: its last line
 /// is a check of the others.
 GameRecord gameRecordOf(std::string_view text);
 

@@ -22,9 +22,9 @@ struct PastGame {
     GameKind kind = GameKind::Normal;
     bool computerGame = false;
     int score = 0;
-    int words = 0;           ///< the player's
-    std::string longestWord; ///< of the player, the first of the longest
-    int minutes = 0;         ///< in play, rounded
+    int words = 0;                ///< the player's
+    std::string longestWord = {}; ///< of the player, the first of the longest
+    int minutes = 0;              ///< in play, rounded
 };
 
 PastGame pastGameOf(const NamedRecord& game);

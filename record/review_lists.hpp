@@ -21,13 +21,13 @@ public:
     const WordList& level(int level);
 
     /// The words of a game's own dictionary: of its level, or of the user dictionary (level 0) as it is today.
-    const WordList& own(int level, const std::string& userDictionary);
+    const WordList& own(int ownLevel, const std::string& userDictionary);
 
 private:
-    const WordList& read(const std::string& path);
+    const WordList& read(const std::string& name);
 
     std::string folder_;
-    std::map<std::string, WordList> lists_; ///< by path
+    std::map<std::string, WordList> lists_; ///< by file name
 };
 
 } // namespace lexigrove
