@@ -259,10 +259,8 @@ void GameFlow::gameBegun()
 {
     GameParts& p = *parts_;
     p.game.state.start = textOf(boardOf(p.game));
-    const std::chrono::year_month_day day = p.ports.clock.today();
     const auto seconds = static_cast<unsigned>(p.ports.clock.secondsSinceMidnight());
-    p.game.state.begun = std::to_string(static_cast<int>(day.year())) + "-" + twoDigits(unsigned(day.month())) + "-" +
-                         twoDigits(unsigned(day.day())) + " " + twoDigits(seconds / 3600) + ":" +
+    p.game.state.begun = textOf(Day(p.ports.clock.today())) + " " + twoDigits(seconds / 3600) + ":" +
                          twoDigits(seconds / 60 % 60);
     startClock(gameSeconds);
     inGame_ = true;

@@ -67,11 +67,11 @@ std::size_t differingLine(std::string_view a, std::string_view b)
 
 } // namespace
 
-GameRecord recordOf(const Game& game, const std::string& begun, GameEnd end)
+GameRecord recordOf(const Game& game, GameEnd end)
 {
     const GameState& state = game.state;
     const BoardPosition start = boardPositionOf(state.start);
-    return {.begun = begun,
+    return {.begun = state.begun,
             .userDictionary = start.level == 0 ? game.dictionary.fileTable[0] : "",
             .kind = state.kind,
             .computerGame = state.computerGame,

@@ -42,8 +42,8 @@ struct GameRecord {
     friend bool operator==(const GameRecord&, const GameRecord&) = default;
 };
 
-/// The record of a game as it stands.
-GameRecord recordOf(const Game& game, const std::string& begun, GameEnd end);
+/// The record of a game as it stands. Throws PositionError when the board of its start cannot be read.
+GameRecord recordOf(const Game& game, GameEnd end);
 
 /// The readable text of a record, "LexiGrove record 1" and then a line a field; docs/record.md describes it.
 std::string textOf(const GameRecord& record);

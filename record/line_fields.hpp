@@ -1,7 +1,6 @@
 #pragma once
 
 #include "controls/words_grid.hpp"
-#include "game/board.hpp"
 #include "game/turn.hpp"
 
 #include <cstdint>
@@ -106,7 +105,7 @@ void visitTurns(Fields& fields, Turns& turns)
         auto& turn = turns[static_cast<std::size_t>(i)];
         fields.board("before", turn.before);
         fields.text("word", turn.word);
-        fields.list("tiles", turn.path, 1, Board::tileCount);
+        fields.list("tiles", turn.path, 1, BoardPosition::tileCount);
         fields.number("points", turn.score, -field::mostPoints, field::mostPoints);
         fields.choice("maker", turn.maker, field::makerNames);
         fields.number("hints", turn.hintsUsed, 0, field::most16);

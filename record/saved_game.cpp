@@ -3,6 +3,7 @@
 #include "record/line_fields.hpp"
 
 #include <algorithm>
+#include <limits>
 #include <vector>
 
 namespace lexigrove
@@ -12,7 +13,6 @@ namespace
 {
 
 constexpr std::string_view firstLine = "LexiGrove game 1";
-
 constexpr std::string_view drawNames[] = {"not-dealt", "going", "ended"};
 constexpr std::string_view sortNames[] = {"no", "ascending", "descending"};
 constexpr std::string_view promptNames[] = {"none", "your-move"};
@@ -34,44 +34,45 @@ struct Kept {
 template <typename Fields, typename Game, typename KeptFields>
 void visitFields(Fields& fields, Game& game, KeptFields& kept)
 {
+    using namespace field;
     auto& position = game.position;
     auto& state = position.state;
     fields.text("saved", game.date);
     fields.board("board", position.board);
     fields.text("user-dictionary", position.userDictionary);
     fields.hash("words", position.words);
-    fields.choice("kind", state.kind, field::kindNames);
-    fields.choice("against-computer", state.computerGame, field::yesNo);
-    fields.choice("computer-plays", position.strategy, field::strategyNames);
-    fields.number("score", state.yourScore, -field::mostPoints, field::mostPoints);
-    fields.number("computer-score", state.compScore, -field::mostPoints, field::mostPoints);
+    fields.choice("kind", state.kind, kindNames);
+    fields.choice("against-computer", state.computerGame, yesNo);
+    fields.choice("computer-plays", position.strategy, strategyNames);
+    fields.number("score", state.yourScore, -mostPoints, mostPoints);
+    fields.number("computer-score", state.compScore, -mostPoints, mostPoints);
     fields.choice("letters", state.letterDraw, drawNames);
-    fields.number("tiles-left", state.tilesLeft, least16, field::most16);
+    fields.number("tiles-left", state.tilesLeft, least16, most16);
     fields.choice("prompt", state.prompt, promptNames);
-    fields.list("word-score", kept.wordScore, 0, field::mostPoints);
-    fields.choice("hold", state.redTileHold, field::yesNo);
-    fields.number("bonus-tiles", state.bonusTilesOnBoard, least16, field::most16);
-    fields.number("red-tiles", state.redTilesOnBoard, least16, field::most16);
-    fields.number("red-tiles-used", state.redTilesUsed, 0, field::most16);
-    fields.number("red-tiles-made", state.redTilesMade, 0, field::most16);
-    fields.number("pushes", state.pushes, 0, field::most16);
-    fields.number("hints-used", state.hintsUsed, 0, field::most16);
-    fields.number("ticks", state.tickCount, 0, field::most16);
-    fields.number("pressure", state.pressure, -field::mostPoints, field::mostPoints);
-    fields.number("last-pressure", state.lastPressure, -field::mostPoints, field::mostPoints);
-    fields.number("red-threshold", position.redThreshold, least16, field::most16);
-    fields.number("seconds-left", position.secondsLeft, least16, field::most16);
-    fields.number("seconds-played", state.secondsPlayed, 0, field::mostPoints);
+    fields.list("word-score", kept.wordScore, 0, mostPoints);
+    fields.choice("hold", state.redTileHold, yesNo);
+    fields.number("bonus-tiles", state.bonusTilesOnBoard, least16, most16);
+    fields.number("red-tiles", state.redTilesOnBoard, least16, most16);
+    fields.number("red-tiles-used", state.redTilesUsed, 0, most16);
+    fields.number("red-tiles-made", state.redTilesMade, 0, most16);
+    fields.number("pushes", state.pushes, 0, most16);
+    fields.number("hints-used", state.hintsUsed, 0, most16);
+    fields.number("ticks", state.tickCount, 0, most16);
+    fields.number("pressure", state.pressure, -mostPoints, mostPoints);
+    fields.number("last-pressure", state.lastPressure, -mostPoints, mostPoints);
+    fields.number("red-threshold", position.redThreshold, least16, most16);
+    fields.number("seconds-left", position.secondsLeft, least16, most16);
+    fields.number("seconds-played", state.secondsPlayed, 0, mostPoints);
     fields.numbers("letter-counts", std::span(position.letterCounts), -1000, 1000);
     fields.text("pool", position.pool);
     fields.list("path", position.path, 1, BoardPosition::tileCount);
-    fields.choice("entry-pending", position.entryPending, field::yesNo);
+    fields.choice("entry-pending", position.entryPending, yesNo);
     fields.number("swap", position.swapTile, 0, BoardPosition::tileCount);
-    fields.number("hints-shown", kept.hintsShown, 0, field::most16);
+    fields.number("hints-shown", kept.hintsShown, 0, most16);
     fields.text("begun", state.begun);
     fields.text("start", state.start);
-    fields.list("rows", kept.rows, 1, field::most16);
-    fields.number("current-row", kept.currentRow, 0, field::most16);
+    fields.list("rows", kept.rows, 1, most16);
+    fields.number("current-row", kept.currentRow, 0, most16);
     fields.choice("sorted", kept.sorted, sortNames);
     visitTurns(fields, state.turns);
 }
