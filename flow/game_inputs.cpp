@@ -10,7 +10,7 @@
 namespace lexigrove
 {
 
-/// When a command runs, what it means for a letter swap that waits, and its rule.
+/// When a command is accepted, what it does to a pending letter swap, and its rule.
 struct GameFlow::Entry {
     enum class Swap { Ends, Stays };
 
@@ -118,7 +118,7 @@ void GameFlow::perform(Command command)
     });
 }
 
-// ---- What takes more than its name
+// ---- Inputs with arguments
 
 void GameFlow::clickTile(int tile, MouseButton button, bool shift)
 {
@@ -224,7 +224,7 @@ void GameFlow::releaseDeveloperKey(DeveloperKey key)
     }
 }
 
-/// What every action does that opens a window from the main one: a sound, and no pressure until the next word.
+/// What precedes every window opened from the main one: a sound, and no pressure until the next word.
 void GameFlow::openingWindow()
 {
     parts_->game.state.redTileHold = true;
@@ -270,8 +270,8 @@ void GameFlow::tick(Timer timer)
         });
         break;
     case Timer::Clock:
-        // It goes on while a window is open; an expiry that meets one is told when it has closed, for it is raised
-        // again at every tick.
+        // It keeps running while a window is open. An expiry meanwhile is reported once the window has closed, because
+        // it is raised again at every tick.
         if (parts_->Dc1.tick(parts_->ports.clock.secondsSinceMidnight()))
             input(When::Always, [this](GameParts& /*parts*/) { clockExpired(); });
         if (inGame_ && !paused_)

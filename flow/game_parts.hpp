@@ -24,14 +24,14 @@
 namespace lexigrove
 {
 
-/// Everything that the program is made of below its front end, put together once. Only the flow and its study reach it.
+/// Everything below the front end, put together. Only the flow and its study access it.
 struct GameParts {
     GameParts(const Ports& outside, const std::string& programFolder) : ports(outside), folder(programFolder) {}
     GameParts(const GameParts&) = delete;
     GameParts& operator=(const GameParts&) = delete;
 
     const Ports ports;
-    const std::string folder; ///< the program folder with its closing separator
+    const std::string folder; ///< the program folder with its trailing separator
 
     Dictionary dictionary{folder};
     ColourScheme scheme{folder, ports.dialogs};

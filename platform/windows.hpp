@@ -35,7 +35,7 @@ public:
     /// Returns when `Select` or `Close` has hidden the form (closing the window is `Close`).
     virtual void show(HintsForm& form) = 0;
 
-    /// Network and page errors are the browser view's.
+    /// The browser view handles network and page errors.
     virtual void show(const MeaningForm& form) = 0;
 
     virtual void show(const StatisticsForm& form) = 0;

@@ -21,7 +21,7 @@ BoardView::BoardView(GameFlow& flow, const Theme& theme, QWidget* parent)
     setObjectName("Picture1");
     setAccessibleName(tr("Board"));
     setMouseTracking(true);
-    setFocusPolicy(Qt::StrongFocus); // keys that it leaves go to the window
+    setFocusPolicy(Qt::StrongFocus); // keys that it ignores go to the window
     connect(&theme, &Theme::changed, this, [this] { update(); });
 }
 
@@ -175,7 +175,7 @@ void BoardView::mouseReleaseEvent(QMouseEvent* event)
 
 void BoardView::paintEvent(QPaintEvent* event)
 {
-    shape_.fit(size(), devicePixelRatioF()); // the window may have come to another screen
+    shape_.fit(size(), devicePixelRatioF()); // the window may have moved to another screen
     QPainter painter(this);
     const QRectF dirty = event->rect();
     BoardMarks marks = marks_;

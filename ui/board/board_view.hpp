@@ -23,7 +23,7 @@ class BoardView : public QWidget
 public:
     BoardView(GameFlow& flow, const Theme& theme, QWidget* parent = nullptr);
 
-    /// Repaints what differs from what is shown.
+    /// Repaints whatever has changed.
     void synchronise();
 
     /// Where tile 1 to 64, or the waiting tile of column 1 to 8, is shown.
@@ -47,7 +47,7 @@ protected:
     void leaveEvent(QEvent* event) override;
 
 private:
-    /// What was painted of a control.
+    /// What was last painted of a control.
     struct Shown {
         std::uint32_t revision = 0;
         QRectF place;

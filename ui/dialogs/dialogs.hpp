@@ -17,7 +17,7 @@ class StatisticsForm;
 struct ContinueForm;
 struct MeaningForm;
 
-// The modal windows over their forms. Each returns when its form was hidden or its window closed.
+// The modal windows for the forms. Each call returns when its form has been hidden or its window closed.
 
 /// The question of a start, with a picture of the game that was kept. Closing it is No.
 void runContinueDialog(Host& host, ContinueForm& form);
@@ -28,11 +28,11 @@ void runOptionsDialog(Host& host, OptionsForm& form);
 /// The top-ten window `ScoreForm`. Closing it, by its frame or with Esc, is "Close".
 void runScoreDialog(Host& host, ScoreForm& form);
 
-/// The hints window `Form2`. It opens to the right of the board, which stays in sight, for the row picked is shown
+/// The hints window `Form2`. It opens to the right of the board, which stays visible, because the row picked is shown
 /// there at once. Enter and a double click on a row select it; Esc is "Close".
 void runHintsDialog(Host& host, HintsForm& form);
 
-/// The meaning window `Form3`: the browser view `WbDictionary` fills it. Esc closes it, and the page ends with it.
+/// The meaning window `Form3`: the browser view `WbDictionary` fills it. Esc closes it together with its page.
 void runMeaningDialog(Host& host, BrowserLoader& loader, const MeaningForm& form);
 
 /// The statistics window `Form4`, with its chart in `Picture1`.

@@ -35,7 +35,7 @@ public:
 private:
     Host& host_;
     std::unique_ptr<BrowserLoader> browser_;
-    std::unique_ptr<HelpWindow> help_; ///< made when it is first asked for
+    std::unique_ptr<HelpWindow> help_; ///< created when first needed
 };
 
 } // namespace lexigrove
