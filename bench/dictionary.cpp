@@ -29,7 +29,7 @@ void benchFindWord(const WordList& list, const std::vector<std::string>& words)
 {
     std::vector<std::string> sought = words;
     for (std::size_t i = 0; i < sought.size(); i += 2)
-        sought[i] += "X"; // mostly no words
+        sought[i] += "X"; // mostly not words
     std::shuffle(sought.begin(), sought.end(), std::mt19937(718));
     std::size_t found = 0;
     std::size_t foundByStandard = 0;

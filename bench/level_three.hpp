@@ -17,7 +17,7 @@
 namespace lexigrove::bench
 {
 
-/// 194,000 made-up words in ascending order, of the lengths that English words have.
+/// 194,000 made-up words in ascending order, with the lengths of English words.
 inline std::string madeUpList()
 {
     std::mt19937 random(718);
@@ -49,8 +49,8 @@ inline std::string levelThreeList(int argumentCount, char** arguments)
     return madeUpList();
 }
 
-/// A folder of its own for files, removed at the end of the scope. It lies beside the program: the temporary folder is
-/// no disk on many machines.
+/// A folder for files, removed at the end of the scope. It is beside the program, because on many machines the
+/// temporary folder is not on a disk.
 class BenchFolder
 {
 public:
@@ -68,7 +68,7 @@ private:
     std::filesystem::path path_;
 };
 
-/// Nobody to ask: a message, which would tell of a failure, is printed.
+/// Asks nobody. A message, which would report a failure, is printed.
 class NoDialogs : public Dialogs
 {
 public:
@@ -84,8 +84,7 @@ struct Medians {
     double baseline;
 };
 
-/// Runs both by turns, so that what disturbs the machine disturbs both. The round's
-/// preparation is not timed.
+/// Runs both in turn, so that whatever disturbs the machine disturbs both. The round's preparation is not timed.
 inline Medians measure(
     int rounds, const std::function<void()>& subject, const std::function<void()>& baseline,
     const std::function<void()>& prepare = [] {})

@@ -13,7 +13,7 @@ namespace
 
 constexpr double frame = 1000.0 / 60; // milliseconds
 
-/// Takes the messages of a rewrite without a word, and prints any other.
+/// Silently accepts the messages of a rewrite, and prints any other.
 class QuietDialogs : public bench::NoDialogs
 {
 public:
@@ -52,7 +52,7 @@ int main(int argumentCount, char** arguments)
     DictionaryMaintenance maintenance(dictionary, dialogs, screen, clock);
     maintenance.activate();
 
-    // The list as it is shipped is backed up whole, and written in about half its size.
+    // The list as shipped is backed up completely, and written in about half its size.
     maintenance.Text1 = "ADDEDWORD";
     const auto copy = [&] { copyFile(path, folder.prefix() + "Copy.txt"); };
     const bench::Medians first = bench::measure(

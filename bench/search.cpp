@@ -3,8 +3,8 @@
 //   (b) touching every byte of the dictionary once,
 //   (c) a plain trie with a depth-first walk over the board and a sort of what it found, in the manner of the fastest
 //       public solvers.
-// All but (b) find the same words with the same paths, which is checked. Every board comes once a pass, because a board
-// that comes again at once has trained the branch predictor; ratios are taken board by board, and medians over all
+// All but (b) find the same words with the same paths, which is checked. Every board comes once per pass, because a
+// board that is repeated at once has trained the branch predictor. Ratios are taken board by board; medians over all
 // boards and passes are shown.
 
 #include "dictionary/letter_tables.hpp"
@@ -68,7 +68,7 @@ namespace
 constexpr int boardCount = 200;
 constexpr int passes = 7;
 
-/// The trie of a sorted list: a node's children lie together, one bit says which letters there are.
+/// The trie of a sorted list: a node's children are stored together, and a bit for each letter says which there are.
 class DepthFirstSolver
 {
 public:
@@ -160,7 +160,7 @@ private:
     std::vector<Found> found_;
 };
 
-/// Full boards, dealt from the pool of 100 letters that a game with this dictionary deals from.
+/// Full boards, dealt from the pool of 100 letters of a game with this dictionary.
 std::vector<SearchBoard> dealBoards(const std::string& dictionary, bool square)
 {
     LetterTables letters;

@@ -42,7 +42,7 @@ long memory(const std::string& name)
     return 0;
 }
 
-/// Tells the parent when the window has been painted for the first time, then goes on, and tells the memory at rest.
+/// Tells the parent when the window has first been painted, and later how much memory it holds at rest.
 class Reporter : public QObject
 {
 public:
@@ -101,7 +101,7 @@ int showGame(QApplication& application, const std::string& folder)
 struct Start {
     double painted = 0; ///< milliseconds
     double rss = 0;     ///< megabytes
-    double pss = 0;     ///< megabytes, what is shared with other processes counted in shares
+    double pss = 0;     ///< megabytes, with shared memory divided among its processes
 };
 
 Start measure(const QStringList& arguments)

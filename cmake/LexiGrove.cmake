@@ -8,9 +8,9 @@ target_include_directories(lexigrove_flags INTERFACE ${CMAKE_SOURCE_DIR})
 target_compile_options(lexigrove_flags INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor -Woverloaded-virtual -Werror)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
-    # This compiler sees overlaps and unset values in its own library's strings and optionals once it optimizes.
+    # When optimizing, this compiler reports false overlaps and unset values in its own strings and optionals.
     target_compile_options(lexigrove_flags INTERFACE
-        -Wno-unknown-warning-option -Wno-restrict -Wno-maybe-uninitialized) # the first for tools that know none of them
+        -Wno-unknown-warning-option -Wno-restrict -Wno-maybe-uninitialized) # the first is for tools that know none of them
 endif()
 if(LEXIGROVE_SANITIZE)
     set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
@@ -27,7 +27,7 @@ function(lexigrove_library name)
 endfunction()
 
 # lexigrove_test(<name> SOURCES <files> DEPENDS <libraries> [TIMEOUT <seconds>])
-# One test program of GoogleTest cases, each known to ctest.
+# One test program of GoogleTest cases, each registered with ctest.
 function(lexigrove_test name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "TIMEOUT" "SOURCES;DEPENDS")
     if(NOT arg_TIMEOUT)

@@ -15,7 +15,7 @@ namespace lexigrove
 
 class CommandTable;
 
-/// What the commands reach.
+/// What the commands work on.
 struct CommandContext {
     GameFlow& flow;
     Study study;
@@ -24,8 +24,8 @@ struct CommandContext {
     bool quitting = false; ///< set by `quit`
 };
 
-/// A command of the protocol: its name, when it can be given, and how its arguments are read and it is carried out.
-/// `run` gives the answer's lines, or throws CommandError before anything has changed.
+/// A command of the protocol: its name, when it is accepted, and how it reads its arguments and runs. `run` returns the
+/// answer's lines, or throws CommandError before changing anything.
 struct ConsoleCommand {
     std::string_view name;
     When when;
@@ -42,7 +42,7 @@ ConsoleCommand command(std::string_view name, When when, Run run)
             }};
 }
 
-/// A command whose arguments `parse` reads: `run` sees them when the whole line was understood.
+/// A command whose arguments `parse` reads: `run` gets them once the whole line has been parsed.
 template <typename Parse, typename Run>
 ConsoleCommand command(std::string_view name, When when, Parse parse, Run run)
 {
@@ -73,7 +73,7 @@ private:
 // The commands by theme.
 
 std::vector<ConsoleCommand> setUpCommands();
-std::vector<ConsoleCommand> positionCommands(); ///< that set up a position, for studying it
+std::vector<ConsoleCommand> positionCommands(); ///< that set up a position to study
 std::vector<ConsoleCommand> playCommands();
 std::vector<ConsoleCommand> lookingCommands();
 std::vector<ConsoleCommand> recordCommands(); ///< past games, and boards that are shared

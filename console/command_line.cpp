@@ -1,6 +1,9 @@
 #include "console/command_line.hpp"
 
+#include <algorithm>
+#include <array>
 #include <charconv>
+#include <getopt.h>
 #include <string_view>
 
 namespace lexigrove
@@ -34,28 +37,42 @@ double secondsOfDay(std::string_view text)
 
 } // namespace
 
-CommandLine readCommandLine(std::span<const char* const> arguments)
+CommandLine readCommandLine(int argc, char* const* argv)
 {
+    static constexpr std::array<option, 5> options{{
+        {"folder", required_argument, nullptr, 'f'},
+        {"time-of-day", required_argument, nullptr, 't'},
+        {"help", no_argument, nullptr, 'h'},
+        {"version", no_argument, nullptr, 'v'},
+        {}, // the end
+    }};
     CommandLine line;
-    for (std::size_t i = 0; i < arguments.size(); ++i) {
-        const std::string_view option = arguments[i];
-        const auto value = [&]() -> std::string {
-            if (i + 1 == arguments.size())
-                throw BadOption("missing value: " + std::string(option));
-            return arguments[++i];
-        };
-        if (option == "--folder")
-            line.folder = value();
-        else if (option == "--time-of-day")
-            line.timeOfDay = secondsOfDay(value());
-        else if (option == "--help")
+    optind = 0; // from the beginning, however often
+    for (;;) {
+        const int place = std::max(optind, 1);
+        switch (getopt_long(argc, argv, "+:", options.data(), nullptr)) { // stops at what is no option; prints nothing
+        case 'f':
+            line.folder = optarg;
+            break;
+        case 't':
+            line.timeOfDay = secondsOfDay(optarg);
+            break;
+        case 'h':
             line.help = true;
-        else if (option == "--version")
+            break;
+        case 'v':
             line.version = true;
-        else
-            throw BadOption("unknown option: " + std::string(option));
+            break;
+        case ':':
+            throw BadOption(std::string("missing value: ") + argv[place]);
+        case -1:
+            if (optind >= argc)
+                return line;
+            [[fallthrough]];
+        default:
+            throw BadOption(std::string("unknown option: ") + argv[place]);
+        }
     }
-    return line;
 }
 
 } // namespace lexigrove

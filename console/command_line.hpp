@@ -1,7 +1,6 @@
 #pragma once
 
 #include <optional>
-#include <span>
 #include <stdexcept>
 #include <string>
 
@@ -22,8 +21,8 @@ struct CommandLine {
     bool version = false;
 };
 
-/// Reads the arguments behind the program's name. Throws BadOption.
-CommandLine readCommandLine(std::span<const char* const> arguments);
+/// Reads the command line, the program's name first. Throws BadOption.
+CommandLine readCommandLine(int argc, char* const* argv);
 
 /// What `--help` prints.
 extern const char* const helpText;

@@ -26,7 +26,7 @@ std::uint64_t machineSeed()
     return (std::uint64_t{device()} << 32) | device();
 }
 
-/// Takes the number that a line begins with off the line; the empty text where there is none.
+/// Removes the leading number from a line and returns it; an empty string if there is none.
 std::string_view takeId(std::string_view& line)
 {
     const std::size_t end = std::min(line.find(' '), line.size());

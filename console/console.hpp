@@ -17,11 +17,11 @@ namespace lexigrove
 {
 
 /// The whole game behind a line protocol: reads commands, plays them through the flow, and writes the events that they
-/// caused and their answers. docs/console.md describes the protocol.
+/// cause and their answers. docs/console.md describes the protocol.
 class Console
 {
 public:
-    /// `folder` is the program folder with its closing separator. A time of day (seconds since midnight) freezes the
+    /// `folder` is the program folder with its trailing separator. A time of day (seconds since midnight) freezes the
     /// clock, and the random generator then starts from a fixed state: the same input gives the same output.
     Console(const std::string& folder, std::optional<double> timeOfDay, std::istream& in, std::ostream& out);
 

@@ -16,7 +16,7 @@ public:
     explicit ConsoleDialogs(LineChannel& channel) : channel_(channel) {}
 
     void message(const std::string& text) override;
-    /// Any reply but "yes" and "no" is asked again.
+    /// Asks again after any reply but "yes" and "no".
     bool confirm(const std::string& text) override;
     std::string input(const std::string& title, const std::string& prompt, const std::string& defaultAnswer) override;
     std::string openFile(const OpenFileRequest& request) override;
@@ -34,6 +34,8 @@ public:
     void setBusyPointer(bool /*busy*/) override {}
     void lockBoardUpdates(bool /*locked*/) override {}
     void waitForAnyInput() override {}
+    void copyText(const std::string& /*text*/) override {}
+    [[nodiscard]] std::string copiedText() const override { return {}; }
     void inputEnded() override {}
 };
 
@@ -49,7 +51,7 @@ private:
     std::string folder_;
 };
 
-/// Every text of the status line as an event, also those overwritten within one command.
+/// Every text of the status line as an event, even those overwritten within one command.
 class ConsoleStatus : public StatusLine
 {
 public:

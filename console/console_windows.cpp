@@ -13,7 +13,7 @@ namespace lexigrove
 namespace
 {
 
-/// Carries out a reply to the options dialog. False for a reply that means nothing.
+/// Carries out a reply to the options dialog. Returns false for an invalid reply.
 bool answerOptions(OptionsForm& form, const std::string& reply)
 {
     if (reply == "start") {

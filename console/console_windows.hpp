@@ -6,8 +6,8 @@
 namespace lexigrove
 {
 
-/// The windows that the rules open, as events; the next input lines press their buttons. A reply that presses none has
-/// the event told again.
+/// The windows that the rules open, as events; the next input lines press their buttons. A reply that presses none
+/// repeats the event.
 class ConsoleWindows : public Windows
 {
 public:
@@ -19,9 +19,11 @@ public:
     void show(HintsForm& form) override;
     void show(const MeaningForm& form) override;
 
-    // No event tells of these: what they show has commands of its own, and they are closed at once.
+    // These cause no events: commands show their content, and they are closed at once.
 
     void show(const StatisticsForm& /*form*/) override {}
+    void show(PastGamesForm& /*form*/) override {}
+    void show(ReviewForm& /*form*/) override {}
     void show(DictionaryMaintenance& /*form*/) override {}
     void showHelp(const std::string& /*address*/) override {}
     void showAbout() override {}

@@ -10,13 +10,14 @@
 namespace lexigrove
 {
 
-/// Lines of an answer or an event, as they are meant: the channel escapes them.
+/// Lines of an answer or an event, unescaped: the channel escapes them.
 using Lines = std::vector<std::string>;
 
-/// Carriage return, line feed, tab and backslash as `\r`, `\n`, `\t` and `\\`; all other bytes as they stand.
+/// The text with carriage return, line feed, tab and backslash as `\r`, `\n`, `\t` and `\\`; all other bytes are
+/// unchanged.
 std::string escaped(std::string_view text);
 
-/// The text back. A backslash before any other character stands for itself.
+/// The reverse of `escaped`. A backslash before any other character is just that.
 std::string unescaped(std::string_view text);
 
 /// The two streams of the protocol: lines come in; answers and the events before them go out.
@@ -28,14 +29,14 @@ public:
     LineChannel(const LineChannel&) = delete;
     LineChannel& operator=(const LineChannel&) = delete;
 
-    /// The next input line without its line end (LF or CR LF), still escaped; nothing at the end of the input. What was
-    /// written before has left the program by then.
+    /// The next input line without its line end (LF or CR LF), still escaped; nothing at the end of the input. Flushes
+    /// the output first.
     std::optional<std::string> readLine();
 
     /// The input line that answers a question. Throws `Leaving` at the end of the input.
     std::string readReply();
 
-    /// The same for a question with a few possible answers: lines that begin with "#" are passed over.
+    /// The same for a question with a few possible answers: lines that begin with "#" are skipped.
     std::string readChoice();
 
     /// "! what" and "! what text".

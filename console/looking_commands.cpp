@@ -16,8 +16,8 @@ namespace lexigrove
 namespace
 {
 
-/// A tile as `show` prints it: its letter, lower-case in the path, "_" for none, "." for a hidden tile, and behind it
-/// the multiplier of a tile that is not plain.
+/// A tile as `show` prints it: its letter, lower-case in the path, "_" for none, "." for a hidden tile, followed by the
+/// multiplier of a tile that is not plain.
 std::string cell(const BoxControl& tile)
 {
     if (!tile.Visible())

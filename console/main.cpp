@@ -35,7 +35,7 @@ int main(int argc, char** argv)
     try {
         lexigrove::CommandLine options;
         try {
-            options = lexigrove::readCommandLine({argv + 1, argv + argc});
+            options = lexigrove::readCommandLine(argc, argv);
         } catch (const lexigrove::BadOption& error) {
             std::cerr << "lexigrove-console: " << error.what() << "\nTry \"lexigrove-console --help\".\n";
             return badOptionStatus;

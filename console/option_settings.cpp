@@ -68,7 +68,7 @@ bool isFreeText(std::string_view key)
     return key == "user_dictionary" || key == "scheme";
 }
 
-/// Letters in any case, or what `options` prints of a game whose score is not recorded: "x".
+/// Letters in any case, or "x", which `options` prints for a game whose score is not recorded.
 void checkPreset(const std::string& value)
 {
     const auto isLetter = [](char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); };

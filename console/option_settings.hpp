@@ -17,17 +17,17 @@ struct OptionSetting {
     std::string value;
 };
 
-/// Reads KEY=VALUE. Throws CommandError for a key or a value that there is not.
+/// Reads KEY=VALUE. Throws CommandError for an unknown key or value.
 OptionSetting readOption(std::string_view text);
 
-/// Reads any number of them. A path or a scheme's name may hold single blanks: what follows one without a "=" belongs
-/// to it.
+/// Reads any number of them. A path or a scheme's name may contain single blanks: a following argument without "=" is
+/// part of it.
 std::vector<OptionSetting> readOptions(Arguments& arguments);
 
 /// Makes the choice as a mouse click in the dialog would.
 void applyOption(OptionsForm& form, const OptionSetting& setting);
 
-/// All options as KEY=VALUE lines. A group without a choice, as a garbled configuration may leave it, has no value.
+/// All options as KEY=VALUE lines. A group without a choice, which a garbled configuration may leave, has no value.
 Lines optionLines(const OptionsForm& form, const std::string& schemeName);
 
 } // namespace lexigrove

@@ -81,13 +81,13 @@ Lines typeWord(CommandContext& context, const std::string& word)
 Lines drop(CommandContext& context, int col)
 {
     const bool waits = context.flow.view().board.waiting(col).Visible();
-    context.flow.drop(col); // also over an empty place: a letter swap refuses it with a sound
+    context.flow.drop(col); // even over an empty place, which a letter swap refuses with a sound
     if (!waits)
         throw CommandError("no letter waits over column " + std::to_string(col));
     return {};
 }
 
-/// The ticks of a timer; those that are left when the program ends are not told.
+/// The ticks of a timer, until the program ends.
 template <Timer timer>
 Lines ticks(CommandContext& context, int count)
 {

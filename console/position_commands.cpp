@@ -80,10 +80,10 @@ struct Setting {
     std::string_view name;
     int lowest;
     int highest;
-    int GameState::*number; ///< null for those that are set otherwise
+    int GameState::*number; ///< null for those that are set differently
 };
 
-constexpr int mostPoints = 1'000'000'000; // far from where adding a word's score would overflow
+constexpr int mostPoints = 1'000'000'000; // adding a word's score is then far from overflowing
 constexpr int most16 = std::numeric_limits<std::int16_t>::max();
 constexpr int least16 = std::numeric_limits<std::int16_t>::min();
 

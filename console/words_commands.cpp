@@ -25,7 +25,7 @@ Lines word(CommandContext& context, int entry)
     return {std::string(context.flow.view().dictionary.words.entry(entry))};
 }
 
-/// The empty word can be looked for: it is entry 0.
+/// The empty word can be found: it is entry 0.
 Lines findWord(CommandContext& context, const std::string& sought)
 {
     return {std::to_string(context.flow.view().dictionary.words.findWord(sought))};
@@ -95,7 +95,7 @@ Lines scores(CommandContext& context)
     return context.study.scores();
 }
 
-/// The final score, or -1 only to show the list.
+/// The final score, or -1 to only show the list.
 int codeArgument(Arguments& arguments)
 {
     return arguments.number("code", -1, 1'000'000'000);
@@ -118,7 +118,7 @@ Lines saveConfiguration(CommandContext& context)
     return {};
 }
 
-/// A name may hold blanks; those around it do not count.
+/// A name may contain blanks; those around it are ignored.
 std::string schemeArgument(Arguments& arguments)
 {
     const std::string text = arguments.rest();

@@ -13,7 +13,7 @@ namespace
 
 constexpr int outerInset = 20;        ///< of the bottom and right edges, whatever their thickness
 constexpr int innerInset = 10;        ///< of the inner lines, and of the top and left edges unless they are thin
-constexpr int pictureShift = 24;      ///< what a picture stands left of and above the middle
+constexpr int pictureShift = 24;      ///< how far left of and above the middle a picture is
 constexpr int border = unitsPerPixel; ///< of the single-line border, on each side
 
 } // namespace
@@ -170,15 +170,14 @@ Size BoxControl::innerSize() const
     return {Width_ - taken, Height_ - taken};
 }
 
-// The places follow from the size and the border alone, so they are worked out when they are asked for. A line is then
-// in its place also when the border has changed since the last redraw: a held tile that is recoloured and let up looks
-// raised as before.
+// The places depend only on the size and the border, so they are computed on demand. They are then right even if the
+// border has changed since the last redraw: a held tile that is recoloured and released looks raised as before.
 FrameLine BoxControl::line(int number) const
 {
     const auto [w, h] = innerSize();
     const int inset = BorderWidth_ == 1 ? 0 : innerInset;
     const bool innerSolid = DrawStyle_ == 0;
-    constexpr Colour innerColour = system_colour::buttonShadow; // of the design; no property reaches it
+    constexpr Colour innerColour = system_colour::buttonShadow; // fixed by the design; no property sets it
     switch (number) {
     case 1:
         return {{0, inset}, {w, inset}, BorderWidth_, BorderTop_, linesShown_, true};
@@ -188,7 +187,7 @@ FrameLine BoxControl::line(int number) const
         return {{0, h - outerInset}, {w - outerInset, h - outerInset}, BorderWidth_, BorderBottom_, linesShown_, true};
     case 4:
         return {{w - outerInset, 0}, {w - outerInset, h - outerInset}, BorderWidth_, BorderRight_, linesShown_, true};
-    case 5: // runs past the bottom edge, where the surface cuts it off
+    case 5: // runs past the bottom edge, where the surface clips it
         return {{w - innerInset, 0}, {w - innerInset, h + innerInset}, 1, innerColour, linesShown_, innerSolid};
     case 6:
         return {{0, h - innerInset}, {w, h - innerInset}, 1, innerColour, linesShown_, innerSolid};
@@ -283,7 +282,7 @@ void BoxControl::writeProperties(PropertyBag& bag, const ControlFont& containerF
     bag.write<PicturePtr>("Picture", Picture_, nullptr);
     bag.write<std::int16_t>("BorderStyle", BorderStyle_, 0);
     bag.write<std::int16_t>("DrawStyle", DrawStyle_, 5);
-    bag.write<double>("FontSize", Font_.size, 0); // not the 8 it is read with: the size is always written
+    bag.write<double>("FontSize", Font_.size, 0); // not 8, the default for reading, so that the size is always written
     bag.write("FontBold", Font_.bold, false);
     bag.write("backcolor", backcolor_, system_colour::buttonFace);
     bag.write<std::int16_t>("DrawFrame", DrawFrame_, 1);

@@ -12,8 +12,8 @@ namespace lexigrove
 
 class Screen;
 
-/// What a `BoxControl` tells its container, in the order of the control's interface. `X` and `Y` are units relative to
-/// the part (surface or caption) that the pointer was over; `Button` is 1 left, 2 right, 4 middle.
+/// What a `BoxControl` tells its container, in the order of the control's interface. `X` and `Y` are in units, relative
+/// to the part (surface or caption) under the pointer; `Button` is 1 left, 2 right, 4 middle.
 class BoxControlEvents
 {
 public:
@@ -39,20 +39,19 @@ struct FrameLine {
     bool solid = true; ///< false: transparent, not drawn
 };
 
-/// The tile and button of the game: a centred caption on a coloured face in a raised frame of lines. While it is
-/// pressed, or held down by `KeepDown`, the frame is hidden and a single-line border takes its place.
+/// The game's tile and button: a centred caption on a coloured face in a raised frame of lines. While it is pressed, or
+/// held down by `KeepDown`, the frame is hidden and a single-line border takes its place.
 ///
-/// It paints nothing: it holds what it would show, and a widget paints that. Setters that redraw (all but those marked
-/// "no redraw") run the drawing routine, which ends with one yield to the screen, so that a tile appears at once in the
-/// middle of an animation; without a screen nothing yields. A setter may therefore throw `Leaving`, after the value is
-/// stored.
+/// It paints nothing itself: it holds what a widget then paints. All setters redraw except those marked "no redraw". A
+/// redraw ends with one yield to the screen, if there is one, so that a tile appears at once in the middle of an
+/// animation. A setter may therefore throw `Leaving`, after storing the value.
 ///
-/// Lengths and places are units (see geometry.hpp). Copies share the picture and keep the pointers to screen and
+/// Lengths and places are in units (see geometry.hpp). Copies share the picture and keep the pointers to screen and
 /// events.
 class BoxControl
 {
 public:
-    /// A new control as its designer left it: caption "Button", top and left lines highlighted, bottom and right in
+    /// A control with its design-time values: caption "Button", top and left lines highlighted, bottom and right in
     /// shadow.
     BoxControl() = default;
 
@@ -61,15 +60,15 @@ public:
     [[nodiscard]] Colour ForeColor() const { return ForeColor_; }
     void ForeColor(Colour value); ///< no redraw
 
-    /// Setting it also colours the caption: button text when enabled, `BorderRight` (the shadow) when not. A control
-    /// that is not enabled takes no input.
+    /// Setting it also colours the caption: button text when enabled, `BorderRight` (the shadow) when not. A disabled
+    /// control takes no input.
     [[nodiscard]] bool Enabled() const { return Enabled_; }
     void Enabled(bool value); ///< no redraw
 
     [[nodiscard]] const ControlFont& Font() const { return Font_; }
     void Font(ControlFont value);
 
-    /// Paints the surface again and leaves the layout alone.
+    /// Repaints the surface without changing the layout.
     void Refresh();
 
     [[nodiscard]] const std::string& Caption() const { return Caption_; }
@@ -95,7 +94,7 @@ public:
     [[nodiscard]] const PicturePtr& Picture() const { return Picture_; }
     void Picture(PicturePtr value);
 
-    /// 0 draws the inner lines; anything else leaves them out.
+    /// 0 draws the inner lines; any other value omits them.
     [[nodiscard]] std::int16_t DrawStyle() const { return DrawStyle_; }
     void DrawStyle(std::int16_t value);
 
@@ -108,12 +107,11 @@ public:
     [[nodiscard]] Colour backcolor() const { return backcolor_; }
     void backcolor(Colour value);
 
-    /// Holds the control down, and lets it up again. A redraw of a held control shows its lines again and keeps the
-    /// border.
+    /// Hold the control down, and release it. A redraw of a held control shows its lines again and keeps the border.
     void KeepDown() { showDown(true); }
     void KeepUp() { showDown(false); }
 
-    /// 1 shows the frame; any other value a flat face.
+    /// 1 shows the frame; any other value shows a flat face.
     [[nodiscard]] std::int16_t DrawFrame() const { return DrawFrame_; }
     void DrawFrame(std::int16_t value);
 
@@ -123,7 +121,7 @@ public:
     /// 0 none, 1 a single line around the surface. Saved with the properties; only pressing and holding change it.
     [[nodiscard]] std::int16_t BorderStyle() const { return BorderStyle_; }
 
-    // What the container keeps of a control that it has placed.
+    // What the container sets when it places the control.
 
     [[nodiscard]] int Left() const { return Left_; }
     void Left(int value);
@@ -139,23 +137,22 @@ public:
     [[nodiscard]] const std::string& Tag() const { return Tag_; }
     void Tag(std::string value) { Tag_ = std::move(value); }
 
-    // What is to be painted.
+    // What to paint.
 
     /// Width and height inside the border.
     [[nodiscard]] Size innerSize() const;
 
-    /// `Line1` to `Line7` for number 1 to 7; throws std::out_of_range for another number. `Line7` has no place.
+    /// `Line1` to `Line7` for number 1 to 7; throws std::out_of_range otherwise. `Line7` has no place.
     [[nodiscard]] FrameLine line(int number) const;
 
-    /// The left top corner of a caption label of this size, relative to the inner surface. The label's size needs the
-    /// font's measures, which only a front end knows.
+    /// The top left corner of a caption label of this size, relative to the inner surface. The label's size depends on
+    /// font metrics, which only a front end knows.
     [[nodiscard]] ExactPoint captionPlace(Size label) const;
 
-    /// Where the picture is painted, whole and at its natural size, relative to the inner surface; nothing without a
-    /// picture.
+    /// Where the picture is painted at its natural size, relative to the inner surface; nothing without a picture.
     [[nodiscard]] std::optional<ExactPoint> picturePlace() const;
 
-    /// Rises with every change that shows and with every repaint: a front end paints again when it differs.
+    /// Increases with every visible change and every repaint: a front end repaints when it differs.
     [[nodiscard]] std::uint32_t revision() const { return revision_; }
 
     // What a front end reports. A press or click on the caption counts as one on the surface.
@@ -180,7 +177,7 @@ public:
     /// True when a setter has changed any property since the last read or write.
     [[nodiscard]] bool changed() const { return changed_; }
     void writeProperties(PropertyBag& bag, const ControlFont& containerFont = {});
-    /// Takes every property, a default for each one not saved, and draws.
+    /// Restores every property, using defaults for those not saved, and redraws.
     void readProperties(const PropertyBag& bag, const ControlFont& containerFont = {});
 
 private:

@@ -62,7 +62,7 @@ Colour SystemPalette::resolve(Colour c) const
 
 double contrastRatio(Colour a, Colour b)
 {
-    const auto [darker, lighter] = std::minmax({luminance(a), luminance(b)}); // the list, so that copies are bound
+    const auto [darker, lighter] = std::minmax({luminance(a), luminance(b)}); // the list overload returns copies
     return (lighter + 0.05) / (darker + 0.05);
 }
 

@@ -42,12 +42,12 @@ constexpr bool isSystemColour(Colour c)
 }
 
 /// The desktop's colours by system colour index (0 to 24). A front end fills it from the toolkit's palette; until then
-/// it holds a neutral light desktop.
+/// it holds the colours of a neutral light desktop.
 struct SystemPalette {
     SystemPalette();
     std::array<Colour, 25> entries;
 
-    /// The plain colour that stands for `c`: `c` itself, or the entry of a system colour (black for an unknown index).
+    /// `c` as a plain colour: `c` itself, or the entry of a system colour (black for an unknown index).
     [[nodiscard]] Colour resolve(Colour c) const;
 };
 

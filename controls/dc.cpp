@@ -40,7 +40,7 @@ std::string upperCase(std::string text)
     return text;
 }
 
-/// The two ends of a segment. The middle bars of digits 0 and 2 stand a pixel to the left, as the face was drawn.
+/// The two ends of a segment. By design, the middle bars of digits 0 and 2 are a pixel further left.
 std::pair<Point, Point> segmentPlace(int digit, int segment)
 {
     const int left = digitLeft.at(static_cast<std::size_t>(digit));
@@ -195,7 +195,7 @@ void Dc::showTimeOfDay(double secondsSinceMidnight)
     ++revision_;
 }
 
-/// A figure that has no pattern (a hundred minutes and more, or less than none) leaves its digit dark.
+/// A figure without a pattern (a hundred minutes or more, or a negative value) leaves its digit dark.
 void Dc::showDigit(int digit, int figure)
 {
     const bool known = figure >= 0 && figure <= 9;

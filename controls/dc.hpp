@@ -29,8 +29,8 @@ struct ClockRectangle {
 };
 
 /// The seven-segment clock: a countdown in minutes and seconds, or the time of day in hours and minutes. It paints
-/// nothing: it holds the colours and places of its lines, and a widget paints them. A front end calls `tick` every
-/// `timerInterval` while `running()`.
+/// nothing itself: it holds the colours and places of the lines that a widget then paints. A front end calls `tick`
+/// every `timerInterval` while `running()`.
 class Dc
 {
 public:
@@ -45,7 +45,7 @@ public:
 
     [[nodiscard]] Colour ClockBackground() const { return ClockBackground_; }
     void ClockBackground(Colour value);
-    /// The colours last set here. A theme (`ClockColor`) changes the colours drawn and leaves these two as they are.
+    /// The colours last set here. A theme (`ClockColor`) changes the colours drawn, but not these two.
     [[nodiscard]] Colour DigitHighlight() const { return DigitHighlight_; }
     void DigitHighlight(Colour value); ///< leaves all segments unlit until the next value is shown
     [[nodiscard]] Colour DigitDim() const { return DigitDim_; }
@@ -58,13 +58,13 @@ public:
     [[nodiscard]] std::int16_t ClockIncrement() const { return ClockIncrement_; }
     void ClockIncrement(std::int16_t value);
 
-    /// Starts the timer and shows both dots. The current value stays.
+    /// Starts the timer and shows both dots. The current value does not change.
     void StartCountdown();
 
-    /// Thickness of every segment and of both dots in pixels.
+    /// Thickness of every segment and both dots in pixels.
     [[nodiscard]] std::int16_t DigitWidth() const { return DigitWidth_; }
     void DigitWidth(std::int16_t value);
-    /// The time of day instead of the countdown, from the next tick on.
+    /// Shows the time of day instead of the countdown, from the next tick on.
     [[nodiscard]] bool ShowTimeOnly() const { return ShowTimeOnly_; }
     void ShowTimeOnly(bool value);
 
@@ -82,21 +82,22 @@ public:
     /// One tick of the timer; a stopped clock ignores it. An expired clock raises the event at every tick until it is
     /// stopped.
     [[nodiscard]] bool tick(double secondsSinceMidnight);
-    /// Receiving the input focus counts as an expiry: a container that does not want one never gives the clock the
+    /// Receiving the input focus counts as expiry, so a container that does not want that never gives the clock the
     /// focus.
     [[nodiscard]] bool gotFocus() const { return true; }
 
-    /// Seconds left of the countdown.
+    /// Seconds left in the countdown.
     [[nodiscard]] std::int16_t currentValue() const { return currentValue_; }
 
-    // What is to be painted.
+    // What to paint.
 
     static constexpr int upperDot = 40;
     static constexpr int lowerDot = 41;
 
-    /// Segment s (0 to 6) of digit d (0 to 3) has the index 10 * d + s; 40 and 41 are the upper and lower dot. Throws
-    /// std::out_of_range for an index without a line.
+    /// A line of the face. Segment s (0 to 6) of digit d (0 to 3) has the index 10 * d + s; 40 and 41 are the upper and
+    /// lower dot. Throws std::out_of_range for an index without a line.
     [[nodiscard]] ClockLine lin2(int index) const;
+    /// The rectangle behind the digits.
     [[nodiscard]] const ClockRectangle& Shapet() const { return Shapet_; }
 
     /// True when the line has the lit colour of the colour table.
@@ -104,7 +105,7 @@ public:
     /// The figure that the lit segments of digit 0 to 3 form, or -1 when they form none.
     [[nodiscard]] int shownDigit(int digit) const;
 
-    /// Rises with every change that shows: a front end paints again when it differs.
+    /// Increases with every visible change: a front end repaints when it differs.
     [[nodiscard]] std::uint32_t revision() const { return revision_; }
 
     // Persistence, under the properties' exact names.
@@ -112,7 +113,7 @@ public:
     /// True when a setter has changed any property since the last read or write.
     [[nodiscard]] bool changed() const { return changed_; }
     void writeProperties(PropertyBag& bag);
-    /// Stores what was saved, a default for the rest, without any setter's effect on the face.
+    /// Restores every property, using defaults for those not saved, without the setters' effects on the face.
     void readProperties(const PropertyBag& bag);
 
 private:
@@ -146,8 +147,8 @@ private:
     bool changed_ = false;
 };
 
-/// A mouse button released over the frame `Frame10` that holds the clock: the left one makes the lines thicker (2 to 6
-/// and round again), the right one takes the next theme; any other does nothing.
+/// Handles a mouse button released over `Frame10`, the clock's frame: left makes the lines thicker (2 to 6, then round
+/// again), right selects the next theme, any other does nothing.
 void frame10Released(Dc& clock, MouseButton button);
 
 } // namespace lexigrove

@@ -3,7 +3,7 @@
 namespace lexigrove
 {
 
-/// The controls measure in units of 1/1440 inch; at the design resolution a pixel is 15 of them.
+/// Controls are measured in units of 1/1440 inch; at the design resolution a pixel is 15 units.
 constexpr int unitsPerPixel = 15;
 
 struct Point {
@@ -13,7 +13,7 @@ struct Point {
     bool operator==(const Point&) const = default;
 };
 
-/// A place that may fall between two units.
+/// A place that may lie between two units.
 struct ExactPoint {
     double x = 0;
     double y = 0;

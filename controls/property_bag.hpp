@@ -12,8 +12,7 @@
 namespace lexigrove
 {
 
-/// A font as a control keeps it; which face a name stands for is the front end's affair. An empty name is the desktop's
-/// own font.
+/// A control's font. The front end resolves the name; an empty one means the desktop's own font.
 struct ControlFont {
     std::string name;
     double size = 8; ///< points
@@ -22,7 +21,7 @@ struct ControlFont {
     bool operator==(const ControlFont&) const = default;
 };
 
-/// A picture that a control shows. A front end derives its own kind, which holds the pixels.
+/// A picture that a control shows. A front end derives its own class, which holds the pixels.
 class ControlPicture
 {
 public:
@@ -42,10 +41,10 @@ private:
 
 using PicturePtr = std::shared_ptr<const ControlPicture>;
 
-/// One saved property. Colours are the unsigned kind.
+/// One saved property.
 using PropertyValue = std::variant<bool, std::int16_t, Colour, double, std::string, ControlFont, PicturePtr>;
 
-/// The saved properties of one control by their exact names. A value that equals the default given for writing is not
+/// The saved properties of one control by their exact names. A value equal to the default passed to `write` is not
 /// kept.
 class PropertyBag
 {
@@ -59,7 +58,7 @@ public:
             values.insert_or_assign(name, PropertyValue(std::in_place_type<T>, value));
     }
 
-    /// The saved value; the default when none was saved or when it is of another kind.
+    /// The saved value, or the default if none was saved or it has another type.
     template <typename T>
     [[nodiscard]] T read(const std::string& name, const T& defaultValue) const
     {

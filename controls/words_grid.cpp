@@ -9,7 +9,7 @@ namespace lexigrove
 namespace
 {
 
-/// The small letter of a capital one in Windows-1252; any other character is itself.
+/// The lower-case form of a Windows-1252 capital letter; any other character is returned unchanged.
 unsigned char smallLetter(char c)
 {
     const auto code = static_cast<unsigned char>(c);

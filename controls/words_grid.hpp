@@ -20,7 +20,7 @@ enum class Maker { Player, Computer };
 
 /// A word of the grid.
 struct WordsRow {
-    int number = 0; ///< the grid's row count before the row came in; the grid sets it
+    int number = 0; ///< the grid's row count before the row was added; set by the grid
     int score = 0;
     std::string word = {};
     Maker maker = Maker::Player;
@@ -29,8 +29,8 @@ struct WordsRow {
     friend bool operator==(const WordsRow&, const WordsRow&) = default;
 };
 
-/// The words grid `WordsMade` of the main window and of the hints window: a heading row and one row a word with the
-/// cells number, score, length and word. The heading is row 0 and counts in `Rows`; columns are 0 to 3.
+/// The words grid `WordsMade` of the main window and of the hints window: a heading row, and for each word a row with
+/// number, score, length and word. The heading is row 0 and counts in `Rows`; columns are 0 to 3.
 class WordsGrid
 {
 public:
@@ -64,29 +64,29 @@ public:
     /// The number of rows, the heading counted: 1 for an empty grid.
     [[nodiscard]] int Rows() const { return static_cast<int>(rows_.size()) + 1; }
 
-    /// A word's row, 1 to Rows - 1; std::out_of_range elsewhere.
+    /// A word's row, 1 to Rows - 1. Throws std::out_of_range otherwise.
     [[nodiscard]] const WordsRow& row(int row) const;
-    /// What a cell shows, the headings' cells included; std::out_of_range outside of the grid.
+    /// The text of a cell, headings included. Throws std::out_of_range outside the grid.
     [[nodiscard]] std::string text(int row, int column) const;
 
-    /// The current row; 0 (the heading) when no word is current. It stays with its word when rows come in above it or
-    /// are sorted. `setCurrent` takes 0 to Rows - 1; std::out_of_range elsewhere.
+    /// The current row, or 0 (the heading) if no word is current. It stays with its word when rows are inserted above
+    /// it or sorted. `setCurrent` takes 0 to Rows - 1 and throws std::out_of_range otherwise.
     [[nodiscard]] int Row() const { return row_; }
     void setCurrent(int row);
 
-    /// The column at a horizontal position over the heading, from the running sum of the widths; -1 beside all columns.
+    /// The column at a horizontal position (units), or -1 outside all columns.
     [[nodiscard]] static int columnAt(int x);
 
     /// Sorts by the column under `x` (units), if any: descending when the mark is "A", which then becomes "D";
     /// otherwise ascending, and it becomes "A". One mark serves all columns, so another column is sorted in the
-    /// direction opposite to the last sort. Words are compared without regard to case; equal rows keep their order in
-    /// both directions.
+    /// direction opposite to the last sort. Words are compared without regard to case, and equal rows keep their order
+    /// in both directions.
     void headingClicked(int x);
 
     /// The sort mark: "A", "D", or empty before the first sort.
     std::string Tag;
 
-    /// Rises with every change that shows: a front end fills its table again when it differs.
+    /// Increases with every visible change: a front end refills its table when it differs.
     [[nodiscard]] std::uint32_t revision() const { return revision_; }
 
     /// The same rows in the same order, the same current one and the same sort mark.

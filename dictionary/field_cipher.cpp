@@ -12,7 +12,7 @@ namespace
 
 constexpr std::string_view hexDigits = "0123456789ABCDEF";
 
-/// The codes of a key's characters, one after the other and over again.
+/// The codes of a key's characters in turn, starting over at the end.
 class KeyCodes
 {
 public:
@@ -32,7 +32,7 @@ private:
     std::size_t position_ = 0;
 };
 
-/// The number that a cell's leading hexadecimal digits give, 0 without any.
+/// The value of a cell's leading hexadecimal digits, or 0 without any.
 unsigned cellValue(std::string_view cell)
 {
     unsigned value = 0;

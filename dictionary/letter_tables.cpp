@@ -11,14 +11,14 @@ namespace lexigrove
 namespace
 {
 
-/// The shares of a pool that no dictionary has been read for. Six U, as there is no blank tile.
+/// The letter counts before any dictionary is read. Six U, because there is no blank tile.
 constexpr std::array<int, 27> startUpCounts{0, 9, 2, 2, 4, 12, 2, 3, 2, 9, 1, 1, 4, 2,
                                             6, 8, 2, 1, 6, 4,  6, 6, 2, 2, 1, 2, 1};
 
 using Histogram = std::array<std::uint32_t, 256>;
 
-/// How often each byte stands in at most 4 GiB of text. Four tables, so that a run of one letter does not wait for
-/// itself.
+/// Counts each byte in at most 4 GiB of text. Four tables, so that the increments for a run of one letter do not wait
+/// for one another.
 Histogram countBytes(std::string_view text)
 {
     std::array<Histogram, 4> tables{};
@@ -64,7 +64,7 @@ void LetterTables::derive(const LetterFrequencies& frequencies, Random& random, 
     for (std::size_t letter = 1; letter <= 26; ++letter) {
         const std::int64_t product = frequencies.letters[letter] * poolSize;
         if (product > std::numeric_limits<std::int32_t>::max())
-            throw std::overflow_error("A letter stands too often in the dictionary");
+            throw std::overflow_error("A letter occurs too often in the dictionary");
         counts[letter] = static_cast<int>(product / frequencies.characters);
         if (frequencies.letters[letter] > 0 && counts[letter] == 0)
             counts[letter] = 1;

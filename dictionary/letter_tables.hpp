@@ -10,13 +10,13 @@
 namespace lexigrove
 {
 
-/// How often each letter stands in the words of a dictionary.
+/// How often each letter occurs in the words of a dictionary.
 struct LetterFrequencies {
-    std::array<std::int64_t, 27> letters{}; ///< 1 to 26 for A to Z; lower-case letters are no letters here
-    std::int64_t characters = 0;            ///< every character of every line, line ends left out
+    std::array<std::int64_t, 27> letters{}; ///< 1 to 26 for A to Z; lower-case letters do not count
+    std::int64_t characters = 0;            ///< all characters except line ends
 };
 
-/// Counts the letters of a whole file's text.
+/// Counts the letters in the text of a whole file.
 LetterFrequencies countLetters(std::string_view text);
 
 /// The scores of the letters and the pool of 100 letters that a game deals from.
@@ -29,20 +29,20 @@ public:
     static constexpr std::array<std::int16_t, 27> value{0, 1, 3, 3,  2, 1, 4, 2, 4, 1, 8, 5, 1, 3,
                                                         1, 1, 3, 10, 1, 1, 1, 1, 4, 4, 8, 4, 10};
 
-    /// The tables as they stand before any dictionary is read.
+    /// The tables before any dictionary is read.
     LetterTables() { buildStartUp(); }
 
     /// Build letter tables: the counts and the pool of the start-up table.
     void buildStartUp();
 
-    /// Gives each letter its share of the 100 places, at least one to a letter that occurs, and fills the pool. Places
-    /// left over go to letters drawn at random; places too many are taken from the letter with the largest share.
-    /// Throws std::domain_error when there are no characters, std::overflow_error when a count times 100 leaves 32
-    /// bits, and std::length_error when the shares need a 101st place; the tables then stand as before.
+    /// Gives each letter its share of the 100 places, at least one for each letter that occurs, and fills the pool.
+    /// Places left over go to letters drawn at random; excess places are taken from the letter with the largest share.
+    /// Throws std::domain_error if there are no characters, std::overflow_error if a count times 100 exceeds 32 bits,
+    /// and std::length_error if the shares need a 101st place; the tables then stay unchanged.
     void derive(const LetterFrequencies& frequencies, Random& random, const Clock& clock);
 
-    /// How many of the 100 places each letter has, 1 to 26 for A to Z; entry 0 is unused. A derived share may be below
-    /// 0 where too many places had to be taken from one letter.
+    /// How many of the 100 places each letter has, 1 to 26 for A to Z; entry 0 is unused. A derived share may be
+    /// negative if too many places had to be taken from one letter.
     std::array<int, 27> letterCounts{};
 
     /// Entries 1 to 100 hold letters, in alphabetical runs until they are shuffled. Entry 0 holds no letter.

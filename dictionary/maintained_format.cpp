@@ -19,7 +19,7 @@ constexpr int olderCodingBase = 64;
 constexpr int largestCodingBase = std::numeric_limits<std::int16_t>::max();
 constexpr std::size_t largestWordsSize = std::size_t{64} << 20;
 
-/// The number at the start of a text, 0 without one.
+/// The number at the start of a text, or 0 without one.
 double leadingNumber(std::string_view text)
 {
     const std::string_view trimmed = trimBlanks(text);
@@ -40,8 +40,8 @@ void refuseLineEnds(std::string_view text)
         throw FormatError("A word holds a line end");
 }
 
-/// Makes the word before into the word of the line: its first letters, as many as marker - `unshared`, and the rest of
-/// the line.
+/// Turns the previous word into the line's word: its first (marker - `unshared`) letters, followed by the rest of the
+/// line.
 void expand(std::string& word, std::string_view line, std::ptrdiff_t unshared)
 {
     if (line.empty())
@@ -66,7 +66,7 @@ MaintainedHeader splitHeaderLine(std::string_view line)
     if (tab == std::string_view::npos)
         throw FormatError("The first line is no header of the maintained format");
     const double base = std::nearbyint(leadingNumber(decipher(line.substr(0, tab), KESTR)));
-    if (!(std::abs(base) <= largestCodingBase)) // also refuses what is not a number
+    if (!(std::abs(base) <= largestCodingBase)) // also rejects NaN
         throw FormatError("The coding base leaves 16 bits");
     const std::string_view rest = line.substr(tab + 1);
     return {static_cast<int>(base), decipher(rest.substr(0, rest.find('\t')), KESTR)};
@@ -116,7 +116,7 @@ std::string codedLines(const WordList& words)
 {
     refuseLineEnds(words.entry(1));
     std::string text;
-    text.reserve(words.memory()); // more than the lines take
+    text.reserve(words.memory()); // more than the lines need
     for (int i = 2; i <= words.count(); ++i)
         appendCodedLine(text, words.entry(i - 1), words.entry(i));
     return text;

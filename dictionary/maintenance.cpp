@@ -20,7 +20,7 @@ std::string_view firstLine(std::string_view text)
     return text.substr(0, text.find_first_of("\r\n"));
 }
 
-/// A word list's own limit and means of splitting, for lines that are no words yet.
+/// The lines of a file, split and limited like a word list even if they are coded.
 WordList readLinesOf(const std::string& path)
 {
     try {
@@ -30,14 +30,14 @@ WordList readLinesOf(const std::string& path)
     }
 }
 
-/// Makes the file what it was, unless it is. Returns what stood in the way, one line end before it, or the empty text.
+/// Restores the file if it has changed. Returns the error, preceded by a line end, or an empty string.
 std::string putBack(const std::string& path, const std::string& oldText)
 {
     try {
         if (readFile(path) == oldText)
             return {};
     } catch (const FileError&) {
-        // What cannot be read is written anew.
+        // A file that cannot be read is rewritten.
     }
     try {
         replaceFile(path, oldText);
@@ -84,7 +84,7 @@ void DictionaryMaintenance::activate()
         option->Enabled = level == dictionary_.loadedLevel();
     }
     Text1 = word;
-    List1.setSearch({}); // the search box comes up empty
+    List1.setSearch({}); // the search box starts empty
 }
 
 void DictionaryMaintenance::chooseOption(int level)
@@ -125,7 +125,7 @@ void DictionaryMaintenance::addWord()
     if (!files)
         return;
     const std::string sought = upperCase(trimBlanks(Text1));
-    const std::string added = upperCase(Text1); // its blanks go in with it
+    const std::string added = upperCase(Text1); // blanks included
     const WordList before = dictionary_.words;
     if (before.findWord(sought) != -1) {
         dialogs_.message(sought + " already exists");
@@ -186,7 +186,7 @@ void DictionaryMaintenance::removeWord()
                 ListBoy1.Additem(before.entry(i));
         ListBoy1.SortAscending();
     }
-    // One less, however many entries were equal: where a word stood twice, old entries follow the sorted ones.
+    // One less, however many entries were equal: if a word was listed twice, old entries follow the sorted ones.
     if (!changeWords(ListBoy1.items(), before.count() - 1, rewrite, *files))
         return;
     dialogs_.message("Word " + removed + " removed and dictionary sorted, now backup old dictionary");
@@ -228,7 +228,7 @@ void DictionaryMaintenance::exit()
         writePlainList();
 }
 
-/// The files of the option that is set; none, after a message, when no level is loaded whose words could be written.
+/// The files of the selected level; none, after a message, unless it is the loaded one.
 std::optional<DictionaryMaintenance::LevelFiles> DictionaryMaintenance::chosenFiles()
 {
     int level = 0;
@@ -247,7 +247,7 @@ std::optional<DictionaryMaintenance::LevelFiles> DictionaryMaintenance::chosenFi
     return {};
 }
 
-/// The same for an operation on words, which coded lines are not: it would sort and write garbage.
+/// The same for an operation on words. Coded lines are refused: it would sort and write garbage.
 std::optional<DictionaryMaintenance::LevelFiles> DictionaryMaintenance::filesToChange()
 {
     std::optional<LevelFiles> files = chosenFiles();
@@ -258,8 +258,8 @@ std::optional<DictionaryMaintenance::LevelFiles> DictionaryMaintenance::filesToC
     return files;
 }
 
-/// Copies the sorted items into the word array, unless the file could not hold the words that it then has: that is
-/// found before anything changes.
+/// Copies the sorted items into the word array, unless the file could not hold the resulting words; this is checked
+/// before anything changes.
 bool DictionaryMaintenance::changeWords(std::span<const std::string_view> items, int count, Rewrite& rewrite,
                                         const LevelFiles& files)
 {
@@ -278,8 +278,8 @@ bool DictionaryMaintenance::changeWords(std::span<const std::string_view> items,
     return true;
 }
 
-/// Decodes the level's file. The words are sorted: where one that stood twice was removed they are not, and FindWord
-/// would miss some.
+/// Decodes the level's file and sorts its words: removing a word that was listed twice leaves them unsorted, and
+/// FindWord would miss some.
 bool DictionaryMaintenance::readAsPlainList(const LevelFiles& files, Rewrite& rewrite)
 {
     try {
@@ -304,7 +304,7 @@ bool DictionaryMaintenance::readAsPlainList(const LevelFiles& files, Rewrite& re
     return false;
 }
 
-/// Backs the file up, writes it and verifies it. True when it stands as written.
+/// Backs the file up, writes it and verifies it. Returns true if it reads back as written.
 bool DictionaryMaintenance::rewriteFile(const LevelFiles& files, const Rewrite& rewrite)
 {
     std::string oldText;
@@ -347,7 +347,7 @@ bool DictionaryMaintenance::readBack(const LevelFiles& files, const Rewrite& rew
         dialogs_.message(rewrite.done);
         return true;
     }
-    std::string text = "Error "; // the blank is the sign of the number
+    std::string text = "Error "; // the blank is the number's sign
     text += std::to_string(difference->index);
     text += rewrite.words.entry(difference->index);
     dialogs_.message(text + difference->read);
@@ -355,8 +355,8 @@ bool DictionaryMaintenance::readBack(const LevelFiles& files, const Rewrite& rew
     return false;
 }
 
-/// Compares the file with the words, up to the first difference; `List1` holds the words that are the same. A line that
-/// cannot be decoded and an end before the last word are differences too.
+/// Compares the file with the words up to the first difference; `List1` then holds the words that match. A line that
+/// cannot be decoded and an early end are differences too.
 std::optional<DictionaryMaintenance::Difference> DictionaryMaintenance::verify(const LevelFiles& files,
                                                                                const Rewrite& rewrite)
 {
@@ -368,7 +368,7 @@ std::optional<DictionaryMaintenance::Difference> DictionaryMaintenance::verify(c
         while (same < lines.count() && decoder.read(lines.entry(same + 1)) == rewrite.words.entry(same + 1))
             ++same;
     } catch (const FormatError&) {
-        // The line at which it stopped is the difference.
+        // The line at which decoding stopped is the difference.
     }
     List1.fill(rewrite.words, same);
     if (rewrite.coding == Coding::Maintained)
@@ -378,7 +378,7 @@ std::optional<DictionaryMaintenance::Difference> DictionaryMaintenance::verify(c
     return Difference{same + 1, decoder.word()};
 }
 
-/// Copies the backup back over the file; where that fails, what was read before the file was written.
+/// Copies the backup over the file or, if that fails, writes the text read before the rewrite.
 void DictionaryMaintenance::restore(const LevelFiles& files, const Rewrite& rewrite, const std::string& oldText)
 {
     try {

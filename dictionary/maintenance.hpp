@@ -1,8 +1,8 @@
 #pragma once
 
 #include "dictionary/dictionary.hpp"
+#include "dictionary/filtered_words.hpp"
 #include "dictionary/maintained_format.hpp"
-#include "dictionary/word_view.hpp"
 #include "platform/clock.hpp"
 #include "platform/dialogs.hpp"
 #include "platform/screen.hpp"
@@ -17,8 +17,8 @@
 namespace lexigrove
 {
 
-/// The title of the window, and what its controls say. `List1`, `Text1` and `ListBoy1`, which is not shown, say
-/// nothing.
+/// The window's title, and the captions and tool tips of its controls. `List1`, `Text1` and the hidden `ListBoy1` have
+/// none.
 namespace maintenance_text
 {
 
@@ -42,18 +42,18 @@ inline constexpr ControlText Command4{"Command4", "Exit", "Quit this program"};
 inline constexpr ControlText plainList{"PlainList", "Plain List",
                                        "Write the level file as a plain word list, so that the next game can use it"};
 
-/// What Exit asks after words were added or removed.
+/// What Exit asks after words have been added or removed.
 inline constexpr std::string_view plainListQuestion =
     "Write the level file as a plain word list, so that the next game can use it?";
 
 } // namespace maintenance_text
 
-/// The window "Dictionary Maintenance": looks through the words of the loaded level, checks, adds and removes words,
-/// and rewrites the level's file. Each operation runs to its end; its messages are put to the player on the way.
+/// The window "Dictionary Maintenance": lists the words of the loaded level, checks, adds and removes words, and
+/// rewrites the level's file. Each operation runs to its end and shows its messages on the way.
 ///
-/// A file is backed up before it is rewritten and is replaced whole. When writing or reading fails, the operation ends
-/// with one message (what failed, the file, the system's reason), the level file stands as before and the backup is
-/// left alone.
+/// A file is backed up before it is rewritten and is replaced whole. If reading or writing fails, the operation ends
+/// with one message (the failure, the file, the system's reason); the level file is unchanged and the backup is left
+/// alone.
 class DictionaryMaintenance
 {
 public:
@@ -63,16 +63,16 @@ public:
         bool Enabled = false;
     };
 
-    /// A word is refused when the dictionary holds exactly so many; one that holds more takes words.
+    /// A dictionary with exactly this many words accepts no more; one with more than that does.
     static constexpr int fullCount = 200'000;
 
     DictionaryMaintenance(Dictionary& dictionary, Dialogs& dialogs, Screen& screen, const Clock& clock);
 
-    /// The main window's add-word command, with the word selected on the board. True when the window is to be
-    /// shown (the word is then handed to it); otherwise the status line says why not.
+    /// The main window's add-word command, with the word selected on the board. Returns true if the window is to be
+    /// shown, with that word; otherwise the status line says why not.
     bool open(const std::string& selectedWord, StatusLine& status);
 
-    /// A new game: the list is empty again, and Exit has nothing to ask.
+    /// A new game starts: empties the list, and Exit has nothing to ask.
     void reset();
 
     /// The window becomes active.
@@ -81,7 +81,7 @@ public:
     /// Chooses a level, 1 to 3. Does nothing while its option is disabled.
     void chooseOption(int level);
 
-    /// A row of `List1` is clicked, counted from 0 among those that the search leaves. Does nothing outside of them.
+    /// A row of `List1` is clicked, counted from 0 among those that match the search. Does nothing outside them.
     void clickRow(int row);
 
     void showDictionary(); ///< `Command1`
@@ -89,40 +89,40 @@ public:
     void addWord();        ///< `Addwordx`
     void removeWord();     ///< `Removewordx`
 
-    /// Writes the level's file, which is in the maintained format, as a plain list of its words in ascending order.
-    /// Where the loaded entries are that file's coded lines, the words take their place.
+    /// Rewrites the level's file, which is in the maintained format, as a plain list of its words in ascending order.
+    /// If the loaded entries are that file's coded lines, the words replace them.
     void writePlainList();
 
-    /// `Command4`: the window closes. After words were added or removed it asks first, once, whether the level file is
-    /// to be written as a plain list.
+    /// `Command4`: closes the window. If words have been added or removed, it first asks, once, whether to write the
+    /// level file as a plain list.
     void exit();
 
     std::string word;  ///< the word property, set before the window is shown
     std::string Text1; ///< the word being edited
-    WordView List1;
+    FilteredWords List1;
     Option Option1, Option2, Option3;
 
 private:
-    /// The files of the option that is set.
+    /// The files of the selected level.
     struct LevelFiles {
         int level = 0;
         std::string name;   ///< as the file table gives it, for messages
-        std::string path;   ///< where it lies
-        std::string backup; ///< with its folder
+        std::string path;   ///< its full path
+        std::string backup; ///< its full path
     };
 
-    /// What a level file is to become, and the messages of its stages that differ.
+    /// How to rewrite a level file, and the messages that differ between rewrites.
     struct Rewrite {
         Coding coding;
-        std::string toWrite;  ///< behind "File ", the backup's name and " backed up, now "
+        std::string toWrite;  ///< after "File ", the backup's name and " backed up, now "
         std::string written;  ///< before " now read and verify " and the file's name
         std::string done;     ///< when it reads back the same
         std::string restored; ///< when it does not, before the file's name
         WordList words;
-        std::string lines; ///< the file's text; of the maintained format, what stands behind its first line
+        std::string lines; ///< the file's text; in the maintained format, all after the first line
     };
 
-    /// The first entry, from 1 up, at which a file read back differs, and the word read there.
+    /// The first entry, counted from 1, at which a file read back differs, and the word read there.
     struct Difference {
         int index;
         std::string read;

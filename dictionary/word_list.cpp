@@ -15,20 +15,20 @@ namespace
 constexpr const char* tooManyLines = "The dictionary holds more than 250,000 lines";
 constexpr const char* tooMuchText = "The dictionary is larger than 4 GiB";
 
-/// Half of a sum, rounded to the nearest whole number and from a half to the even one.
+/// Half of a sum, rounded to the nearest integer, with halves to even.
 constexpr int middleOf(int sum)
 {
     return sum / 2 + (sum & (sum / 2) & 1);
 }
 
-/// The line end characters of a text, and how many of them stand together as CR LF.
+/// The numbers of CR, LF and CR LF pairs in a text.
 struct LineEnds {
     std::size_t returns = 0;
     std::size_t feeds = 0;
     std::size_t pairs = 0;
 };
 
-/// Counts in blocks whose counts fit a byte, so that the compiler compares many characters at once.
+/// Counts in blocks whose counts fit in a byte, so that the compiler compares many characters at once.
 LineEnds countLineEnds(std::string_view text)
 {
     LineEnds ends;
@@ -69,7 +69,7 @@ WordList WordList::ofLines(std::string text)
         throw std::length_error(tooMuchText);
 
     LineEnds ends = countLineEnds(text);
-    if (ends.returns != ends.pairs || (ends.pairs != 0 && ends.pairs != ends.feeds)) { // not all alike
+    if (ends.returns != ends.pairs || (ends.pairs != 0 && ends.pairs != ends.feeds)) { // mixed line ends
         text = withLineFeeds(text);
         ends = countLineEnds(text);
     }

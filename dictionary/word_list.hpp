@@ -13,9 +13,9 @@ namespace lexigrove
 /// The word array: entries 1 to `count()` are the words of the active dictionary, in the order of its file. Entry 0 is
 /// always empty, and so is every entry that was never written.
 ///
-/// The words lie one behind the other in one buffer, with an offset for each. The buffer is never changed, only
-/// replaced: a copy of the list costs nothing and keeps the words as they stood. A view of an entry lives as long as
-/// any copy of the list that it was taken from.
+/// The words are stored one after another in one buffer, with an offset for each. The buffer is never changed, only
+/// replaced, so a copy of the list costs nothing and keeps its words. A view of an entry is valid as long as any copy
+/// of the list it was taken from.
 class WordList
 {
 public:
@@ -23,16 +23,16 @@ public:
 
     WordList() : words_(std::make_shared<const Words>()) {}
 
-    /// The lines of a text, one word each, taken as they stand; CR LF, LF and CR end a line. Throws std::length_error
-    /// above 250,000 lines.
+    /// The lines of a text, one word each, unchanged; CR LF, LF and CR end a line. Throws std::length_error above
+    /// 250,000 lines.
     static WordList ofLines(std::string text);
 
-    /// Entries 1 to the number of `words`. Throws std::length_error above 250,000.
+    /// A list whose entries from 1 on are `words`. Throws std::length_error above 250,000.
     static WordList of(std::span<const std::string_view> words);
 
     [[nodiscard]] int count() const { return count_; }
 
-    /// Entry 0 to 250,000. Throws std::out_of_range outside.
+    /// Entry 0 to 250,000. Throws std::out_of_range otherwise.
     [[nodiscard]] std::string_view entry(int index) const
     {
         const auto place = static_cast<std::size_t>(index) - 1;
@@ -41,20 +41,19 @@ public:
         return unwrittenEntry(index);
     }
 
-    /// FindWord: the index of the entry that equals the word, or -1. The empty word is found at 0. Where the words are
-    /// not in ascending order of their codes, the answers are those of this very search, misses included.
+    /// FindWord: the index of the entry that equals the word, or -1. The empty word is found at 0. If the words are not
+    /// in ascending order of their codes, the answers are those of this binary search, misses included.
     [[nodiscard]] int findWord(std::string_view word) const;
 
-    /// Writes entries 1 to the number of `words`. Entries behind them keep their texts and the count stays as it is.
-    /// The views may point into this list. Throws std::length_error above 250,000 words.
+    /// Writes `words` to the entries from 1 on. Later entries keep their texts, and the count does not change. The
+    /// views may point into this list. Throws std::length_error above 250,000 words.
     void overwrite(std::span<const std::string_view> words);
 
-    /// Says how many entries are words, 0 to 250,000. No entry changes.
+    /// Sets how many entries are words, 0 to 250,000. No entry changes.
     void setCount(int count);
 
-    /// Whether the other list holds the same words because it is a copy of this one, or this one of it. What was made
-    /// from a list can keep a copy of it and see whether the list has changed since. Never true of a list that was
-    /// written anew.
+    /// Whether one list is a copy of the other and so holds the same words. Whoever derives something from a list can
+    /// keep a copy to see whether the list has changed since. Never true of a rewritten list.
     [[nodiscard]] bool isCopyOf(const WordList& other) const
     {
         return words_ == other.words_ && count_ == other.count_;

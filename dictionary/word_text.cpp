@@ -12,7 +12,7 @@ unsigned char upperCase(unsigned char character)
     if (character >= 0xE0 && character != 0xF7 && character != 0xFF) // 0xF7 is the division sign
         return static_cast<unsigned char>(character - 32);
     switch (character) {
-    case 0x9A: // s, o-e and z of the rows that Windows-1252 adds to Latin-1
+    case 0x9A: // s caron, oe and z caron, which Windows-1252 adds to Latin-1
     case 0x9C:
     case 0x9E:
         return static_cast<unsigned char>(character - 16);

@@ -6,7 +6,7 @@
 namespace lexigrove
 {
 
-/// The upper-case form of a Windows-1252 character; a character without one stands for itself.
+/// The upper-case form of a Windows-1252 character; a character without one is returned unchanged.
 unsigned char upperCase(unsigned char character);
 
 /// The text in upper case, Windows-1252.

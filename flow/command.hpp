@@ -3,18 +3,22 @@
 namespace lexigrove
 {
 
-/// When an input does something. At other times it is refused.
+/// When an input is accepted. At other times it is refused.
 enum class When {
     Always,
-    NotPaused, ///< also before the first game
+    NotPaused, ///< even before the first game
     InGame,    ///< from the first game on, paused or not
     InPlay,    ///< in a game that is not paused
 };
 
-/// The inputs that take nothing but their name: what menus, buttons, keys and the console's commands offer.
+/// The inputs without arguments, which menus, buttons, keys and console commands offer.
 enum class Command {
     NewGame,      ///< from the menu, with its questions
     Daily,        ///< the board of the day, with the questions of a new game
+    CopyBoard,    ///< the board that the game began with, as a line of text on the clipboard
+    SharedBoard,  ///< asks for such a line and plays its board, with the questions of a new game
+    PastGames,    ///< shows the games that are over
+    LookBack,     ///< shows the last game that is over
     KeepForLater, ///< leaves the program and keeps the game for the next start
     Pause,        ///< pauses and resumes
     Sound,        ///< switches the sound on or off
@@ -37,7 +41,7 @@ enum class Command {
 /// The keys that set the drop-animation delay in developer mode.
 enum class DeveloperKey { End, NumpadMinus, NumpadPlus, Home };
 
-/// The timers that a front end runs for as long as the program lasts; the flow knows when a tick counts.
+/// The timers that a front end runs all the time; the flow knows when a tick counts.
 enum class Timer {
     Red,   ///< `UpdateRedTriggerTimer`
     Push,  ///< `MoveColDownTimer`

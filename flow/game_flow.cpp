@@ -28,7 +28,7 @@ void setUpClock(Dc& Dc1)
     Dc1.StartCountdown();
 }
 
-/// Shows the top-ten window when the score enters the list. Its answer; closed where it was not shown.
+/// Shows the top-ten window if the score enters the list. Returns its answer, or Close if it was not shown.
 ScoreForm::Answer offerScore(GameParts& parts)
 {
     const int score = parts.game.state.yourScore;
@@ -73,8 +73,8 @@ bool GameFlow::isTime(When when) const
     return false;
 }
 
-/// An input has thrown. Whoever closes the window unwinds the input to here, and the leaving sequence follows; a
-/// failure that no rule foresees ends the input that met it, and nothing else.
+/// An input has thrown. If the player closed the window, the leaving sequence follows; an unforeseen failure ends only
+/// the input that met it.
 void GameFlow::endEarly()
 {
     try {
@@ -108,7 +108,7 @@ void GameFlow::startUp(std::optional<Arrangement> arrangement)
         p.configuration.load(before.ground, before.card);
         p.options.applyDictionaryChoice();
         p.options.loadSchemes();
-        if (p.Dc1.ClockColor() == "DEFAULT") { // the configuration gave it the colours of before the scheme
+        if (p.Dc1.ClockColor() == "DEFAULT") { // its colours are from before the scheme was loaded
             const WindowColours colours = deriveWindowColours(p.scheme);
             p.Dc1.ClockBackground(colours.ground);
             p.Dc1.DigitHighlight(colours.card);
@@ -131,7 +131,7 @@ void GameFlow::openOptionsAndStart()
 void GameFlow::startGame()
 {
     input(When::Always, [this](GameParts& p) {
-        if (!p.options.settings.presetLetters.wait()) // a game was dealt from them, or they mark one
+        if (!p.options.settings.presetLetters.wait()) // a game was dealt from them, or its score is not recorded
             p.options.settings.presetLetters.clear();
         clearGame();
         beginGame();
@@ -142,10 +142,15 @@ void GameFlow::showOptions()
 {
     inGame_ = false;
     showWallClock();
-    parts_->options.open();
-    parts_->ports.windows.show(parts_->options);
-    if (parts_->options.answer() == OptionsForm::Answer::Exit)
-        leave();
+    OptionsForm& options = parts_->options;
+    do {
+        options.open(lastRecord_.empty() ? OptionsForm::LookBack::Hidden : OptionsForm::LookBack::Offered);
+        parts_->ports.windows.show(options);
+        if (options.answer() == OptionsForm::Answer::Exit)
+            leave();
+        if (options.answer() == OptionsForm::Answer::LookBack)
+            lookBack();
+    } while (options.answer() != OptionsForm::Answer::Start);
     parts_->configuration.saveQuietly();
 }
 
@@ -163,7 +168,7 @@ void GameFlow::clearGame()
 void GameFlow::beginGame()
 {
     GameParts& p = *parts_;
-    p.options.takeChoices(); // applies the dictionary choice again, so that the red threshold starts from its table
+    p.options.takeChoices(); // applies the dictionary choice again, to reset the red threshold from its table
     p.services.choose(p.options);
     p.game.state.resetForNewGame();
     p.game.state.computerGame = p.options.isComputerGame();
@@ -190,13 +195,13 @@ void GameFlow::startClock(int seconds)
     parts_->Dc1.StartCountdown();
 }
 
-/// Between games and in a solo game the clock shows the time of day, at once.
+/// Shows the time of day at once, as the clock does between games and in a solo game.
 void GameFlow::showWallClock()
 {
     Dc& Dc1 = parts_->Dc1;
     if (!Dc1.ShowTimeOnly()) {
         Dc1.ShowTimeOnly(true);
-        Dc1.ClockStartValue(0); // lights the dots, which a countdown leaves dim at every odd second
+        Dc1.ClockStartValue(0); // lights the dots, which a countdown dims at every odd second
     }
     Dc1.ResumeCountDown();
     (void)Dc1.tick(parts_->ports.clock.secondsSinceMidnight());
@@ -216,6 +221,7 @@ bool GameFlow::giveUpGame()
     if (p.game.state.wordsMade > 0) {
         if (!p.ports.dialogs.confirm("Do you wish to reset?"))
             return false;
+        recordGame(GameEnd::NewGame);
         PresetLetters& preset = p.options.settings.presetLetters;
         if (preset.isNormalGame()) {
             preset.closeScoreOffer(); // offered once: leaving does not record the score a second time
@@ -228,7 +234,7 @@ bool GameFlow::giveUpGame()
     return true;
 }
 
-/// The board and everything that is counted per game are cleared, the player chooses, and a game starts.
+/// Clears the board and all counts of the game, lets the player choose options, and starts a game.
 void GameFlow::anotherGame()
 {
     parts_->options.settings.presetLetters.clear();
@@ -242,12 +248,13 @@ void GameFlow::loseGame(int col)
     parts_->game.redTiles.pushOutRedTile(col);
     parts_->ports.status.show("A red tile was pushed out. Game over.");
     parts_->ports.screen.yield();
-    endOfGame();
+    endOfGame(GameEnd::Lost);
 }
 
-void GameFlow::endOfGame()
+void GameFlow::endOfGame(GameEnd end)
 {
     GameParts& p = *parts_;
+    recordGame(end);
     p.sounds.play(cue::menu);
     PresetLetters& preset = p.options.settings.presetLetters;
     if (preset.isNormalGame()) {
@@ -276,10 +283,10 @@ void GameFlow::clockExpired()
     parts_->game.letterSwap.cancel();
     parts_->ports.dialogs.message("Game over\r\n5 minutes have elapsed");
     tellWinner(parts_->game.state, parts_->ports.status);
-    endOfGame();
+    endOfGame(GameEnd::ClockExpired);
 }
 
-/// Leaving goes on whatever happens to its questions: one that is closed counts as declined.
+/// Leaving continues whatever happens to its questions: one that is closed counts as declined.
 void GameFlow::leave()
 {
     const auto despiteLeaving = [](auto step) {
@@ -293,6 +300,7 @@ void GameFlow::leave()
         if (parts_->options.settings.presetLetters.isNormalGame())
             offerScore(*parts_);
     });
+    recordGame(GameEnd::Left);
     forgetSavedGame();
     despiteLeaving([this] { parts_->configuration.save(); });
     parts_->sounds.play(cue::thanks);

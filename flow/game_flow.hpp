@@ -12,6 +12,7 @@ namespace lexigrove
 {
 
 class Board;
+enum class GameEnd;
 class ColourScheme;
 class Dc;
 class Dictionary;
@@ -27,7 +28,7 @@ struct GameState;
 struct Ports;
 struct SystemPalette;
 
-/// What a front end shows: the models as they stand.
+/// What a front end shows: the models, read-only.
 struct GameView {
     const GameState& state;
     const Board& board;
@@ -43,18 +44,18 @@ struct GameView {
     const Dc& clock;
 };
 
-/// The whole game as a front end plays it: the front end pushes inputs and ticks, and afterwards, and at every yield,
-/// shows what the views say.
+/// The whole game as a front end plays it: the front end passes on inputs and ticks and, after each of them and at
+/// every yield, shows what the views say.
 ///
-/// Inputs run to their end; while one runs, other inputs are refused and pressure ticks are skipped, because its
-/// questions, animations and waits let events in. No input throws: leaving the program, by whatever way, ends in
-/// `ended()`, and a failure that no rule foresees is told in a message box.
+/// An input runs to its end. Meanwhile other inputs are refused and pressure ticks are skipped, because its questions,
+/// animations and waits let events in. No input throws: leaving the program in any way makes `ended()` true, and an
+/// unforeseen failure is shown in a message box.
 class GameFlow
 {
 public:
     static constexpr int gameSeconds = 600; ///< of a game against the computer
 
-    /// `folder` is the program folder with its closing separator, `desktop` the colours that system colours stand for.
+    /// `folder` is the program folder with its trailing separator, `desktop` the colours that system colours stand for.
     GameFlow(const Ports& ports, const std::string& folder, const SystemPalette& desktop);
     ~GameFlow();
     GameFlow(const GameFlow&) = delete;
@@ -62,7 +63,7 @@ public:
 
     // The program's course
 
-    /// Start-up, up to but without the options dialog. An arrangement is preset there in place of the stored one.
+    /// Start-up, up to but not including the options dialog. An arrangement given here replaces the stored one there.
     void startUp(std::optional<Arrangement> arrangement = {});
     /// Shows the options dialog and starts a game with its choices.
     void openOptionsAndStart();
@@ -75,7 +76,7 @@ public:
     /// Continues the game that was kept, after its question.
     void continueGame();
     [[nodiscard]] bool ended() const { return ended_; }   ///< the program is over: the front end closes
-    [[nodiscard]] bool inGame() const { return inGame_; } ///< from a game's start on
+    [[nodiscard]] bool inGame() const { return inGame_; } ///< once a game has started
     [[nodiscard]] bool isPaused() const { return paused_; }
     [[nodiscard]] bool isBusy() const { return busy_; } ///< while an input runs
     [[nodiscard]] bool isTime(When when) const;
@@ -87,8 +88,8 @@ public:
     void clickTile(int tile, MouseButton button, bool shift); ///< a mouse button released over tile 1 to 64
     void hoverTile(int tile);                                 ///< the pointer rests on a tile
     void drop(int col);                         ///< a mouse button released over column 1 to 8 of the drop row
-    void typeLetter(char letter);               ///< spells on; see `typedPath`
-    void typeWord(const std::string& word);     ///< one letter after the other, as far as the board goes
+    void typeLetter(char letter);               ///< adds to the word; see `typedPath`
+    void typeWord(const std::string& word);     ///< letter by letter, as far as the board allows
     void pickWord(int row);                     ///< makes a row of `WordsMade` the current one
     void sortWordsMade(int x);                  ///< a click on its headings, in its units
     void releaseClockFrame(MouseButton button); ///< released over `Frame10`
@@ -126,6 +127,10 @@ private:
     void gameBegun();
     void clearGame();
     bool giveUpGame();
+    void askForSharedBoard();
+    bool beginShared(const std::string& text);
+    void recordGame(GameEnd end);
+    void lookBack();
     bool continueKept();
     void continueFrom(const Position& position);
     void keepForLater();
@@ -137,7 +142,7 @@ private:
     void newGame();
     void showWallClock();
     void loseGame(int col);
-    void endOfGame();
+    void endOfGame(GameEnd end);
     void clockExpired();
     void openingWindow();
     void pauseOrResume();
@@ -147,6 +152,7 @@ private:
     const std::unique_ptr<GameParts> parts_;
     const GameView view_;
     std::optional<Position> saved_; ///< the file's, without what time alone changes
+    std::string lastRecord_;        ///< the file of the game that was over last, empty for none
     Keeping keeping_ = Keeping::On;
     bool busy_ = false;
     bool ended_ = false;
@@ -156,7 +162,7 @@ private:
     bool clockRanBeforePause_ = false;
 };
 
-/// One input from its beginning to its end.
+/// Runs one input from beginning to end.
 template <typename Rule>
 void GameFlow::input(When when, Rule rule)
 {

@@ -10,7 +10,7 @@
 namespace lexigrove
 {
 
-/// When a command runs, what it means for a letter swap that waits, and its rule.
+/// When a command is accepted, what it does to a pending letter swap, and its rule.
 struct GameFlow::Entry {
     enum class Swap { Ends, Stays };
 
@@ -28,6 +28,19 @@ const GameFlow::Entry& GameFlow::entryOf(Command command)
     static constexpr std::array entries{
         Entry{Command::NewGame, When::NotPaused, Ends, [](Flow& flow, Parts&) { flow.newGame(); }},
         Entry{Command::Daily, When::NotPaused, Ends, [](Flow& flow, Parts&) { flow.playDaily(); }},
+        Entry{Command::CopyBoard, When::InGame, Ends,
+              [](Flow&, Parts& p) {
+                  p.ports.screen.copyText(p.game.state.start);
+                  p.ports.status.show("The board that this game began with is on the clipboard");
+              }},
+        Entry{Command::SharedBoard, When::NotPaused, Ends, [](Flow& flow, Parts&) { flow.askForSharedBoard(); }},
+        Entry{Command::PastGames, When::NotPaused, Ends,
+              [](Flow& flow, Parts& p) {
+                  flow.openingWindow();
+                  p.pastGames.activate(p.ports.clock.today());
+                  p.ports.windows.show(p.pastGames);
+              }},
+        Entry{Command::LookBack, When::NotPaused, Ends, [](Flow& flow, Parts&) { flow.lookBack(); }},
         Entry{Command::KeepForLater, When::InGame, Ends, [](Flow& flow, Parts&) { flow.keepForLater(); }},
         Entry{Command::Pause, When::InGame, Ends, [](Flow& flow, Parts&) { flow.pauseOrResume(); }},
         Entry{Command::Sound, When::Always, Ends, [](Flow&, Parts& p) { p.options.soundButton(); }},
@@ -105,7 +118,7 @@ void GameFlow::perform(Command command)
     });
 }
 
-// ---- What takes more than its name
+// ---- Inputs with arguments
 
 void GameFlow::clickTile(int tile, MouseButton button, bool shift)
 {
@@ -211,7 +224,7 @@ void GameFlow::releaseDeveloperKey(DeveloperKey key)
     }
 }
 
-/// What every action does that opens a window from the main one: a sound, and no pressure until the next word.
+/// What precedes every window opened from the main one: a sound, and no pressure until the next word.
 void GameFlow::openingWindow()
 {
     parts_->game.state.redTileHold = true;
@@ -257,8 +270,8 @@ void GameFlow::tick(Timer timer)
         });
         break;
     case Timer::Clock:
-        // It goes on while a window is open; an expiry that meets one is told when it has closed, for it is raised
-        // again at every tick.
+        // It keeps running while a window is open. An expiry meanwhile is reported once the window has closed, because
+        // it is raised again at every tick.
         if (parts_->Dc1.tick(parts_->ports.clock.secondsSinceMidnight()))
             input(When::Always, [this](GameParts& /*parts*/) { clockExpired(); });
         if (inGame_ && !paused_)

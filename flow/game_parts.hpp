@@ -8,6 +8,9 @@
 #include "opponent/hints.hpp"
 #include "opponent/word_round.hpp"
 #include "platform/ports.hpp"
+#include "record/past_games.hpp"
+#include "record/record_folder.hpp"
+#include "record/review_lists.hpp"
 #include "record/saved_game_file.hpp"
 #include "scores/score_file.hpp"
 #include "scores/score_form.hpp"
@@ -21,14 +24,14 @@
 namespace lexigrove
 {
 
-/// Everything that the program is made of below its front end, put together once. Only the flow and its study reach it.
+/// Everything below the front end, put together. Only the flow and its study access it.
 struct GameParts {
     GameParts(const Ports& outside, const std::string& programFolder) : ports(outside), folder(programFolder) {}
     GameParts(const GameParts&) = delete;
     GameParts& operator=(const GameParts&) = delete;
 
     const Ports ports;
-    const std::string folder; ///< the program folder with its closing separator
+    const std::string folder; ///< the program folder with its trailing separator
 
     Dictionary dictionary{folder};
     ColourScheme scheme{folder, ports.dialogs};
@@ -42,12 +45,15 @@ struct GameParts {
     StatisticsForm statisticsForm{game.state.statistics};
     DictionaryMaintenance maintenance{dictionary, ports.dialogs, ports.screen, ports.clock};
     SavedGameFile savedGame{folder};
+    RecordFolder records{folder};
     BoardSearch search;
     ComputerTurn computerTurn{game, search, Dc1};
     WordRound wordRound{game, computerTurn};
     Meanings meanings{game.state, ports.status, sounds, services, ports.windows};
     HintsForm hintsForm{game, meanings};
     Hints hints{game, search, wordRound, hintsForm};
+    ReviewLists reviewLists{folder};
+    PastGamesForm pastGames{folder, reviewLists, meanings};
     Configuration configuration{{ports.dialogs, ports.clock, options, Dc1, scheme, dictionary, folder}};
 };
 

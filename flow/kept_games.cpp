@@ -178,19 +178,40 @@ void GameFlow::playShared(const std::string& text)
 {
     input(When::NotPaused, [&](GameParts& p) {
         p.game.letterSwap.cancel();
-        BoardPosition board;
-        try {
-            board = boardPositionOf(text);
-            expectWholeBoard(board);
-        } catch (const PositionError& error) {
-            p.ports.dialogs.message(std::string("This is no board that can be played.\r\n") + error.what());
-            return;
-        }
-        if (!giveUpGame())
-            return;
-        beginFrom(board, GameKind::Shared);
-        p.game.state.tilesLeft = LetterSupply::startCount(board.arrangement);
+        beginShared(text);
     });
+}
+
+/// The clipboard's line stands in the box where it is a board. What is wrong with a line is said, and it is asked
+/// again.
+void GameFlow::askForSharedBoard()
+{
+    GameParts& p = *parts_;
+    std::string line = p.ports.screen.copiedText();
+    if (line.size() > 1000 || line.find('/') == std::string::npos)
+        line.clear();
+    do {
+        line = p.ports.dialogs.input("Play a Shared Board", "The line that Copy Board of the other player gave", line);
+    } while (!line.empty() && !beginShared(line));
+}
+
+/// False, after a message, for a line that is no board to begin with.
+bool GameFlow::beginShared(const std::string& text)
+{
+    GameParts& p = *parts_;
+    BoardPosition board;
+    try {
+        board = boardPositionOf(text);
+        expectWholeBoard(board);
+    } catch (const PositionError& error) {
+        p.ports.dialogs.message(std::string("This is no board that can be played.\r\n") + error.what());
+        return false;
+    }
+    if (!giveUpGame())
+        return true;
+    beginFrom(board, GameKind::Shared);
+    p.game.state.tilesLeft = LetterSupply::startCount(board.arrangement);
+    return true;
 }
 
 void GameFlow::playDaily()
@@ -201,6 +222,35 @@ void GameFlow::playDaily()
     const BoardPosition board = boardOfTheDay(p.ports.clock.today(), p.dictionary.level());
     beginFrom(board, GameKind::Daily);
     p.game.state.tilesLeft = LetterSupply::startCount(board.arrangement);
+}
+
+// ---- Games that are over
+
+/// A game without a word is none. One that was recorded is not recorded again.
+void GameFlow::recordGame(GameEnd end)
+{
+    GameParts& p = *parts_;
+    GameState& state = p.game.state;
+    if (!inGame_ || state.turns.empty() || state.begun.empty())
+        return;
+    const GameRecord record = recordOf(p.game, state.begun, end);
+    state.begun.clear();
+    if (state.kind == GameKind::Daily)
+        p.ports.screen.copyText(dailySummary(record));
+    try {
+        lastRecord_ = p.records.add(record);
+    } catch (const FileError&) {
+        lastRecord_.clear(); // a folder that cannot be written keeps nothing
+    }
+}
+
+void GameFlow::lookBack()
+{
+    if (lastRecord_.empty())
+        return;
+    GameParts& p = *parts_;
+    ReviewForm review(p.records.load(lastRecord_), p.reviewLists, p.meanings);
+    p.ports.windows.show(review);
 }
 
 /// What is begun, for the record and for whoever plays the same board again.

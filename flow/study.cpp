@@ -18,7 +18,7 @@ void Study::editTile(int tile, const std::string& letter, Colour maskcolor)
         p.game.letterSwap.cancel();
         BoxControl& control = p.game.board.tile(tile);
         if (control.Tag() == "X")
-            p.game.selection.clear(); // the path holds the letter that it was clicked with
+            p.game.selection.clear(); // the path keeps the letter as it was clicked
         control.Caption(letter);
         control.MaskColor(maskcolor);
         control.Visible(!letter.empty());
@@ -109,7 +109,7 @@ bool Study::maintain(Maintenance operation, const std::string& text)
 {
     bool opened = false;
     flow_.input(When::InGame, [&](GameParts& p) {
-        constexpr const char* anyWord = "A"; // opening asks for one, while the text to edit may be empty
+        constexpr const char* anyWord = "A"; // opening requires one, but the text to edit may be empty
         opened = p.maintenance.open(anyWord, p.ports.status);
         if (!opened)
             return;

@@ -14,8 +14,8 @@
 namespace lexigrove
 {
 
-/// Sets up positions and looks into the rules, beside playing: for the console, for tests, and for whoever studies a
-/// board. Each verb runs as one input of the flow, and is refused while another runs.
+/// Sets up positions and inspects the rules, apart from playing: for the console, for tests, and for anyone who studies
+/// a board. Each verb runs as one input of the flow and is refused while another runs.
 class Study
 {
 public:
@@ -24,16 +24,16 @@ public:
 
     void setDeveloperMode(bool on);
 
-    /// Sets letter and multiplier of a tile in play; the empty letter hides it. A path over the tile is cleared. The
-    /// counts of red and bonus tiles are taken from the board.
+    /// Sets the letter and multiplier of a tile in play; an empty letter hides it. A path over the tile is cleared. The
+    /// red and bonus tiles are counted again.
     void editTile(int tile, const std::string& letter, Colour maskcolor);
     /// The same for the waiting tile over a column.
     void editWaiting(int col, const std::string& letter);
 
-    /// Sets a number of the game. The caller keeps to its bounds: 16 bits for the counters.
+    /// Sets a number of the game. The caller respects its bounds: 16 bits for the counters.
     void set(int GameState::*number, int value);
     void setRedThreshold(int threshold);
-    /// The number that `TilesLeft` shows, or none for "NONE": no more letters come from the queue.
+    /// Sets the number that `TilesLeft` shows, or none for "NONE": no more letters come from the queue.
     void setTilesLeft(std::optional<int> count);
 
     /// Makes choices in the options dialog while it is not shown.
@@ -47,15 +47,15 @@ public:
     void computerTurn();
 
     enum class Maintenance { SpellCheck, AddWord, RemoveWord, ShowDictionary };
-    /// An operation of the maintenance window on a text, as if the window had been opened with it. False, after a
-    /// message on the status line, for the user dictionary.
+    /// Runs an operation of the maintenance window on a text, as if the window had been opened with it. Returns false,
+    /// after a message on the status line, for the user dictionary.
     bool maintain(Maintenance operation, const std::string& text);
     /// The number of lines in the maintenance window's list.
     [[nodiscard]] int listedWords() const;
 
     /// The ten score lines, highest first.
     [[nodiscard]] std::vector<std::string> scores();
-    /// Shows the top-ten window, to record a score or without, and returns the code of its answer.
+    /// Shows the top-ten window, to record a score if there is one, and returns the code of its answer.
     std::string showTopTen(std::optional<int> score);
 
 private:

@@ -20,7 +20,7 @@ constexpr int boardTop = 750;
 constexpr int dropRowTop = 75;
 } // namespace layout
 
-/// The picture box `Picture2` with its `DummyTile`s: the part of a column that slides down. Hidden but for the
+/// The picture box `Picture2` with its `DummyTile`s: the part of a column that slides down. Visible only during the
 /// animation.
 struct SlidingPanel {
     bool Visible = false;
@@ -30,7 +30,7 @@ struct SlidingPanel {
     std::array<BoxControl, 8> DummyTile;
 };
 
-/// The letter tiles of the game in their places. Tiles never move: letters do. A hidden tile is an empty cell.
+/// The game's letter tiles. Tiles never move, only letters do. A hidden tile is an empty cell.
 ///
 /// Tiles are numbered 1 to 64 column by column: (col - 1) * 8 + row. Number 0 is the hidden template that gives the
 /// size of a cell. In the Staggered arrangement the odd columns have seven rows, so tiles 8, 24, 40 and 56 are out of
@@ -44,7 +44,7 @@ public:
 
     Board();
 
-    /// Every tile control lets events run on this screen at the end of a redraw; null for none.
+    /// Every tile control yields to this screen at the end of a redraw; null for none.
     void setScreen(Screen* screen);
 
     /// Lay out board: places and shows the tiles and the drop row of the arrangement.
@@ -55,10 +55,10 @@ public:
 
     [[nodiscard]] Arrangement arrangement() const { return arrangement_; }
 
-    /// 8, or 7 for an odd column of the Staggered arrangement.
+    /// 8, or 7 for an odd column in the Staggered arrangement.
     [[nodiscard]] int columnHeight(int col) const;
 
-    /// Whether the tile has a place in the arrangement.
+    /// Whether the arrangement uses the tile.
     [[nodiscard]] bool isInPlay(int tile) const { return row(tile) <= columnHeight(col(tile)); }
 
     // Tiles 1 to 64, rows and columns 1 to 8.
@@ -67,7 +67,7 @@ public:
     [[nodiscard]] static constexpr int row(int tile) { return (tile - 1) % rows + 1; }
     [[nodiscard]] static constexpr int col(int tile) { return (tile - 1) / rows + 1; }
 
-    // Where a cell is, in units. A waiting tile waits at the left of its column.
+    // Where a cell is, in units. Waiting tiles have the left of their column.
 
     [[nodiscard]] static constexpr int columnLeft(int col) { return layout::boardLeft + (col - 1) * layout::cellSize; }
     [[nodiscard]] int cellTop(int row, int col) const;
@@ -87,13 +87,13 @@ public:
     [[nodiscard]] const std::string& letter(int number) const { return tile(number).Caption(); }
     [[nodiscard]] Colour maskcolor(int number) const { return tile(number).MaskColor(); }
 
-    /// The number of hidden tiles in the column's rows: its empty cells, which are always at the top.
+    /// The number of empty cells in a column, which are always at the top.
     [[nodiscard]] int emptyCells(int col) const;
 
-    /// The developer description.
+    /// The developer description of a tile.
     [[nodiscard]] std::string description(int tile) const;
 
-    /// The hover caption.
+    /// The hover caption of a tile.
     [[nodiscard]] std::string hoverCaption(int tile) const;
 
     std::array<BoxControl, tileCount + 1> Tiles;
@@ -104,7 +104,7 @@ private:
     static constexpr std::size_t index(int number) { return static_cast<std::size_t>(number); }
 
     Arrangement arrangement_ = Arrangement::Square;
-    NeighbourTable touching_{}; ///< of the arrangement, whatever is visible
+    NeighbourTable touching_{}; ///< for the arrangement, visible or not
 };
 
 } // namespace lexigrove

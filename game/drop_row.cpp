@@ -8,7 +8,7 @@ namespace lexigrove
 namespace
 {
 
-/// Restores the guide when the drop ends, also when the player leaves in the middle of it.
+/// Restores the guide when the drop ends, even if the player leaves in the middle of it.
 class GuideLine
 {
 public:
@@ -34,7 +34,7 @@ void DropRow::dropIntoColumn(int col)
     const std::vector<int> collected = collect(col, empty);
     const int left = game_.board.waiting(col).Left();
 
-    // From the lowest empty cell upward; the next waiting tile slides over the column as soon as the one before has
+    // From the lowest empty cell upward; the next waiting tile slides over the column as soon as the previous one has
     // landed.
     int row = empty;
     for (std::size_t i = 0; i < collected.size() && row >= 1; ++i, --row) {
@@ -46,7 +46,7 @@ void DropRow::dropIntoColumn(int col)
     game_.supply.refillTopRow();
 }
 
-/// The waiting tiles that drop, in their order: at most `wanted`, a contiguous run of the drop row.
+/// The waiting tiles that drop, in order: at most `wanted`, a contiguous run of the drop row.
 std::vector<int> DropRow::collect(int col, int wanted) const
 {
     std::vector<int> collected{col};
@@ -77,7 +77,7 @@ void DropRow::land(BoxControl& waiting, int row, int col)
     waiting.Visible(false);
 }
 
-/// A falling tile gathers speed: the way grows with the square of the steps.
+/// A falling tile accelerates: the distance grows with the square of the steps.
 void DropRow::animateWaitingTileDown(BoxControl& waiting, int top)
 {
     const int start = waiting.Top();

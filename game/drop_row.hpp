@@ -15,12 +15,12 @@ class DropRow
 public:
     explicit DropRow(Game& game) : game_(game) {}
 
-    /// A mouse button released over the waiting tile of column 1 to 8, which is visible. Its letter lands lowest; the
-    /// waiting tiles beside it follow while the column has room, first those on the left, then those on the right, up
-    /// to the first gap in the drop row. A full column refuses with a sound. Refills the drop row.
+    /// Drops the visible waiting tile of column 1 to 8, when a mouse button is released over it. Its letter lands
+    /// lowest; while the column has room, the waiting tiles beside it follow, first those to the left, then those to
+    /// the right, up to the first gap in the drop row. A full column refuses with a sound. Refills the drop row.
     void dropIntoColumn(int col);
 
-    /// The column over which a drop is under way, 0 when none is: a front end shows a guide line under it.
+    /// The column of the drop in progress, or 0: a front end shows a guide line below it.
     [[nodiscard]] int guideColumn() const { return guideColumn_; }
 
 private:

@@ -19,7 +19,7 @@
 namespace lexigrove
 {
 
-/// The board and everything that is played on it, put together. What it is given outlives it.
+/// The board and the rules that play on it, put together. The constructor's arguments outlive it.
 struct Game {
     Game(const Ports& outside, Dictionary& words, SoundCues& cues, ColourScheme& colours, OptionsForm& form)
         : ports(outside), dictionary(words), sounds(cues), scheme(colours), options(form)
@@ -49,7 +49,7 @@ struct Game {
     /// Takes the counts of red and bonus tiles from the board.
     void countSpecialTiles();
 
-    /// Gives every tile the look of its multiplier, or of the path where it is part of it, in the current scheme.
+    /// Gives every tile its look in the current scheme: that of the path for a tile in it, else that of its multiplier.
     void refreshLooks();
 };
 

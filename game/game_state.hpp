@@ -27,14 +27,14 @@ enum class GameKind {
 /// Whether letters come from the queue, and so what `TilesLeft` shows: nothing before the deal, the count, "NONE".
 enum class LetterDraw { NotDealt, Going, Ended };
 
-/// What the rules of one game share, as values. Texts are made from them where somebody shows them.
+/// The values that the rules of a game share. Texts are made from them where they are shown.
 struct GameState {
     int yourScore = 0; ///< `YourScore`
     int compScore = 0; ///< `CompScore`
     Prompt prompt = Prompt::None;
     std::optional<WordScore> currScore; ///< `CurrScore`: of the word being built; nothing before its first letter
     LetterDraw letterDraw = LetterDraw::NotDealt;
-    int tilesLeft = 0;   ///< letters still to come; may fall below 0, for a board may hold more than it counts
+    int tilesLeft = 0;   ///< letters still to come; may fall below 0, because not all of them are counted
     int hoveredTile = 0; ///< the tile that `Label4` describes, 0 for none
     WordsGrid WordsMade;
 
@@ -59,10 +59,10 @@ struct GameState {
     int redTilesMade = 0;
     int pushes = 0; ///< columns pushed down
     int tickCount = 0;
-    int pressure = 0; ///< as the last red tick computed it
+    int pressure = 0; ///< as of the last red tick
     int lastPressure = 0;
 
-    /// Back to the start of a game. Developer mode, the kind of game, the hold and the sort mark of the words stay.
+    /// Resets to the start of a game, but keeps developer mode, the kind of game, the hold and the words' sort mark.
     void resetForNewGame();
 
     friend bool operator==(const GameState&, const GameState&) = default;
@@ -75,7 +75,7 @@ struct GameState {
     [[nodiscard]] bool showsEnterWord() const { return prompt != Prompt::ComputerMove; }
 };
 
-/// Counts one more. A counter has 16 bits and stops at its highest value.
+/// Adds one. A counter has 16 bits and stops at its highest value.
 void countUp(int& counter);
 
 } // namespace lexigrove

@@ -17,7 +17,7 @@ std::string letterText(char letter)
     return std::string(1, letter);
 }
 
-/// Character `place` (1-based) of a preset text as a letter; a text that is too short has none.
+/// Character `place` (1-based) of a preset text as a letter; empty if the text is too short.
 std::string presetLetter(const std::string& preset, int place)
 {
     const auto i = static_cast<std::size_t>(place - 1);
@@ -67,8 +67,7 @@ void LetterSupply::dealLetters()
     game_.state.redTilesOnBoard = 0;
 }
 
-/// Reading place k while the first entry goes, place after place, shows every second letter of the first sixteen: the
-/// letters over columns 5 to 8 stay in the queue as well, and four letters are dropped unseen.
+/// Reads entry k while popping the front: columns show letters 1, 3, ... 15; 5 to 8's also stay queued.
 void LetterSupply::fillTopRow()
 {
     for (int k = 0; k <= 7; ++k) {

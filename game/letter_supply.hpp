@@ -16,12 +16,12 @@ class LetterSupply
 public:
     explicit LetterSupply(Game& game) : game_(game) {}
 
-    /// Shuffles the pool in place: each of the 100 entries in turn changes places with any entry.
+    /// Shuffles the pool in place: each of the 100 entries in turn is swapped with a random entry.
     void shufflePool();
 
     /// Deals the first 64 letters onto the tiles and the others into the queue, fills the drop row, and sets
-    /// `TilesLeft` to its start value. A preset letters text replaces the shuffled letters. Called once a game, after
-    /// the board is laid out.
+    /// `TilesLeft` to its start value. Preset letters replace the shuffled ones. Called once per game, after the board
+    /// is laid out.
     void dealLetters();
 
     /// The start value of `TilesLeft`. The queue of a square board holds four letters more.
@@ -30,14 +30,14 @@ public:
     /// Takes the first letter off the queue; the empty text when the queue is empty.
     std::string nextLetter();
 
-    /// Puts a new letter on each empty place of the drop row and counts `TilesLeft` down. A game against the computer
+    /// Puts a new letter in each empty place of the drop row and counts `TilesLeft` down. A game against the computer
     /// never runs out of letters: its queue is topped up with the freshly shuffled pool.
     void refillTopRow();
 
-    /// Puts a letter on the waiting tile over a column, at its home; without a letter the tile is hidden.
+    /// Puts a letter on the waiting tile over a column and moves the tile home; without a letter the tile is hidden.
     void waitAtHome(int col, const std::string& letter);
 
-    /// Upcoming letters, the next one first. A letter is one character; an empty text is a place without a letter.
+    /// Upcoming letters, the next one first. A letter is one character; an empty string is a place without a letter.
     std::deque<std::string> RandomLetters;
 
 private:

@@ -13,15 +13,15 @@ public:
 
     explicit LetterSwap(Game& game) : game_(game) {}
 
-    /// Asks for a swap of this tile: clears the path and marks the tile, or says that the score is too low. Asked again
-    /// for the marked tile, it cancels.
+    /// Requests a swap of this tile: clears the path and marks the tile, or says that the score is too low. A second
+    /// request for the marked tile cancels.
     void request(int tile);
 
-    /// Exchanges the marked tile's letter with the one waiting over a column, takes the price and plays the sound. The
-    /// tile keeps its multiplier. An empty place refuses with a sound, and the tile stays marked.
+    /// Exchanges the marked tile's letter with the one waiting over a column, charges the price and plays the sound.
+    /// The tile keeps its multiplier. An empty place refuses with a sound, and the tile stays marked.
     void exchange(int col);
 
-    /// Takes the mark back, at no cost.
+    /// Removes the mark, at no cost.
     void cancel();
 
     /// Marks a tile, 0 for none, without asking for its price.

@@ -23,10 +23,10 @@ struct NeighbourList {
     friend bool operator==(const NeighbourList&, const NeighbourList&) = default;
 };
 
-/// The lists of tiles 1 to 64; entry 0, the template tile, stays empty.
+/// The lists for tiles 1 to 64; entry 0, the template tile, stays empty.
 using NeighbourTable = std::array<NeighbourList, 65>;
 
-/// All eight surrounding tiles; edge tiles keep the ones on the board.
+/// All eight surrounding tiles; at the edges, those that are on the board.
 NeighbourTable squareNeighbours();
 
 /// Honeycomb adjacency: above, below and two tiles in each neighbouring column. Tiles 8, 24, 40 and 56 are not in play.

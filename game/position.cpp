@@ -26,16 +26,7 @@ void setUp(Game& game, const BoardPosition& position)
 {
     game.selection.clear();
     game.letterSwap.cancel();
-    game.board.layOut(position.arrangement);
-    for (int tile = 1; tile <= Board::tileCount; ++tile) {
-        const BoardPosition::Cell& cell = position.cells[static_cast<std::size_t>(tile)];
-        BoxControl& control = game.board.tile(tile);
-        control.Caption(captionOf(cell.letter));
-        control.MaskColor(cell.multiplier);
-        control.Visible(cell.letter != BoardPosition::none);
-    }
-    for (int col = 1; col <= Board::columns; ++col)
-        game.supply.waitAtHome(col, captionOf(position.waiting[static_cast<std::size_t>(col)]));
+    showOn(game.board, position);
     game.supply.RandomLetters.clear();
     for (const char letter : position.queue)
         game.supply.RandomLetters.push_back(captionOf(letter));
@@ -63,6 +54,24 @@ void checkPath(const Position& position)
 BoardPosition::BoardPosition()
 {
     waiting.fill(none);
+}
+
+void showOn(Board& board, const BoardPosition& position)
+{
+    board.layOut(position.arrangement);
+    for (int tile = 1; tile <= Board::tileCount; ++tile) {
+        const BoardPosition::Cell& cell = position.cells[static_cast<std::size_t>(tile)];
+        BoxControl& control = board.tile(tile);
+        control.Tag("");
+        control.Caption(captionOf(cell.letter));
+        control.MaskColor(cell.multiplier);
+        control.Visible(cell.letter != BoardPosition::none);
+    }
+    for (int col = 1; col <= Board::columns; ++col) {
+        const char letter = position.waiting[static_cast<std::size_t>(col)];
+        board.waiting(col).Caption(captionOf(letter));
+        board.waiting(col).Visible(letter != BoardPosition::none);
+    }
 }
 
 BoardPosition boardOf(const Game& game)

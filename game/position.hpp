@@ -12,6 +12,7 @@
 namespace lexigrove
 {
 
+class Board;
 struct Game;
 
 /// Everything that decides how a game goes on. Of two equal positions the same inputs and draws make the same game.
@@ -34,6 +35,9 @@ struct Position {
 
 /// The board part of the game as it stands.
 BoardPosition boardOf(const Game& game);
+
+/// Lays out a board of its own, without the queue, to be looked at. The tiles' colours are the caller's.
+void showOn(Board& board, const BoardPosition& position);
 
 /// A word that is about to be made of the path, which is on the board; its score is the caller's.
 Turn turnOf(const Game& game, Maker maker);

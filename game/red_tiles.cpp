@@ -32,7 +32,7 @@ void RedTiles::makeRedTile()
 {
     if (game_.state.redTilesOnBoard >= mostRedTiles)
         return;
-    std::vector<int> candidates; // at most one a column: red tiles are born as high as a plain tile stands
+    std::vector<int> candidates; // at most one per column: its topmost plain tile
     for (int col = 1; col <= Board::columns; ++col) {
         for (int row = 1; row <= game_.board.columnHeight(col); ++row) {
             const int tile = game_.board.Grid(row, col);
@@ -61,7 +61,7 @@ RedTiles::PushResult RedTiles::pushTimerTick()
 {
     if (game_.state.redTileHold || game_.state.computerGame)
         return {};
-    std::vector<int> special; // each special tile is one entry of the draw
+    std::vector<int> special; // each special tile has one entry in the draw
     for (int tile = 1; tile <= Board::tileCount; ++tile) {
         if (game_.board.isVisible(tile) && game_.board.maskcolor(tile) > multiplier::plain)
             special.push_back(tile);

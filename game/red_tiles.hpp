@@ -7,8 +7,8 @@ namespace lexigrove
 
 struct Game;
 
-/// The pressure of the solo game: red tiles at the tops of columns, and columns that are pushed down. Both do nothing
-/// in a game against the computer and under the hold flag.
+/// The pressure of the solo game: red tiles at the tops of columns, and columns that are pushed down. Neither happens
+/// in a game against the computer or while the hold flag is set.
 class RedTiles
 {
 public:
@@ -20,17 +20,17 @@ public:
     /// red threshold since the last one.
     void redTimerTick();
 
-    /// How far the game has come: words, weighted by their lengths, hints, red tiles used, and time.
+    /// The pressure built up by words, weighted by their lengths, hints, red tiles used, and time.
     [[nodiscard]] int pressure() const;
 
-    /// Turns the topmost plain tile of a column, drawn at random, red. Nothing happens with four red tiles on the board
-    /// or without a plain tile. The next one needs a little less pressure.
+    /// Turns the topmost plain tile of a random column red. Does nothing with four red tiles on the board or without a
+    /// plain tile. The next one needs a little less pressure.
     void makeRedTile();
 
     enum class Push {
         Nothing, ///< held, or no special tile on the board
         Pushed,
-        Lost, ///< the tile to be pushed out is red; the column stands as it did
+        Lost, ///< the tile to be pushed out is red; the column is unchanged
     };
 
     struct PushResult {

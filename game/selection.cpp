@@ -15,7 +15,7 @@ void Selection::tileClicked(int tile, MouseButton button)
     } else {
         const bool inPath = game_.board.tile(tile).Tag() == "X";
         if (inPath || (!isEmpty() && !game_.board.neighbours(lastTile()).contains(tile)))
-            clearPath(); // a used tile, or one that does not touch, starts afresh
+            clearPath(); // a used tile, or one that does not touch, starts a new path
         append(tile);
     }
     game_.sounds.play(cue::tile);

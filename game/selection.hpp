@@ -12,32 +12,32 @@ namespace lexigrove
 class Board;
 struct Game;
 
-/// The word path: the chain of touching tiles that is being built, in click order. The computer's turn and a taken hint
-/// play through the same path.
+/// The word path: the chain of touching tiles that is being built, in click order. The computer's turn and a chosen
+/// hint use the same path.
 class Selection
 {
 public:
     explicit Selection(Game& game) : game_(game) {}
 
-    /// A mouse button released over a visible tile, without the shift key and not the second right click: extends,
+    /// A mouse button is released over a visible tile, without Shift and not as the second right click: extends,
     /// shortens or restarts the path.
     void tileClicked(int tile, MouseButton button);
 
-    /// Empties the path with its tags and highlights; `WordTried` and `CurrScore` are empty, and no entry is pending.
+    /// Clears the path with its tags and highlights, `WordTried`, `CurrScore` and any pending entry.
     void clear();
 
-    /// Empties the path and leaves its score and what is prompted alone.
+    /// Clears the path but keeps its score and the prompt.
     void clearPath();
 
     /// Puts a tile at the end of the path: tag "X", highlighted.
     void append(int tile);
 
-    /// The path's tiles in click order, and the last of them, 0 for an empty path.
+    /// The path's tiles in click order, and the last of them, or 0 for an empty path.
     [[nodiscard]] const std::vector<int>& tiles() const { return tiles_; }
     [[nodiscard]] int lastTile() const { return tiles_.empty() ? 0 : tiles_.back(); }
     [[nodiscard]] bool isEmpty() const { return tiles_.empty(); }
 
-    /// The path letters joined, as they were when their tiles were clicked.
+    /// The path's letters joined, as they were when their tiles were clicked.
     [[nodiscard]] std::string word() const;
 
     /// What `WordTried` shows: the word, "Your move" or "Computer move...".

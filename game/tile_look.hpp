@@ -12,10 +12,10 @@ class TileLook
 public:
     explicit TileLook(const ColourScheme& scheme) : scheme_(scheme) {}
 
-    /// The look of its multiplier: face, letter and edges; raised.
+    /// The look for the tile's multiplier: face, letter and edges, raised.
     void showNormal(BoxControl& tile) const;
 
-    /// Part of a path: face and letter exchange their colours, and the tile is held down.
+    /// The look of a tile in the path: face and letter swap colours, and the tile is held down.
     void showSelected(BoxControl& tile) const;
 
 private:

@@ -14,8 +14,8 @@ void TileRemoval::removePathTiles()
     std::vector<int> list = game_.selection.tiles(); // `List1`
     std::sort(list.begin(), list.end());
 
-    // From the top down within a column: a column move leaves the cells below it as they are, so that a lower tile of
-    // the path still holds its own letter when its turn comes.
+    // From the top down within a column: moving a column does not change the cells below, so a lower tile of the path
+    // still holds its own letter when its turn comes.
     for (const int tile : list) {
         if (Board::row(tile) == 1)
             emptyCell(game_.board.tile(tile));
@@ -59,7 +59,7 @@ void TileRemoval::moveColumnDown(int row, int col)
 /// Shows the letters of the rows from `firstRow` to the one above `row` sliding down by one cell.
 void TileRemoval::animateColumn(int firstRow, int row, int col)
 {
-    // A step of the animation is two pixels of the design.
+    // In pixels at the design resolution.
     constexpr int step = 2;
     constexpr int cellHeight = layout::cellSize / unitsPerPixel;
 

@@ -17,7 +17,7 @@ public:
     void removePathTiles();
 
     /// Removes the letter at a cell: the letters above it move down one cell with their multipliers and colours, and
-    /// the topmost occupied cell becomes empty. An emptied cell is plain.
+    /// the topmost occupied cell becomes empty and plain.
     void moveColumnDown(int row, int col);
 
 private:

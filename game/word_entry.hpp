@@ -12,7 +12,7 @@ struct Game;
 enum class EnterResult {
     Passed,   ///< a game against the computer without a word: the computer's turn follows
     TooShort, ///< nothing happened
-    NotFound, ///< told on the status line; the path stays
+    NotFound, ///< the status line says so; the path stays
     Entered,  ///< the word is made; in a game against the computer its turn follows
 };
 
@@ -24,8 +24,8 @@ public:
 
     EnterResult enterWord();
 
-    /// Makes a plain tile, drawn at random, a bonus tile with this multiplier (2, 3 or 4). Nothing happens in a game
-    /// against the computer, with four bonus tiles on the board, or where no visible tile is plain.
+    /// Turns a random plain tile into a bonus tile with this multiplier (2, 3 or 4). Does nothing in a game against the
+    /// computer, with four bonus tiles on the board, or if no visible tile is plain.
     void awardBonusTile(Colour multiplier);
 
 private:

@@ -11,13 +11,13 @@ namespace lexigrove
 namespace
 {
 
-/// Walks over the board letter by letter.
+/// Searches the board letter by letter.
 class PathFinder
 {
 public:
     PathFinder(const Board& board, std::string word) : board_(board), word_(std::move(word)) {}
 
-    /// The first path found, the tiles to choose from in their order of preference.
+    /// The first path found, trying tiles in order of preference.
     std::optional<std::vector<int>> find()
     {
         std::vector<int> starts;
@@ -28,7 +28,7 @@ public:
         return path_;
     }
 
-    /// The tiles among these that could come next on `path`, the preferred one first.
+    /// Those of these tiles that could come next on `path`, preferred ones first.
     std::vector<int> candidates(const std::vector<int>& tiles, const std::vector<int>& path, char letter) const
     {
         std::vector<int> fitting;
@@ -59,7 +59,7 @@ private:
         return false;
     }
 
-    /// Only a board of one and the same letter gets anywhere near.
+    /// Only a board full of one letter gets anywhere near this.
     static constexpr int mostSteps = 50'000;
 
     const Board& board_;

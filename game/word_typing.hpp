@@ -11,13 +11,13 @@ namespace lexigrove
 
 struct Game;
 
-/// The path that spells the word so far and one letter more, typed on the keyboard: the path as it stands with a
-/// touching tile, where one shows the letter; else another path over the board that spells the whole. Among the tiles
-/// to choose from a bonus or red one comes first. Nothing when no path spells it.
+/// The path that spells the word so far and one more letter, typed on the keyboard: the current path with a touching
+/// tile that shows the letter or, failing that, another path that spells the whole. Bonus and red tiles are preferred.
+/// Nothing if no path spells it.
 std::optional<std::vector<int>> typedPath(const Board& board, const Selection& path, char letter);
 
-/// Spells on with a letter by clicking the tiles of its `typedPath`. False, after a message on the status line, when
-/// there is none; the path then stays.
+/// Adds a letter to the word by clicking the tiles of its `typedPath`. If there is none, leaves the path alone and
+/// returns false, after a message on the status line.
 bool spellOn(Game& game, char letter);
 
 } // namespace lexigrove

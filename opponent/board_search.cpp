@@ -60,7 +60,7 @@ const CandidateList& BoardSearch::sweep(const SearchBoard& board, const WordList
     return candidates_;
 }
 
-/// Goes on from the paths that spell a node to those of its children whose letter is next to an end of one of them.
+/// Continues from the paths that spell a node to those children whose letter is next to the end of a path.
 void BoardSearch::visitChildren(WordTrie::Node parent, const Frontier& paths, int length, int score)
 {
     const auto visit = [&](WordTrie::Node node, char letter, int letterScore) {

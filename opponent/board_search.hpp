@@ -16,28 +16,28 @@ namespace lexigrove
 
 /// One word traced on a board.
 struct TracedWord {
-    /// The letters of the longest beginning of the word that the board spells; 0 when no tile shows its first letter.
+    /// The length of the longest prefix of the word that the board spells; 0 if no tile shows its first letter.
     int matchedLength = 0;
-    /// Every path of that beginning as its path item ("051213CAT"), in the order found; none below two letters.
+    /// Every path of that prefix as its path item ("051213CAT"), in the order found; none below two letters.
     std::vector<std::string> items;
 };
 
-/// Finds the words of a list that chains of touching tiles spell, no tile used twice.
+/// Finds the words of a list that chains of touching tiles spell, without using a tile twice.
 ///
-/// The answers are those of tracing the words of the list one after the other, each breadth-first with every partial
-/// path kept. What words have in common with the word before is traced once: the words are a tree, and each node of it
-/// has the frontier of the paths that spell it.
+/// The answers are those of tracing the words of the list one by one, each breadth-first with every partial path kept.
+/// Letters shared with the previous word are traced once: the words form a tree, and each node has the frontier of the
+/// paths that spell it.
 class BoardSearch
 {
 public:
-    /// Traces one word, which is taken in upper case. It need not be in any list.
+    /// Traces one word, converted to upper case. It need not be in any list.
     TracedWord traceWord(const SearchBoard& board, std::string_view word);
 
-    /// Looks for every word of two letters and more and reports those that can be traced, in the list's order, each
-    /// with its letter score and its first path. The list stands until the next sweep.
+    /// Looks for every word of two or more letters and returns those that can be traced, in the list's order, each with
+    /// its letter score and its first path. The result is valid until the next sweep.
     ///
-    /// The first sweep over a list prepares its words, in a few milliseconds for 200,000. After that a sweep allocates
-    /// only where a board has more words or more paths than any before, and more than English words ever have.
+    /// The first sweep over a list prepares its words, in a few milliseconds for 200,000. Later sweeps allocate only if
+    /// a board has more words or paths than any before, and more than English words ever have.
     const CandidateList& sweep(const SearchBoard& board, const WordList& words);
 
     /// List 3: what the last sweep found.

@@ -6,7 +6,7 @@
 namespace lexigrove
 {
 
-/// The board as a search sees it: the letters of the visible tiles and the neighbour lists as they stand.
+/// The board as a search sees it: the letters of the visible tiles and their neighbour lists.
 SearchBoard snapshotOf(const Board& board);
 
 } // namespace lexigrove

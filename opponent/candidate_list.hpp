@@ -12,36 +12,36 @@ namespace lexigrove
 {
 
 /// The words that a sweep found, each with its letter score and its first path, in dictionary order. Positions count
-/// from 1. The list stands on its own: it stays as it is when the board changes.
+/// from 1. The list does not change with the board.
 class CandidateList
 {
 public:
-    /// The list has room for the words of any board of English letters: 2,200 with 11,500 letters were the most on
-    /// 3,000 random boards.
+    /// Reserves room for the words of any board of English letters: the most on 3,000 random boards were 2,200 with
+    /// 11,500 letters.
     CandidateList();
 
     [[nodiscard]] int count() const { return static_cast<int>(candidates_.size()); }
 
-    /// The sum of the word's letter values; tile multipliers play no part.
+    /// The sum of the word's letter values; tile multipliers do not count.
     [[nodiscard]] int score(int position) const { return at(position).score; }
     [[nodiscard]] int wordLength(int position) const { return at(position).length; }
     /// The word as its tiles spell it.
     [[nodiscard]] std::string word(int position) const;
-    /// The tile numbers of the word's path, in order. The span holds until the list changes.
+    /// The tile numbers of the word's path, in order. The span is valid until the list changes.
     [[nodiscard]] std::span<const std::uint8_t> path(int position) const;
     /// The candidate as one text: the score in four digits, a blank and the path item ("0005 051213CAT").
     [[nodiscard]] std::string item(int position) const;
 
-    /// The first of the candidates of the highest score; 0 when no candidate scores above 0.
+    /// The first candidate with the highest score; 0 if none scores above 0.
     [[nodiscard]] int bestScorePosition() const { return bestScorePosition_; }
-    /// The first of the longest candidates; 0 when there is none.
+    /// The first of the longest candidates; 0 if there is none.
     [[nodiscard]] int bestLengthPosition() const { return bestLengthPosition_; }
 
-    /// Empties the list for the words of this board; what it has allocated stays.
+    /// Clears the list for the words of this board and keeps its memory.
     void clear(const SearchBoard& board);
 
-    /// Appends a word of `length` letters (2 to 64) and gives the place of its path's tile numbers, to be filled in at
-    /// once.
+    /// Appends a word of `length` letters (2 to 64) and returns the place for its path's tile numbers, to be filled in
+    /// at once.
     std::span<std::uint8_t> add(int score, int length);
 
 private:

@@ -33,7 +33,7 @@ void ComputerTurn::take()
     end();
 }
 
-/// The player cannot act while the turn lasts, and the clock stands still.
+/// The player cannot act during the turn, and the clock is stopped.
 void ComputerTurn::begin()
 {
     Dc1_.SuspendCountDown();
@@ -42,7 +42,7 @@ void ComputerTurn::begin()
     game_.ports.screen.yield();
 }
 
-/// "Any" takes the first candidate twice as often as any other and never the last one of several.
+/// "Any" picks the first candidate twice as often as any other, and never the last one of several.
 int ComputerTurn::choosePosition(const CandidateList& candidates) const
 {
     const Strategy strategy = game_.options.settings.strategy;

@@ -11,15 +11,15 @@
 namespace lexigrove
 {
 
-/// The computer's turn: it finds every word on the board, picks one by the strategy of the options, shows it as a
-/// player's selection would look, waits for the player to acknowledge it, and plays it. Its words are scored from their
-/// letters alone.
+/// The computer's turn: it finds every word on the board, picks one by the strategy of the options, shows it like a
+/// player's selection, waits for the player to acknowledge it, and plays it. Its words are scored by their letters
+/// alone.
 class ComputerTurn
 {
 public:
     ComputerTurn(Game& game, BoardSearch& search, Dc& Dc1) : game_(game), search_(search), Dc1_(Dc1) {}
 
-    /// One whole turn; returns at once while a turn is in progress.
+    /// Takes one whole turn; does nothing while a turn is in progress.
     void take();
 
 private:

@@ -31,7 +31,7 @@ void Hints::getHint()
     }
     const CandidateList& candidates = search_.candidates();
     if (candidates.count() == 0) {
-        game_.ports.status.show("There are no valid hints"); // the pressure waits for the next word
+        game_.ports.status.show("There are no valid hints"); // the pressure is held until the next word
         return;
     }
 
@@ -45,7 +45,7 @@ void Hints::getHint()
     state.redTileHold = false;
 }
 
-/// False when the score is too low; nothing has happened then but the message.
+/// If the score is too low, only shows a message and returns false.
 bool Hints::pay()
 {
     const int price = hintPrice(game_.dictionary.level());

@@ -20,7 +20,7 @@ public:
     {
     }
 
-    /// Takes the price, which is not given back when there is no word; shows the hints; enters the word taken.
+    /// Charges the price, which is not refunded if there is no word; shows the hints; enters the word chosen.
     void getHint();
 
 private:

@@ -18,17 +18,16 @@ class HintsForm
 public:
     HintsForm(Game& game, Meanings& meanings);
 
-    /// Fills the grid for a showing and forgets the path picked before.
+    /// Fills the grid for a new showing and forgets the path picked before.
     void activate(const CandidateList& candidates);
 
-    /// Picks a row of the grid, 1 to Rows - 1: restores the look of the path shown before and shows this one.
+    /// Picks a row of the grid, 1 to Rows - 1: restores the look of the previous path and shows this one.
     void pickRow(int row);
 
     /// The heading was clicked at a horizontal position (units): sorts the grid.
     void headingClicked(int x) { WordsMade.headingClicked(x); }
 
-    /// `BoxControl2`: makes the word of the remembered path the selection and the window's result, and hides the
-    /// window.
+    /// `BoxControl2`: makes the picked path the selection and its word the window's result, and hides the window.
     void pressSelect();
 
     /// `BoxControl1`: gives the path its normal look and hides the window; the result stays empty.
@@ -39,10 +38,10 @@ public:
 
     [[nodiscard]] bool isVisible() const { return visible_; }
 
-    /// The word taken; empty when none was.
+    /// The word chosen; empty if none was.
     [[nodiscard]] const std::string& result() const { return result_; }
 
-    /// The tiles whose path is shown on the board, in order; empty when none is.
+    /// The tiles of the path shown on the board, in order; empty if none is.
     [[nodiscard]] const std::vector<int>& shownPath() const { return shownPath_; }
 
     std::string Caption; ///< "12 hints"

@@ -7,7 +7,7 @@
 namespace lexigrove
 {
 
-/// What a search sees of the board at one moment. Tiles are numbered 1 to 64; entry 0 is the hidden template.
+/// The board as a search sees it at one moment. Tiles are numbered 1 to 64; entry 0 is the hidden template.
 struct SearchBoard {
     static constexpr int tileCount = 64;
 

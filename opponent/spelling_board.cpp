@@ -70,8 +70,8 @@ Frontier SpellingBoard::extend(const Frontier& paths, char letter)
         const Step from = steps_[path];
         const Surroundings& around = around_[from.tile];
         unsigned slotBits = around.slotBits[number];
-        // Most ends of paths have one neighbour with the letter or none. Its step is written either way and counted
-        // only if it may be taken: a branch here would be guessed wrong too often.
+        // Most paths end next to one tile with the letter or none. Its step is written either way and counted only if
+        // allowed: a branch here would be mispredicted too often.
         const std::uint64_t found = slotBits != 0;
         do {
             const auto slot = static_cast<unsigned>(std::countr_zero(slotBits | 0x80U));

@@ -11,34 +11,34 @@
 namespace lexigrove
 {
 
-/// All paths that spell one beginning of a word, in the order in which they were found.
+/// All paths that spell one prefix of a word, in the order in which they were found.
 struct Frontier {
-    std::uint32_t begin = 0; ///< the paths are begin up to end, without the latter
+    std::uint32_t begin = 0; ///< the paths are [begin, end)
     std::uint32_t end = 0;
-    LetterSet next = 0; ///< no other letters are next to an end of one of the paths
+    LetterSet next = 0; ///< no other letters are next to the end of a path
 
     [[nodiscard]] bool empty() const { return begin == end; }
 };
 
 /// A board prepared for spelling words on it, letter by letter: from a first letter to the frontier of its tiles, and
-/// from a frontier to the frontier with one letter more. Letters are given in upper case; a tile's letter is taken as
-/// it stands, so that a lower-case tile fits no word.
+/// from a frontier to the frontier with one more letter. Letters are passed in upper case; a tile's letter is used
+/// unchanged, so a lower-case tile fits no word.
 ///
-/// A path's digit text is its tile numbers, two digits each, and a tile counts as used when its two digits stand
-/// anywhere in that text, also across two entries: after tiles 12 and 3 ("1203") tile 20 is used. A step from one tile
-/// to another therefore blocks two tiles: the new one, and the one that the last digit of the old and the first of the
-/// new make.
+/// A path's digit text is its tile numbers, two digits each. A tile counts as used if its two digits occur anywhere in
+/// that text, even across two entries: after tiles 12 and 3 ("1203") tile 20 is used. A step from one tile to another
+/// therefore blocks two tiles: the new one, and the one formed by the last digit of the old and the first digit of the
+/// new.
 class SpellingBoard
 {
 public:
     void prepare(const SearchBoard& board);
 
     /// The frontier of a first letter, its tiles in increasing order. It is empty for a letter that is on no tile, and
-    /// for one that has no entry in the letter index, which reaches from A, code 65, to code 128.
+    /// for one outside the letter index, which covers codes 65 (A) to 128.
     Frontier start(char letter);
 
-    /// Every path of the frontier with one tile more, which shows the letter: path by path, each in the order of its
-    /// last tile's neighbour list. The paths of earlier frontiers stay; what was made from `paths` before is
+    /// Every path of the frontier with one more tile, which shows the letter: path by path, each in the order of its
+    /// last tile's neighbour list. The paths of earlier frontiers are kept; earlier extensions of `paths` are
     /// overwritten.
     Frontier extend(const Frontier& paths, char letter);
 
@@ -46,16 +46,16 @@ public:
     void copyPath(std::uint32_t path, std::span<std::uint8_t> tiles) const;
 
 private:
-    /// A path is its last tile and the path before it.
+    /// A path is its last tile and the path before that.
     struct Step {
-        std::uint64_t blocked = 0; ///< bit t - 1: the path may not go on to tile t
+        std::uint64_t blocked = 0; ///< bit t - 1: the path may not continue to tile t
         std::uint32_t previous = 0;
         std::uint8_t tile = 0;
     };
 
-    /// What a path meets around its last tile, in two whole cache lines. A slot is a place in the neighbour list.
+    /// The neighbours of a path's last tile, in exactly two cache lines. A slot is a position in the neighbour list.
     struct alignas(128) Surroundings {
-        std::array<std::uint64_t, 8> blocks{};   ///< by slot: what the step there blocks
+        std::array<std::uint64_t, 8> blocks{};   ///< by slot: the tiles that the step there blocks
         std::array<std::uint8_t, 8> tiles{};     ///< by slot
         std::array<std::uint8_t, 27> slotBits{}; ///< by the letter's bit in a set: bit s for slot s
         LetterSet letters = 0;
@@ -65,11 +65,11 @@ private:
 
     std::array<char, SearchBoard::tileCount + 1> letters_{};
     std::array<Surroundings, SearchBoard::tileCount + 1> around_{};
-    /// A quarter of a gigabyte of paths. Boards of many letters need a few thousand; only long runs of one letter, on a
-    /// board of that letter, come near it.
+    /// A quarter of a gigabyte of paths. Ordinary boards need a few thousand; only long runs of one letter on a board
+    /// full of it come near this.
     static constexpr std::size_t mostSteps = std::size_t{1} << 24;
 
-    std::vector<Step> steps_ = std::vector<Step>(4'096); ///< the paths of all frontiers; grows where it must
+    std::vector<Step> steps_ = std::vector<Step>(4'096); ///< the paths of all frontiers; grows as needed
 };
 
 } // namespace lexigrove

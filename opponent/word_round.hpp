@@ -6,7 +6,7 @@
 namespace lexigrove
 {
 
-/// Enter Word with what follows it: the player's word and, in a game against the computer, the computer's answer.
+/// Enter Word and what follows: the player's word and, in a game against the computer, the computer's answer.
 class WordRound
 {
 public:

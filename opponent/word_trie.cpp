@@ -14,8 +14,7 @@ bool isTakenIn(std::string_view word)
     return word.size() >= WordTrie::minLength && word.size() <= WordTrie::maxLength;
 }
 
-/// How many letters of a word have their nodes from the word before. The last one never has: it ends the word, and the
-/// word comes after that one.
+/// Prefix shared with the previous word; the last letter always gets a node.
 std::size_t sharedLetters(std::string_view word, std::string_view previous)
 {
     const std::size_t limit = std::min(word.size() - 1, previous.size());
@@ -29,7 +28,7 @@ std::size_t sharedLetters(std::string_view word, std::string_view previous)
 
 void WordTrie::build(const WordList& words)
 {
-    // How much larger a level is than the level above it; level 0 holds the first letters.
+    // How much larger each level is than the one above it; level 0 holds the first letters.
     std::array<Node, maxLength + 1> growth{};
     std::vector<std::uint8_t> shared(static_cast<std::size_t>(words.count()) + 1);
     std::string_view previous;
@@ -44,7 +43,7 @@ void WordTrie::build(const WordList& words)
         previous = word;
     }
 
-    std::array<Node, maxLength + 1> next{}; // the place of the next node of each level
+    std::array<Node, maxLength + 1> next{}; // where the next node of each level goes
     Node levelSize = 0;
     for (std::size_t level = 0; level < maxLength; ++level) {
         levelSize += growth[level];
@@ -71,8 +70,8 @@ void WordTrie::build(const WordList& words)
     }
 }
 
-/// Adds the letter of one more child; one that does not come after the others in the alphabet joins the other
-/// characters.
+/// Adds the letter of one more child; one that does not come after the others in the alphabet counts as another
+/// character.
 void WordTrie::addLetter(LetterSet& letters, char letter)
 {
     const LetterSet set = setOf(letter);

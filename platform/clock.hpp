@@ -12,7 +12,7 @@ class Clock
 public:
     virtual ~Clock() = default;
 
-    /// Local time of day in seconds since midnight, 0 up to 86,400, with the full resolution of the machine's clock.
+    /// Local time of day in seconds since midnight, in [0, 86,400), with the full resolution of the machine's clock.
     [[nodiscard]] virtual double secondsSinceMidnight() const = 0;
 
     /// The current local date.

@@ -18,17 +18,17 @@ namespace
 
 namespace fs = std::filesystem;
 
-constexpr const char* noteName = ".installed";
-constexpr int noteFields = 4;
+constexpr const char* manifestName = ".installed";
+constexpr int manifestFields = 4;
 
-/// The installed file that a copy was made of.
-struct Original {
-    std::string stamp; ///< size and time of last change, as they stand in the note
+/// What is known of the installed file that a copy was made from.
+struct ManifestEntry {
+    std::string stamp; ///< size and time of last change, as written in the manifest
     std::string sum;   ///< checksum of the content
 };
-using Note = std::map<std::string, Original>;
+using Manifest = std::map<std::string, ManifestEntry>;
 
-/// 64-bit FNV-1a: tells a changed file from an unchanged one; no defence against forgery.
+/// 64-bit FNV-1a: detects changed files, but is no defence against forgery.
 std::string checksum(const std::string& path)
 {
     std::uint64_t sum = 14695981039346656037U;
@@ -45,12 +45,12 @@ std::string stampOf(const fs::path& file)
            std::to_string(fs::last_write_time(file).time_since_epoch().count());
 }
 
-/// A note that is missing or that somebody spoilt says nothing: every file then counts as the player's.
-Note readNote(const std::string& path)
+/// A missing or corrupt manifest counts as empty.
+Manifest readManifest(const std::string& path)
 {
-    Note note;
+    Manifest manifest;
     if (!fs::exists(path))
-        return note;
+        return manifest;
     for (const std::string& line : readLines(path)) {
         std::vector<std::string> fields{""};
         for (const char c : line) {
@@ -59,24 +59,24 @@ Note readNote(const std::string& path)
             else
                 fields.back() += c;
         }
-        if (fields.size() == noteFields)
-            note[fields[0]] = {fields[1] + "\t" + fields[2], fields[3]};
+        if (fields.size() == manifestFields)
+            manifest[fields[0]] = {fields[1] + "\t" + fields[2], fields[3]};
     }
-    return note;
+    return manifest;
 }
 
-void writeNote(const std::string& path, const Note& note)
+void writeManifest(const std::string& path, const Manifest& manifest)
 {
     std::vector<std::string> lines;
-    for (const auto& [name, original] : note)
-        lines.push_back(name + "\t" + original.stamp + "\t" + original.sum);
+    for (const auto& [name, entry] : manifest)
+        lines.push_back(name + "\t" + entry.stamp + "\t" + entry.sum);
     replaceLines(path, lines);
 }
 
-/// Brings one file. Returns what is to be noted of it.
-Original follow(const fs::path& installed, const fs::path& target, const Original& noted)
+/// Syncs one file. Returns its manifest entry.
+ManifestEntry syncFile(const fs::path& installed, const fs::path& target, const ManifestEntry& entry)
 {
-    Original now{stampOf(installed), checksum(installed.string())};
+    ManifestEntry now{stampOf(installed), checksum(installed.string())};
     if (!fs::exists(target)) {
         copyFile(installed.string(), target.string());
         return now;
@@ -84,14 +84,14 @@ Original follow(const fs::path& installed, const fs::path& target, const Origina
     const std::string present = checksum(target.string());
     if (present == now.sum)
         return now;
-    if (present == noted.sum) {
+    if (present == entry.sum) {
         copyFile(installed.string(), target.string());
         return now;
     }
-    return {now.stamp, noted.sum}; // the player's own: looked at again when the installed one changes
+    return {now.stamp, entry.sum}; // the player's own; checked again when the installed file changes
 }
 
-std::vector<fs::path> filesToFollow(const std::string& installed)
+std::vector<fs::path> filesToSync(const std::string& installed)
 {
     std::vector<fs::path> files;
     for (const fs::directory_entry& entry : fs::directory_iterator(installed)) {
@@ -104,23 +104,23 @@ std::vector<fs::path> filesToFollow(const std::string& installed)
 
 } // namespace
 
-void followInstalledFiles(const std::string& installed, const std::string& target)
+void syncInstalledFiles(const std::string& installed, const std::string& target)
 {
-    const std::string notePath = (fs::path(target) / noteName).string();
-    const FileLock lock(notePath); // two games that start at once
-    Note note = readNote(notePath);
+    const std::string manifestPath = (fs::path(target) / manifestName).string();
+    const FileLock lock(manifestPath); // two games may start at once
+    Manifest manifest = readManifest(manifestPath);
     bool changed = false;
-    for (const fs::path& file : filesToFollow(installed)) {
+    for (const fs::path& file : filesToSync(installed)) {
         const std::string name = file.filename().string();
-        Original& noted = note[name];
+        ManifestEntry& entry = manifest[name];
         const fs::path copy = fs::path(target) / name;
-        if (noted.stamp == stampOf(file) && fs::exists(copy))
+        if (entry.stamp == stampOf(file) && fs::exists(copy))
             continue;
-        noted = follow(file, copy, noted);
+        entry = syncFile(file, copy, entry);
         changed = true;
     }
     if (changed)
-        writeNote(notePath, note);
+        writeManifest(manifestPath, manifest);
 }
 
 } // namespace lexigrove

@@ -5,11 +5,11 @@
 namespace lexigrove
 {
 
-/// Brings the files of an installed read-only folder into a player's folder: those that are missing, and those that
-/// changed where they are installed while the player left their copies as they were. A file that the player changed or
-/// brought is never touched. What was copied, with its size, time and checksum, is noted in ".installed" in `target`,
-/// so that a start at which nothing changed reads no file's content. Sub-folders and hidden files are passed over.
-/// Throws FileError or std::filesystem::filesystem_error.
-void followInstalledFiles(const std::string& installed, const std::string& target);
+/// Copies the files of an installed read-only folder into a player's folder: those that are missing, and those that
+/// have changed there while the player left the copies alone. A file that the player changed or added is never touched.
+/// The manifest ".installed" in `target` lists what was copied, with size, time and checksum, so that a start without
+/// changes reads no file's content. Subfolders and hidden files are skipped. Throws FileError or
+/// std::filesystem::filesystem_error.
+void syncInstalledFiles(const std::string& installed, const std::string& target);
 
 } // namespace lexigrove

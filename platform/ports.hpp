@@ -11,7 +11,7 @@
 namespace lexigrove
 {
 
-/// The outside world as one front end gives it to the game, once. It outlives the game.
+/// The outside world, as a front end provides it to the game. It outlives the game.
 struct Ports {
     Dialogs& dialogs;
     Screen& screen;

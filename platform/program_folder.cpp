@@ -23,15 +23,15 @@ namespace
 namespace fs = std::filesystem;
 
 constexpr const char* gameFolder = "lexigrove";
-constexpr const char* sureFile = "L1Ascii.txt"; // a folder with the game's data holds it
+constexpr const char* dataMarker = "L1Ascii.txt"; // present in every folder that holds the game's data
 
 bool holdsData(const fs::path& folder)
 {
     std::error_code ignored;
-    return fs::is_regular_file(folder / sureFile, ignored);
+    return fs::is_regular_file(folder / dataMarker, ignored);
 }
 
-std::string closed(const fs::path& folder)
+std::string withTrailingSlash(const fs::path& folder)
 {
     std::string text = folder.lexically_normal().string();
     if (!text.ends_with('/'))
@@ -44,7 +44,7 @@ std::string namedFolder(const std::string& name)
     std::error_code error;
     if (!fs::is_directory(name, error))
         throw ProgramFolderError("There is no folder \"" + name + "\".");
-    return closed(fs::absolute(name));
+    return withTrailingSlash(fs::absolute(name));
 }
 
 fs::path installedData(const ProgramFolderRequest& request)
@@ -57,7 +57,7 @@ fs::path installedData(const ProgramFolderRequest& request)
     return !request.installedData.empty() && holdsData(request.installedData) ? request.installedData : "";
 }
 
-/// A FileError's lines as one.
+/// The lines of a FileError's text, joined.
 std::string oneLine(std::string text)
 {
     for (char& c : text) {
@@ -83,7 +83,7 @@ std::string filledUserFolder(const ProgramFolderRequest& request)
     try {
         if (!installed.empty()) {
             fs::create_directories(folder);
-            followInstalledFiles(installed.string(), folder.string());
+            syncInstalledFiles(installed.string(), folder.string());
         }
     } catch (const fs::filesystem_error& error) {
         throw ProgramFolderError("The folder \"" + folder.string() +
@@ -94,7 +94,7 @@ std::string filledUserFolder(const ProgramFolderRequest& request)
     if (!holdsData(folder))
         throw ProgramFolderError("The game's word lists are not installed, and \"" + folder.string() +
                                  "\" does not hold them.");
-    return closed(folder);
+    return withTrailingSlash(folder);
 }
 
 std::string environment(const char* name)
@@ -127,7 +127,7 @@ std::string programFolder(const ProgramFolderRequest& request)
         return namedFolder(*request.folderOption);
     const fs::path own = fs::path(request.executable).parent_path();
     if (!request.executable.empty() && holdsData(own) && access(own.c_str(), W_OK) == 0)
-        return closed(own);
+        return withTrailingSlash(own);
     return filledUserFolder(request);
 }
 

@@ -7,14 +7,14 @@
 namespace lexigrove
 {
 
-/// No program folder could be had. `what()` is one plain sentence for the player.
+/// No program folder could be found or created. `what()` is one plain sentence for the player.
 class ProgramFolderError : public std::runtime_error
 {
 public:
     using std::runtime_error::runtime_error;
 };
 
-/// What decides on the program folder. Every path is absolute or empty, but for `folderOption`.
+/// What determines the program folder. Every path except `folderOption` is absolute or empty.
 struct ProgramFolderRequest {
     std::optional<std::string> folderOption; ///< the folder that the player named with --folder
     std::string executable;                  ///< the running program's own file
@@ -23,16 +23,15 @@ struct ProgramFolderRequest {
     std::string home;                        ///< the user's home folder
 };
 
-/// The request of this process: its executable, its environment, the user's home.
+/// The request for this process, from its executable, its environment and the user's home.
 ProgramFolderRequest programFolderRequest(std::optional<std::string> folderOption);
 
-/// The folder in which every file of the game lies, absolute, with its closing "/". The first of these that applies:
-/// - the folder that the player named, as it stands; it must exist, and nothing is put into it;
-/// - the executable's own folder, where it holds "L1Ascii.txt" and can be written (a build tree, a portable copy);
-/// - "lexigrove" in the user's data folder, which is made, and filled from the installed data ("../share/lexigrove" as
-///   seen from the executable's folder, else `installedData`). A missing file is put back, and one that the user has
-///   left as it was follows a changed installed one; a file that the user has changed or brought is never touched. What
-///   was installed is noted in ".installed" there.
+/// The absolute path, with a trailing "/", of the folder that holds all of the game's files. The first of these that
+/// applies:
+/// - the folder that the player named; it must exist, and nothing is copied into it;
+/// - the executable's own folder, if it holds "L1Ascii.txt" and is writable (a build tree, a portable copy);
+/// - "lexigrove" in the user's data folder, created if missing and synced by `syncInstalledFiles` from the installed
+///   data ("../share/lexigrove" relative to the executable's folder, else `installedData`).
 /// Throws ProgramFolderError.
 std::string programFolder(const ProgramFolderRequest& request);
 

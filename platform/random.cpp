@@ -9,7 +9,7 @@ namespace lexigrove
 namespace
 {
 
-/// The output function of SplitMix64 (Steele, Lea and Flood, 2014): every bit of the state reaches every bit of the
+/// The output function of SplitMix64 (Steele, Lea and Flood, 2014): every bit of the state affects every bit of the
 /// result.
 std::uint64_t mix(std::uint64_t z)
 {
@@ -27,7 +27,7 @@ void Random::reseed(double secondsSinceMidnight)
 
 double Random::next()
 {
-    state_ += 0x9E3779B97F4A7C15U; // the golden ratio in 64 bits: the state passes through every value
+    state_ += 0x9E3779B97F4A7C15U; // the golden ratio in 64 bits: the state visits every value
     return static_cast<double>(mix(state_) >> 11) * 0x1.0p-53;
 }
 

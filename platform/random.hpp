@@ -13,8 +13,8 @@ class Random
 public:
     explicit Random(std::uint64_t seed = 0) : state_(seed) {}
 
-    /// Folds the time of day into the generator's state. The state is never replaced, so that a hundred draws within
-    /// one tick of the clock are a hundred different draws.
+    /// Mixes the time of day into the state without replacing it, so that draws within one tick of the clock still
+    /// differ.
     void reseed(double secondsSinceMidnight);
 
     /// A number in [0, 1), uniform in steps of 2^-53.
@@ -31,7 +31,7 @@ private:
     std::uint64_t state_;
 };
 
-/// The integer part of draw * count + 1, at most count: a draw of [0, 1) as a place from 1 to `count`.
+/// Maps a draw from [0, 1) to a place from 1 to `count`: the integer part of draw * count + 1, at most `count`.
 int placeFromDraw(double draw, int count);
 
 } // namespace lexigrove

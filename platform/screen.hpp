@@ -1,36 +1,43 @@
 #pragma once
 
+#include <string>
+
 namespace lexigrove
 {
 
-/// What rules ask of the screen. The models are the truth: at every yield a front end reads them and shows what
-/// differs. A call that lets events run throws `Leaving` when the player closed the main window meanwhile.
+/// What the rules ask of the screen. The models hold the truth: at every yield a front end reads them and shows what
+/// has changed. A call that processes events throws `Leaving` if the player closed the main window meanwhile.
 class Screen
 {
 public:
     virtual ~Screen() = default;
 
-    /// Lets pending window events run once.
+    /// Processes pending window events once.
     virtual void yield() = 0;
 
-    /// One step of an animation stands in the models: shows it and lets pending events run `rounds` times (the
-    /// drop-animation delay, 0 or more; 0 does not wait).
+    /// Shows the animation step that the models hold and processes pending events `rounds` times (the drop-animation
+    /// delay, 0 or more; 0 does not wait).
     virtual void animationStep(int rounds) = 0;
 
     /// Must not throw. Switches between the busy pointer (arrow with hourglass) and the normal one.
     virtual void setBusyPointer(bool busy) = 0;
 
-    /// Must not throw. Stops and releases repainting of the board panel `Picture1`. A single lock is held at a time.
+    /// Must not throw. Stops and releases repainting of the board panel `Picture1`. Only one lock is held at a time.
     virtual void lockBoardUpdates(bool locked) = 0;
 
-    /// Lets events run until a key or a mouse button is pressed; that input is used up.
+    /// Processes events until a key or a mouse button is pressed; that input has no other effect.
     virtual void waitForAnyInput() = 0;
+
+    /// Must not throw. Puts a text in UTF-8 on the clipboard.
+    virtual void copyText(const std::string& text) = 0;
+    /// Must not throw. The text on the clipboard in UTF-8, empty where there is none.
+    [[nodiscard]] virtual std::string copiedText() const = 0;
 
     /// Must not throw. An input or a tick of the game has ended: the models may differ from what is shown.
     virtual void inputEnded() = 0;
 };
 
-/// Holds the busy pointer for the length of a scope.
+/// Shows the busy pointer until the end of the scope.
 class BusyPointer
 {
 public:
@@ -43,7 +50,7 @@ private:
     Screen& screen_;
 };
 
-/// Holds the lock of the board's repainting for the length of a scope.
+/// Stops repainting of the board until the end of the scope.
 class BoardLock
 {
 public:

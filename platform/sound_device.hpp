@@ -5,8 +5,8 @@
 namespace lexigrove
 {
 
-/// Takes the command texts of the sound cues: "play " followed by the whole path of a wave file. Returns at once; a
-/// file that is missing or cannot be played is passed over in silence.
+/// Takes the command texts of the sound cues: "play " followed by the full path of a wave file. Returns at once; a file
+/// that is missing or cannot be played is silently ignored.
 class SoundDevice
 {
 public:

@@ -5,8 +5,8 @@
 namespace lexigrove
 {
 
-/// The main window's status line: the label `Label1` and the icon `Warn` beside it. A front end that must tell every
-/// text, also those overwritten within one action, overrides `written`.
+/// The main window's status line: the label `Label1` and the icon `Warn` beside it. A front end that must report every
+/// text, even those overwritten within one action, overrides `written`.
 class StatusLine
 {
 public:
@@ -19,7 +19,7 @@ public:
         write(message);
     }
 
-    /// Sets the caption of `Label1` and leaves the icon as it is.
+    /// Sets the caption of `Label1` and leaves the icon alone.
     void write(const std::string& caption)
     {
         Label1 = caption;

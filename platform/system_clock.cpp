@@ -28,7 +28,7 @@ std::string formatted(const char* form, const std::tm& time)
     return {text.data(), length};
 }
 
-/// The game's texts are single-byte, a locale's need not be.
+/// The game's texts are single-byte; a locale's need not be.
 std::string shortForm(const char* localeForm, const char* plainForm, const std::tm& time)
 {
     const std::string text = formatted(localeForm, time);

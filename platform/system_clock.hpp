@@ -5,9 +5,9 @@
 namespace lexigrove
 {
 
-/// The machine's clock in its local time zone. The date and the time of day come in the short forms of the process's
-/// locale (`LC_TIME`), which a program takes over from its environment with `std::setlocale`; a locale whose short
-/// forms are not plain ASCII gets "2026-11-22" and "20:05:00".
+/// The machine's clock in its local time zone. Date and time have the short forms of the process's locale (`LC_TIME`),
+/// which a program adopts from its environment with `std::setlocale`; where those are not plain ASCII, they look like
+/// "2026-11-22" and "20:05:00".
 class SystemClock : public Clock
 {
 public:
@@ -16,11 +16,11 @@ public:
     [[nodiscard]] std::string shortTime() const override;
 };
 
-/// A clock that stands still at one time of day, so that a run can be repeated. The date goes on.
+/// A clock that is stopped at one time of day, so that a run can be repeated. The date still advances.
 class FrozenClock : public SystemClock
 {
 public:
-    /// 0 up to 86,400, without the latter.
+    /// In [0, 86,400).
     explicit FrozenClock(double secondsSinceMidnight) : seconds_(secondsSinceMidnight) {}
 
     [[nodiscard]] double secondsSinceMidnight() const override { return seconds_; }

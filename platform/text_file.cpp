@@ -14,7 +14,7 @@ namespace lexigrove
 namespace
 {
 
-/// The system's reason in English: a translated one would come in the desktop's character set, which is not the game's.
+/// The system's reason in English: a translation would use the desktop's character set, not the game's.
 std::string describe(const std::string& failure, const std::string& path, int errorNumber)
 {
     std::string text = failure + "\n" + path;
@@ -48,7 +48,7 @@ private:
     int number_;
 };
 
-/// Waits for the exclusive lock. A file system that knows no locks gives none; the game then goes on without.
+/// Waits for the exclusive lock. Without lock support, continues unlocked.
 void lockExclusively(int descriptor)
 {
     while (::flock(descriptor, LOCK_EX) != 0 && errno == EINTR) {
@@ -74,7 +74,7 @@ std::string folderOf(const std::string& path)
 /// The file at the end of a chain of symbolic links, whether it exists or not.
 std::string followLinks(const std::string& path)
 {
-    constexpr int longestChain = 40; // as the system allows
+    constexpr int longestChain = 40; // the system's own limit
     std::string file = path;
     for (int links = 0; links <= longestChain; ++links) {
         std::string link(4096, '\0');
@@ -106,8 +106,8 @@ void flush(int descriptor, const std::string& path)
     throw FileError("Cannot write the file", path, errno);
 }
 
-/// The temporary file beside a target. Its name is fixed, so that a crash leaves one such file at most and the next
-/// writer takes it over; a lock on it keeps two writers apart.
+/// The temporary file beside a target. Its name is fixed, so that a crash leaves at most one such file, which the next
+/// writer reuses; a lock keeps two writers apart.
 class TemporaryFile
 {
 public:
@@ -123,15 +123,15 @@ public:
     TemporaryFile(const TemporaryFile&) = delete;
     TemporaryFile& operator=(const TemporaryFile&) = delete;
 
-    /// Gives the file the rights of the one that it replaces; the owner as far as the system lets us.
-    void takeRightsOf(const struct stat& old) const
+    /// Gives the file the permissions of the one that it replaces, and the owner if the system allows.
+    void copyPermissionsOf(const struct stat& old) const
     {
         struct stat own = {};
         const bool sameOwner =
             ::fstat(descriptor_.get(), &own) == 0 && own.st_uid == old.st_uid && own.st_gid == old.st_gid;
-        const bool ownerGiven = sameOwner || ::fchown(descriptor_.get(), old.st_uid, old.st_gid) == 0;
-        const mode_t rights = old.st_mode & (ownerGiven ? 07777U : 0777U);
-        if (::fchmod(descriptor_.get(), rights) != 0)
+        const bool hasOwner = sameOwner || ::fchown(descriptor_.get(), old.st_uid, old.st_gid) == 0;
+        const mode_t permissions = old.st_mode & (hasOwner ? 07777U : 0777U);
+        if (::fchmod(descriptor_.get(), permissions) != 0)
             throw FileError("Cannot write the file", target_, errno);
     }
 
@@ -152,8 +152,8 @@ public:
     }
 
 private:
-    /// Another writer may have renamed or removed the file while we waited for its lock; then there is a new one to
-    /// lock.
+    /// Another writer may have renamed or removed the file while this one waited for its lock; then there is a new file
+    /// to lock.
     static Descriptor openLocked(const std::string& path, const std::string& target)
     {
         for (;;) {
@@ -187,7 +187,7 @@ std::string readFile(const std::string& path)
 
     struct stat status = {};
     const bool known = ::fstat(file.get(), &status) == 0 && status.st_size > 0;
-    std::string bytes(known ? static_cast<std::size_t>(status.st_size) + 1 : 4096, '\0'); // one more to meet the end
+    std::string bytes(known ? static_cast<std::size_t>(status.st_size) + 1 : 4096, '\0'); // one more to read the end
     std::size_t length = 0;
     for (;;) {
         if (length == bytes.size())
@@ -236,19 +236,18 @@ void replaceFile(const std::string& path, std::string_view bytes, Durability dur
     const bool exists = ::stat(target.c_str(), &old) == 0;
     if (exists && !S_ISREG(old.st_mode))
         throw FileError("Cannot replace the file", path, S_ISDIR(old.st_mode) ? EISDIR : EINVAL);
-    if (exists && ::access(target.c_str(), W_OK) != 0) // a rename would pass over the player's write protection
+    if (exists && ::access(target.c_str(), W_OK) != 0) // a rename would bypass the player's write protection
         throw FileError("Cannot replace the file", path, errno);
 
     TemporaryFile temporary(target);
     if (exists)
-        temporary.takeRightsOf(old);
+        temporary.copyPermissionsOf(old);
     temporary.write(bytes, durability);
     temporary.renameOverTarget();
     if (durability == Durability::Written)
         return;
 
-    // The new file stands. That its name has reached the disk too is wished for, but its failure would not bring the
-    // old file back, so it is no error.
+    // Syncing the folder is best effort.
     const Descriptor folder(::open(folderOf(target).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (folder.isOpen())
         ::fsync(folder.get());
@@ -272,13 +271,13 @@ void copyFile(const std::string& source, const std::string& target)
 FileLock::FileLock(const std::string& path)
     : descriptor_(::open((path + ".lock").c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666))
 {
-    if (descriptor_ < 0) // left behind by another user of the folder: reading it is enough for a lock
+    if (descriptor_ < 0) // created by another user of the folder; read access is enough for a lock
         descriptor_ = ::open((path + ".lock").c_str(), O_RDONLY | O_CLOEXEC);
     if (descriptor_ >= 0)
         lockExclusively(descriptor_);
 }
 
-// The lock file stays: removing it would let a game that waits for it and one that comes anew lock two different files.
+// The lock file is kept. Deleting it would let two games lock different files.
 FileLock::~FileLock()
 {
     if (descriptor_ >= 0)

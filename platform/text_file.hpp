@@ -8,22 +8,22 @@
 namespace lexigrove
 {
 
-/// A file could not be read or written. `what()` names what failed, the file and the system's reason, one a line.
+/// A file could not be read or written. `what()` gives the failure, the file and the system's reason, one per line.
 class FileError : public std::runtime_error
 {
 public:
-    /// `errorNumber` is the `errno` of the failure, 0 when the content itself was at fault.
+    /// `errorNumber` is the `errno` of the failure, or 0 if the content itself was at fault.
     FileError(const std::string& failure, const std::string& path, int errorNumber);
 };
 
 /// The whole file, byte for byte. Throws FileError.
 std::string readFile(const std::string& path);
 
-/// The lines of a text; CR LF, LF and CR all end a line. Text behind the last line end is a line of its own.
-/// The views point into `text`.
+/// The lines of a text; CR LF, LF and CR all end a line. Text after the last line end is a line too. The views point
+/// into `text`.
 std::vector<std::string_view> splitLines(std::string_view text);
 
-/// `readFile` and `splitLines` in one, with owned lines.
+/// `readFile` followed by `splitLines`, with owned lines.
 std::vector<std::string> readLines(const std::string& path);
 
 /// How safe new contents are when `replaceFile` returns. Written ones survive the end of the program, flushed ones that
@@ -37,12 +37,12 @@ void replaceFile(const std::string& path, std::string_view bytes, Durability dur
 /// `replaceFile` of the lines, each ended by CR LF.
 void replaceLines(const std::string& path, const std::vector<std::string>& lines);
 
-/// Replaces `target` by a copy of `source`, whole or not at all.
+/// Replaces `target` with a copy of `source`, whole or not at all.
 void copyFile(const std::string& source, const std::string& target);
 
-/// Holds an exclusive lock for a file's readers and writers among running games, on "<path>.lock" beside it, until the
-/// end of the scope. Where the folder cannot be written it holds nothing, and says nothing. A second lock on the same
-/// file within one process would wait for the first for ever.
+/// Holds an exclusive lock on "<path>.lock" until the end of the scope, so that running games take turns with the file.
+/// In a folder that is not writable it silently holds nothing. A second lock on the same file within one process would
+/// wait forever for the first.
 class FileLock
 {
 public:

@@ -8,6 +8,8 @@ namespace lexigrove
 class DictionaryMaintenance;
 class HintsForm;
 class OptionsForm;
+class PastGamesForm;
+class ReviewForm;
 class ScoreForm;
 class StatisticsForm;
 struct ContinueForm;
@@ -33,10 +35,14 @@ public:
     /// Returns when `Select` or `Close` has hidden the form (closing the window is `Close`).
     virtual void show(HintsForm& form) = 0;
 
-    /// Network and page errors are the browser view's.
+    /// The browser view handles network and page errors.
     virtual void show(const MeaningForm& form) = 0;
 
     virtual void show(const StatisticsForm& form) = 0;
+
+    /// A game that is opened in it is shown over it. Returns when the window has been closed.
+    virtual void show(PastGamesForm& form) = 0;
+    virtual void show(ReviewForm& form) = 0;
 
     /// Activates the form, and returns when its "Exit" has closed the window.
     virtual void show(DictionaryMaintenance& form) = 0;

@@ -17,7 +17,7 @@ namespace
 
 constexpr std::size_t digits = 5;
 
-/// The lines of the default file, in the order in which it holds them.
+/// The lines of the default file, in file order.
 std::vector<std::string> defaultLines()
 {
     std::vector<std::string> lines;
@@ -32,7 +32,7 @@ bool isScoreLine(const std::string& line)
            std::all_of(line.begin(), line.begin() + digits, [](char c) { return c >= '0' && c <= '9'; });
 }
 
-/// The score lines of the file in ascending order; nothing when the file is there but cannot be read.
+/// The score lines of the file in ascending order; nothing if the file exists but cannot be read.
 std::optional<std::vector<std::string>> readScoreLines(const std::string& path)
 {
     std::error_code noFile;
@@ -52,7 +52,7 @@ std::optional<std::vector<std::string>> readScoreLines(const std::string& path)
     }
 }
 
-/// Ten lines out of any number in ascending order: the best ten, or all of them and the default lines that they lack.
+/// Ten lines in ascending order out of any number: the best ten, or all of them and default lines for the rest.
 std::vector<std::string> bestTen(std::vector<std::string> lines)
 {
     constexpr std::size_t wanted = ScoreFile::lineCount;
@@ -75,7 +75,7 @@ void writeScoreLines(const std::string& path, const std::vector<std::string>& li
     try {
         replaceLines(path, ciphers);
     } catch (const FileError&) {
-        return; // passed over in silence
+        return; // silently ignored
     }
 }
 
@@ -99,7 +99,7 @@ void ScoreFile::ensure()
         return;
     dialogs_.message("Scores File not found - will create a new one");
     const FileLock lock(path_);
-    if (isMissingOrEmpty(path_)) // another game may have made it while the message stood
+    if (isMissingOrEmpty(path_)) // another game may have created it while the message was open
         writeScoreLines(path_, defaultLines());
 }
 
@@ -124,7 +124,7 @@ std::vector<std::string> ScoreFile::record(int score, const std::string& name)
         return list;
     list.erase(list.begin());
     list.insert(std::upper_bound(list.begin(), list.end(), line), line);
-    if (readable) // scores that cannot be read are not to be written over unseen
+    if (readable) // never overwrite scores that cannot be read
         writeScoreLines(path_, list);
     return list;
 }

@@ -8,22 +8,22 @@
 namespace lexigrove
 {
 
-/// The ten best scores, in `LexigroveScores.txt` of the program folder. A line is the score in five digits, a tab and
-/// the player's name; every line of the file is enciphered, so that it holds no control character, whatever the name.
+/// The ten best scores, in `LexigroveScores.txt` in the program folder. A line is the score in five digits, a tab and
+/// the player's name. Every line of the file is enciphered, so that it contains no control character, whatever the
+/// name.
 ///
-/// A damaged file gives up what can be read: every line that still is a score line stays in play, the best ten of them
-/// make the list, and default lines fill up what is missing. A file that cannot be read or written is passed over in
-/// silence.
+/// A damaged file is salvaged: the best ten of the lines that are still score lines make the list, and default lines
+/// fill the gaps. A file that cannot be read or written is silently ignored.
 class ScoreFile
 {
 public:
     static constexpr int lineCount = 10;
-    static constexpr int highestScore = 99999; ///< five digits; a higher score is kept as this one
+    static constexpr int highestScore = 99999; ///< five digits; a higher score is stored as this
 
-    /// `folder` ends with its separator.
+    /// `folder` ends with a separator.
     ScoreFile(std::string folder, Dialogs& dialogs);
 
-    /// Says so and writes the default file where the file is missing or empty: 19 down to 10 points, all Yelka's.
+    /// If the file is missing or empty, says so and writes the default file: 19 down to 10 points, all Yelka's.
     void ensure();
 
     /// The ten score lines in ascending order of their bytes, the lowest score first. Ensures the file.
@@ -32,9 +32,9 @@ public:
     /// The lowest score of the list. Ensures the file.
     int lowest();
 
-    /// Puts the line of this score and name into the file in place of the lowest one. The list is read again under a
-    /// lock, so that two running games do not undo each other; where another game has meanwhile raised the bar to the
-    /// score or above it, nothing changes. The list as it stands then, with the new line also where the file could not
+    /// Replaces the lowest line of the file with one for this score and name. The list is read again under a lock, so
+    /// that two running games do not undo each other's changes; if another game has meanwhile raised the lowest score
+    /// to this one or above, nothing changes. Returns the resulting list, with the new line even if the file could not
     /// be written; a file that cannot be read is left alone.
     std::vector<std::string> record(int score, const std::string& name);
 
@@ -45,7 +45,7 @@ private:
     Dialogs& dialogs_;
 };
 
-/// The score line of a score, cut to 0 to `ScoreFile::highestScore`, and a name.
+/// The score line for a name and a score, which is clamped to 0 to `ScoreFile::highestScore`.
 std::string scoreLine(int score, const std::string& name);
 
 /// The score of a score line.

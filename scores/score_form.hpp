@@ -19,11 +19,11 @@ public:
 
     ScoreForm(ScoreFile& scores, Dialogs& dialogs) : scores_(scores), dialogs_(dialogs) {}
 
-    /// What the next showing is for: the player's final score, or nothing only to show the list. Empties the answer.
+    /// Prepares the next showing, with the player's final score or with none to only show the list. Clears the answer.
     void request(std::optional<int> score);
 
-    /// To be called by the front end when the window has come up: fills `List2`, and records the score when it beats
-    /// the lowest of the list, asking for the name until there is one.
+    /// Called by the front end once the window is up: fills `List2` and, if the score beats the lowest of the list,
+    /// asks for a name until there is one and records the score.
     void activate();
 
     /// The buttons: each sets the answer and hides the window. A disabled button does nothing.
@@ -34,10 +34,10 @@ public:
     [[nodiscard]] bool isVisible() const { return visible_; }
     [[nodiscard]] Answer answer() const { return answer_; }
 
-    /// The request as its code: the score in decimal, "-1" without one.
+    /// The request code: the score in decimal, or "-1" without one.
     [[nodiscard]] std::string requestCode() const { return std::to_string(score_.value_or(-1)); }
 
-    /// The answer as its code: "NOGAME" after `AnotherGame`, "NOMORE" after `ExitProg`, empty after `CloseForm`.
+    /// The answer code: "NOGAME" after `AnotherGame`, "NOMORE" after `ExitProg`, empty after `CloseForm`.
     [[nodiscard]] std::string answerCode() const;
 
     /// Whether a final score is shown, so that `AnotherGame` and `ExitProg` can be pressed.
@@ -56,7 +56,7 @@ private:
     bool visible_ = false;
 };
 
-/// Shows the top ten, with a final score to be recorded or without, and returns the answer.
+/// Shows the top ten, to record a final score if there is one, and returns the answer.
 ScoreForm::Answer showTopTen(ScoreForm& form, Windows& windows, std::optional<int> score);
 
 } // namespace lexigrove

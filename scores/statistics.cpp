@@ -12,7 +12,7 @@ void Statistics::recordWord(std::string_view word, int base)
 {
     ++at(base + wordsMade);
     const int length = static_cast<int>(word.size());
-    if (length >= 2) // shorter ones, from a player's own list, have no row of their own
+    if (length >= 2) // shorter words, from a user dictionary, have no row
         ++at(base + std::min(length, fiveOrMoreLetters));
     if (length >= number(base + longestLength)) {
         at(base + longestLength) = length;

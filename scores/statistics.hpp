@@ -7,8 +7,8 @@
 namespace lexigrove
 {
 
-/// How the current game went, for the player and for the computer: a table of 17 entries and a counter for each letter
-/// used in words. Everything starts at nothing at each game's start (`reset`).
+/// Statistics of the current game for the player and the computer: a table of 17 entries and a counter for each letter
+/// used in words. `reset` clears everything at the start of a game.
 class Statistics
 {
 public:
@@ -18,26 +18,25 @@ public:
 
     /// Offsets of the entries from a base.
     static constexpr int wordsMade = 1;
-    static constexpr int fiveOrMoreLetters = 5; ///< 2, 3 and 4 are the words of so many letters
-    static constexpr int hintsUsed = 6;         ///< the player's only
+    static constexpr int fiveOrMoreLetters = 5; ///< 2, 3 and 4 are the words of that many letters
+    static constexpr int hintsUsed = 6;         ///< player only
     static constexpr int longestLength = 7;
     static constexpr int longestWord = 8; ///< the word, followed by one blank
 
     static constexpr int entryCount = 17; ///< entry 0 stays empty
 
-    /// Counts a word that was made, with `playerBase` or `computerBase`. A later word as long as the longest takes its
-    /// place.
+    /// Counts a word made, with `playerBase` or `computerBase`. A later word as long as the longest replaces it.
     void recordWord(std::string_view word, int base);
 
-    /// Writes the hints used so far into the player's entry.
+    /// Sets the player's number of hints used so far.
     void setHintsUsed(int count);
 
     void reset();
 
-    /// The number of entry 0 to 16; 0 for the longest words.
+    /// Entry 0 to 16 as a number; 0 for the longest words.
     [[nodiscard]] int number(int index) const { return numbers_.at(static_cast<std::size_t>(index)); }
 
-    /// Entry 0 to 16 as a text: nothing for a number that is 0.
+    /// Entry 0 to 16 as text; empty for a number that is 0.
     [[nodiscard]] std::string entry(int index) const;
 
     /// Letters used in words: 1 to 26 for A to Z; 0 stays 0.

@@ -8,7 +8,7 @@ namespace lexigrove
 namespace
 {
 
-// The sixteen-colour palette's numbers that the chart uses.
+// The chart's colours, with their numbers in the sixteen-colour palette.
 constexpr Colour black = rgb(0, 0, 0);       // 0
 constexpr Colour lightRed = rgb(255, 0, 0);  // 12
 constexpr Colour yellow = rgb(255, 255, 0);  // 14

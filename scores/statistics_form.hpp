@@ -34,16 +34,17 @@ struct ChartText {
     int pointSize;
 };
 
-/// What `Picture1` of the statistics window shows: items in the order in which they are painted over the background,
-/// all places in the picture's units of 1/1440 inch, y growing downwards. What runs past the picture's edge is cut off.
+/// What `Picture1` of the statistics window shows: items in the order in which they are painted over the background.
+/// All places are in units of 1/1440 inch, with y increasing downwards. Whatever runs past the picture's edge is
+/// clipped.
 struct Chart {
     Colour background;
     int width, height; ///< the part of the plane that the picture shows
     std::vector<std::variant<ChartLine, ChartFrame, ChartText>> items;
 };
 
-/// The font that sets the chart's letter width: a front end measures its "W", rounded to a whole number of picture
-/// units.
+/// The font that determines the chart's letter width: a front end measures its "W", rounded to a whole number of
+/// picture units.
 inline constexpr const char* chartFont = "courier new";
 inline constexpr int chartFontSize = 10;
 
@@ -54,14 +55,14 @@ public:
     explicit StatisticsForm(const Statistics& statistics) : statistics_(statistics) {}
 
     /// Fills the window from the table, on every activation. `lettersProvided` 1 to 26 are the pool's letter counts,
-    /// which are percentages too, because the pool holds 100 letters. In a solo game the computer's column is disabled
-    /// and keeps what it showed last.
+    /// which are also percentages, because the pool holds 100 letters. In a solo game the computer's column is disabled
+    /// and keeps what it last showed.
     void activate(bool computerGame, const std::array<int, 27>& lettersProvided);
 
     /// The chart for letters `letterWidth` units wide.
     [[nodiscard]] Chart chart(int letterWidth) const;
 
-    /// How many per cent of the letters used were this one, 1 to 26, rounded down.
+    /// The percentage that letter 1 to 26 has among the letters used, rounded down.
     [[nodiscard]] int usedPercentage(int letter) const { return used_.at(static_cast<std::size_t>(letter)); }
 
     std::array<std::string, 17> sval; ///< the value labels 1 to 16: the player's and, in `Frame2`, the computer's

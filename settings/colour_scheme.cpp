@@ -25,11 +25,11 @@ int hexDigit(char c)
     return c >= 'a' && c <= 'f' ? c - 'a' + 10 : -1;
 }
 
-/// The digits at the start of a text as a number, `base` 10 or 16, with a fraction when decimal; 0 without a digit.
+/// The number at the start of a text in `base` 10 or 16, with a fraction if decimal; 0 without a digit.
 double digitsOf(std::string_view text, int base)
 {
     double value = 0;
-    double place = 0; // of the next digit behind the point
+    double place = 0; // of the next digit after the point
     for (const char c : text) {
         if (c == '.' && base == 10 && place == 0) {
             place = 0.1;
@@ -48,7 +48,7 @@ double digitsOf(std::string_view text, int base)
     return value;
 }
 
-/// A lenient conversion: blanks are passed over, what follows the number is ignored, and no number at all is 0.
+/// A lenient conversion: blanks and whatever follows the number are ignored, and no number at all is 0.
 double lenientNumber(std::string_view field)
 {
     std::string text;
@@ -60,7 +60,7 @@ double lenientNumber(std::string_view field)
     return negative ? -value : value;
 }
 
-/// The next field up to ";"; nothing behind the last one.
+/// The next field up to ";"; nothing after the last one.
 std::optional<std::string_view> takeField(std::optional<std::string_view>& rest)
 {
     if (!rest)
@@ -108,7 +108,7 @@ bool ColourScheme::load(const std::string& name)
         if (i == fileEntries)
             return true;
     } catch (const FileError&) {
-        // told below, as a file that ends too soon is
+        // reported below, like a file that ends too soon
     }
     const std::string failed = std::exchange(currentName, defaultName);
     dialogs_.message("Color Scheme File:" + failed + " not found, defaults will be used");

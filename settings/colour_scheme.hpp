@@ -13,7 +13,7 @@
 namespace lexigrove
 {
 
-/// Places in the colour table. What else a window shows is derived from these: settings/window_colours.hpp.
+/// Indices into the colour table. The other window colours are derived from these in settings/window_colours.hpp.
 namespace scheme_entry
 {
 inline constexpr std::size_t ground = 0; ///< frames and panels
@@ -43,36 +43,36 @@ public:
     static constexpr std::size_t fileEntries = 13; ///< a file fills 0 to 12; entry 13 is never filled
     static constexpr const char* defaultName = "Default.sch";
 
-    /// `folder` ends with its separator.
+    /// `folder` ends with a separator.
     ColourScheme(std::string folder, Dialogs& dialogs);
 
-    /// Makes `name` the current name and fills the table from that file; an empty name loads the default scheme. A file
-    /// that cannot be read to its end is told in a message and makes the default's name the current one; the table then
-    /// keeps the entries read so far. True when the whole file was read.
+    /// Makes `name` the current name and fills the table from that file; an empty name loads the default scheme. If the
+    /// file cannot be read to its end, shows a message and makes the default's name the current one; the table keeps
+    /// the entries read so far. Returns true if the whole file was read.
     bool load(const std::string& name);
 
-    /// The scheme files of the folder, in ascending byte order of their names.
+    /// The scheme files in the folder, in ascending byte order of their names.
     [[nodiscard]] std::vector<std::string> filesInFolder() const;
 
     [[nodiscard]] const ColourTable& entries() const { return entries_; }
     [[nodiscard]] Colour entry(std::size_t index) const { return entries_.at(index); }
 
-    /// An entry as a plain colour: a system colour is looked up in `palette`.
+    /// An entry as a plain colour; a system colour is looked up in `palette`.
     [[nodiscard]] Colour plain(std::size_t index) const { return palette.resolve(entries_.at(index)) & 0xFFFFFFU; }
 
-    /// The face of a tile by its multiplier (controls/multiplier.hpp) and the letter on it, as plain colours: the
-    /// scheme's letter on a plain tile, black or white on a coloured one, whichever reads better.
+    /// The face of a tile with this multiplier (controls/multiplier.hpp) and the letter on it, as plain colours. The
+    /// letter has the scheme's colour on a plain tile; on a coloured one it is black or white, whichever reads better.
     [[nodiscard]] Colour tileFace(Colour multiplier) const;
     [[nodiscard]] Colour tileLetter(Colour multiplier) const;
 
-    /// A tile in the path, whatever its multiplier: the plain tile's face and letter exchange their colours.
+    /// A tile in the path, whatever its multiplier: the plain tile's face and letter swap colours.
     [[nodiscard]] Colour selectedFace() const { return tileLetter(multiplier::plain); }
     [[nodiscard]] Colour selectedLetter() const { return tileFace(multiplier::plain); }
 
-    /// The fore colour on the computer's back colour.
+    /// The text colour on the computer's back colour.
     [[nodiscard]] Colour computerFore() const { return readableOn(plain(scheme_entry::computer)); }
 
-    /// The desktop's colours; the front end keeps it true.
+    /// The desktop's colours; the front end keeps it up to date.
     SystemPalette palette;
 
     /// The file name of the current scheme with its extension; empty until one is known.
@@ -84,8 +84,8 @@ private:
     ColourTable entries_ = groveColours();
 };
 
-/// Reads one line of a scheme file, red;green;blue, or of the default scheme, a whole colour before the first ";".
-/// False when the line has too few fields or no colour; `colour` then stands as it was.
+/// Read one line of a scheme file (red;green;blue) or of the default scheme (a whole colour before the first ";").
+/// Return false and leave `colour` unchanged if the line has too few fields or no colour.
 bool readSchemeLine(std::string_view line, Colour& colour);
 bool readDefaultSchemeLine(std::string_view line, Colour& colour);
 

@@ -17,7 +17,7 @@ namespace lexigrove
 namespace
 {
 
-/// The line cannot be what stands at its place in a configuration file.
+/// Line invalid at this position.
 struct Garbled {
 };
 
@@ -29,7 +29,7 @@ std::string_view trimmed(std::string_view text)
     return text.substr(first, text.find_last_not_of(" \t") - first + 1);
 }
 
-/// A number may hold blanks anywhere and a fraction, which is cut off.
+/// A number may contain blanks anywhere and a fraction, which is dropped.
 std::int16_t wholeNumber(std::string text)
 {
     std::erase_if(text, [](char c) { return c == ' ' || c == '\t'; });
@@ -57,7 +57,7 @@ bool trueOrFalse(std::string_view line)
     return text == "true";
 }
 
-/// The lines of a file in their order; a file that ends too soon is garbled.
+/// The lines of a file in order; a file that ends too soon is garbled.
 class LineReader
 {
 public:
@@ -111,13 +111,13 @@ void Configuration::load(Colour windowBackground, Colour list1Background)
     save();
 }
 
-/// Applies line after line, so that what comes before a fault stays. False at the first fault.
+/// Applies the lines one by one, so that those before a fault count. Returns false at the first fault.
 bool Configuration::read(Colour windowBackground, Colour list1Background)
 {
     OptionsForm& options = context_.options;
     try {
         LineReader file(path_);
-        file.next(); // when it was saved
+        file.next(); // the time of saving
         options.Combo1.Text = context_.scheme.currentName = file.next();
         context_.Dc1.DigitWidth(wholeNumber(file.next()));
         context_.Dc1.ClockColor(file.next());
@@ -182,7 +182,7 @@ bool Configuration::write()
                                    context_.scheme.currentName,
                                    std::to_string(context_.Dc1.DigitWidth()),
                                    context_.Dc1.ClockColor(),
-                                   options.UsrDictName.Text, // not entry 0, which may be a name chosen before
+                                   options.UsrDictName.Text, // not entry 0, which may be an earlier name
                                    files[1],
                                    files[2],
                                    files[3],

@@ -19,11 +19,11 @@ struct ConfigurationContext {
     Dc& Dc1; ///< the main window's clock
     ColourScheme& scheme;
     Dictionary& dictionary;
-    std::string folder; ///< the program folder with its closing separator
+    std::string folder; ///< the program folder with its trailing separator
 };
 
-/// The player's choices between runs: `Lexigrove.cfg` in the program folder, 23 lines whose place alone gives their
-/// meaning.
+/// The player's choices between runs: `Lexigrove.cfg` in the program folder, 23 lines that have their meaning by
+/// position alone.
 class Configuration
 {
 public:
@@ -31,13 +31,12 @@ public:
 
     explicit Configuration(const ConfigurationContext& context);
 
-    /// Reads the file. A clock of the colour "DEFAULT" takes the two colours of the main window: its background and
-    /// that of its list `List1`. A file that is missing, short or garbled sets the controls to their defaults, is told
-    /// in a message and is replaced by a fresh one; the scheme's name, the clock's look and the delay that came before
-    /// the fault stay as read.
+    /// Reads the file. A clock with the colour "DEFAULT" takes two colours of the main window: its background and that
+    /// of its list `List1`. If the file is missing, short or garbled, sets the controls to their defaults, shows a
+    /// message and writes a new file; a scheme name, clock look or delay before the fault is kept.
     void load(Colour windowBackground, Colour list1Background);
 
-    /// Writes the file whole. A failure is told in a message and leaves the old file.
+    /// Writes the whole file. A failure shows a message and leaves the old file.
     void save();
     /// The same, without a word when it fails.
     void saveQuietly() { (void)write(); }

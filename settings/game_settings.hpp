@@ -9,9 +9,9 @@ namespace lexigrove
 /// How the computer picks its word.
 enum class Strategy { HighestScore, LongestWord, Any };
 
-/// The preset letters text: 100 letters for the board and the queue (1 to 64 fill the tiles, 65 to 100 the queue) or
-/// none, and whether the score of the game may enter the top ten. A game is normal, and its score offered, only while
-/// there is neither a text nor the mark.
+/// The preset letters: 100 letters for the board and the queue (1 to 64 fill the tiles, 65 to 100 the queue) or none,
+/// and whether the score of the game may enter the top ten. A game is normal, and its score offered, only if there are
+/// neither letters nor the mark.
 class PresetLetters
 {
 public:
@@ -24,7 +24,7 @@ public:
         state_ = letters_.empty() ? State::None : State::Chosen;
     }
 
-    /// No preset board: the next game is a normal one.
+    /// No preset board: the next game is normal.
     void clear() { choose({}); }
 
     /// Marks the game as one whose score is not recorded (again); its letters are forgotten.
@@ -34,14 +34,14 @@ public:
         state_ = State::Unrecorded;
     }
 
-    /// A game was dealt from the letters: they do not count for the one after it.
+    /// A game has been dealt from the letters: they do not apply to the next one.
     void dealt()
     {
         if (state_ == State::Chosen)
             state_ = State::Dealt;
     }
 
-    /// Whether letters wait for the next game.
+    /// Whether letters are waiting for the next game.
     [[nodiscard]] bool wait() const { return state_ == State::Chosen; }
     [[nodiscard]] bool isNormalGame() const { return state_ == State::None; }
     [[nodiscard]] const std::string& letters() const { return letters_; }
@@ -56,7 +56,7 @@ private:
     std::string letters_;
 };
 
-/// The choices that reach beyond the options dialog.
+/// The choices that matter beyond the options dialog.
 struct GameSettings {
     static constexpr int startDelay = 250;
 

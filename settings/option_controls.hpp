@@ -15,7 +15,7 @@ struct Choice {
     bool Value = false;
 };
 
-/// A frame with its choices, top to bottom. Of option buttons in one frame at most one is selected.
+/// A frame with its choices, top to bottom. At most one option button in a frame is selected.
 struct ChoiceFrame {
     std::string Caption;
     std::string ToolTipText;
@@ -31,7 +31,7 @@ struct TextBox {
     bool Enabled = true;
 };
 
-/// A text with a list to choose it from.
+/// A text with a list to choose from.
 struct ComboBox {
     std::string Text;
     std::vector<std::string> list;

@@ -12,7 +12,7 @@ namespace lexigrove
 namespace
 {
 
-/// Returns to the working folder that was current before a file dialog, which may change it.
+/// Restores the working folder after a file dialog, which may change it.
 class WorkingFolder
 {
 public:
@@ -88,7 +88,7 @@ void OptionsForm::mouseReleased(Choice& choice)
         if (Option11.Value)
             settings.dropDelay = 0;
     } else if (&choice == &Option10) {
-        if (!Option10.Value) // a selected one leaves the delay to whatever set it last
+        if (!Option10.Value) // if it is selected, the delay stays whatever it was last set to
             settings.dropDelay = 0;
     } else if (&choice == &Option12 || &choice == &Option13 || &choice == &Option14) {
         if (choice.Value)
@@ -167,8 +167,9 @@ void OptionsForm::soundButton()
     }
 }
 
-void OptionsForm::open()
+void OptionsForm::open(LookBack lookBack)
 {
+    lookBack_ = lookBack;
     answer_ = Answer::None;
     visible_ = true;
 }

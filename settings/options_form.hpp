@@ -16,39 +16,40 @@
 namespace lexigrove
 {
 
-/// What the options dialog reaches.
+/// What the options dialog needs.
 struct OptionsContext {
     Dialogs& dialogs;
     Screen& screen;
     Dictionary& dictionary;
     ColourScheme& scheme;
     SoundCues& sounds;
-    std::string folder; ///< the program folder with its closing separator
+    std::string folder; ///< the program folder with its trailing separator
 };
 
 /// The options dialog `Form7`. Its controls hold the stored options; the rest of the program reads them here.
 ///
-/// A front end shows the frames as they are declared below, calls `select` when a choice is selected by any means, and
-/// `mouseReleased` when the mouse button is released over it: handlers run on that release only. A choice made with the
-/// keyboard alone counts when a game starts (`takeChoices`).
+/// A front end shows the frames as declared below, calls `select` when a choice is selected by any means, and
+/// `mouseReleased` when the mouse button is released over it: handlers run only on that release. A choice made with the
+/// keyboard alone takes effect when a game starts (`takeChoices`).
 class OptionsForm
 {
 public:
-    enum class Answer { None, Start, Exit };
+    enum class Answer { None, Start, Exit, LookBack };
+    /// Whether the dialog offers to look back on the game that is just over.
+    enum class LookBack { Hidden, Offered };
 
     explicit OptionsForm(const OptionsContext& context);
     OptionsForm(const OptionsForm&) = delete;
     OptionsForm& operator=(const OptionsForm&) = delete;
 
-    /// The frames with choices, from the first to the last: sound, arrangement, drop, meanings, dictionary, computer
-    /// plays.
+    /// The frames with choices, in order: sound, arrangement, drop, meanings, dictionary, computer plays.
     [[nodiscard]] std::vector<ChoiceFrame*> choiceFrames();
 
-    /// The choice of this control name, or null.
+    /// The choice with this control name, or null.
     [[nodiscard]] Choice* find(const std::string& name);
 
-    /// Sets the value of a choice, as the mouse, the keyboard or a file does; no handler runs. A choice that becomes
-    /// selected clears the others of its frame.
+    /// Sets the value of a choice, as the mouse, the keyboard or a file does; no handler runs. Selecting a choice
+    /// clears the others in its frame.
     void select(Choice& choice) { setValue(choice, true); }
     void setValue(Choice& choice, bool value);
 
@@ -61,42 +62,46 @@ public:
     /// The text of `UsrDictName` was edited.
     void typeUserDictName(const std::string& text);
 
-    /// `PSBoard` was released: asks for the 100 letters of a preset board. True when they are preset.
+    /// `PSBoard` was released: asks for the 100 letters of a preset board. Returns true if they are now preset.
     bool presetBoard();
 
     /// An entry of `Combo1` was chosen.
     void chooseScheme(const std::string& name);
 
-    /// Part of the start: loads the current scheme, lists the scheme files in `Combo1` and colours the box and its
+    /// Part of start-up: loads the current scheme, lists the scheme files in `Combo1` and colours the box and its
     /// frame.
     void loadSchemes();
 
-    /// Release of the main window's button `SoundOnOff`.
+    /// The main window's button `SoundOnOff` was released.
     void soundButton();
 
-    /// `Startx` and `Exitx`: hide the dialog with this answer. Saving and leaving are the flow's.
+    /// `Startx` and `Exitx`: hide the dialog with this answer. The flow does the saving and leaving.
     void pressStart() { hide(Answer::Start); }
     void pressExit() { hide(Answer::Exit); }
+    /// Looks back on the last game; the dialog is shown again afterwards.
+    void pressLookBack() { hide(Answer::LookBack); }
 
     /// Called before the dialog is shown; empties the answer.
-    void open();
+    void open(LookBack lookBack = LookBack::Hidden);
+    [[nodiscard]] bool offersLookBack() const { return lookBack_ == LookBack::Offered; }
     [[nodiscard]] bool isVisible() const { return visible_; }
     [[nodiscard]] Answer answer() const { return answer_; }
 
-    /// A game starts: whatever the controls say counts, however it was chosen. Sets the sound flag, the delay (0
+    /// A game starts: the controls' values take effect, however they were chosen. Sets the sound flag, the delay (0
     /// without animation), the computer's mode and the dictionary.
     void takeChoices();
 
-    /// ApplyDictionaryChoice with the choice and the file name of this dialog. No choice selected: the old one stays.
+    /// ApplyDictionaryChoice with this dialog's choice and file name. Without a selected choice the old one stays.
     void applyDictionaryChoice();
 
     /// Enables or disables `UsrDictName` and `GetUserDictName`.
     void enableUserDictionary(bool enabled);
 
-    /// Sets the sound flag and the caption of `SoundOnOff` from "On" and "Off"; with neither selected they stay.
+    /// Sets the sound flag and the caption of `SoundOnOff` from "On" and "Off"; if neither is selected they do not
+    /// change.
     void setSound();
 
-    /// The scheme that `Combo1` chose, and the folder in which the files of its list lie.
+    /// The scheme chosen in `Combo1`, and the folder of the files in its list.
     [[nodiscard]] const ColourScheme& scheme() const { return context_.scheme; }
     [[nodiscard]] const std::string& folder() const { return context_.folder; }
 
@@ -129,7 +134,7 @@ public:
     Choice Option4{"Option4", "Level 2 - 20,000 words"};
     Choice Option3{"Option3", "Level 1 - 2,500 words"};
     Choice Option2{"Option2", "Custom"};
-    Choice Check1{"Check1", "YES"}; ///< a check box of its own, in no group
+    Choice Check1{"Check1", "YES"}; ///< a single check box, in no group
     Choice Option14{"Option14", "Any"};
     Choice Option13{"Option13", "Longest word"};
     Choice Option12{"Option12", "Highest score word"};
@@ -160,6 +165,7 @@ private:
     OptionsContext context_;
     bool visible_ = false;
     Answer answer_ = Answer::None;
+    LookBack lookBack_ = LookBack::Hidden;
 };
 
 } // namespace lexigrove

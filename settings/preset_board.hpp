@@ -7,8 +7,8 @@
 namespace lexigrove
 {
 
-/// Asks for the `count` letters A to Z of a preset board until they are all there, or for nothing more: an empty answer
-/// gives the empty text. Letters too many are discarded, letters too few are asked for with the typed ones kept.
+/// Asks for the `count` letters A to Z of a preset board until they are complete; an empty answer returns an empty
+/// string. Excess letters are discarded; missing ones are asked for, keeping those typed.
 std::string askForPresetLetters(Dialogs& dialogs, std::size_t count);
 
 } // namespace lexigrove

@@ -11,7 +11,7 @@ namespace
 
 constexpr Colour black = rgb(0, 0, 0);
 constexpr Colour white = rgb(255, 255, 255);
-constexpr int steps = 50; // a fiftieth of the way is finer than the eye tells apart
+constexpr int steps = 50; // a fiftieth of the way is too small a step to see
 
 double worseContrast(Colour text, Colour ground, Colour otherGround)
 {
@@ -45,7 +45,7 @@ Hsl hslOf(Colour colour)
 Colour colourOf(const Hsl& hsl)
 {
     const double chroma = (1 - std::abs(2 * hsl.lightness - 1)) * hsl.saturation;
-    const auto channel = [&](double place) { // its distance from the channel's own hue decides how full it is
+    const auto channel = [&](double place) { // the distance from the channel's own hue determines its strength
         const double distance = std::abs(std::remainder(hsl.hue - place, 6.0));
         const double full = std::clamp(2 - distance, 0.0, 1.0);
         return static_cast<unsigned>(std::lround(255 * (hsl.lightness - chroma / 2 + chroma * full)));

@@ -9,7 +9,7 @@
 namespace lexigrove
 {
 
-/// The wave files and what they tell.
+/// The wave files and what they signal.
 namespace cue
 {
 inline constexpr std::string_view menu = "cnqmenu.wav";     ///< a menu-like action of the main window
@@ -19,27 +19,26 @@ inline constexpr std::string_view tile = "beep3.wav";       ///< a tile of the b
 inline constexpr std::string_view removal = "beep4.wav";    ///< a used tile leaves the board
 inline constexpr std::string_view swap = "click.wav";       ///< two letters are swapped
 inline constexpr std::string_view soundOn = "cnqendgm.wav"; ///< sound was switched on with the button
-inline constexpr std::string_view thanks = "thanks.wav";    ///< the program is left
+inline constexpr std::string_view thanks = "thanks.wav";    ///< leaving the program
 } // namespace cue
 
-/// Marks the game's events with sounds, unless sound is off. Nothing waits for a sound, and nobody learns whether it
-/// was heard.
+/// Plays sounds for the game's events unless sound is off. Does not wait; reports no errors.
 class SoundCues
 {
 public:
-    /// `folder` is the program folder with its closing separator. Sound starts on.
+    /// `folder` is the program folder with its trailing separator. Sound is initially on.
     SoundCues(SoundDevice& device, std::string folder) : device_(device), folder_(std::move(folder)) {}
 
-    /// Sends the command that plays a file of the program folder; nothing while sound is off.
+    /// Plays a file from the program folder, unless sound is off.
     void play(std::string_view file);
 
-    /// Plays a file whatever the flag says, which then stands as before: what a click in the hidden file list
-    /// `File1` does, for a front end that has such a list.
+    /// Plays a file even if sound is off, without changing the flag: what a click in the hidden file list `File1` does,
+    /// for a front end that has such a list.
     void playForced(std::string_view file);
 
     [[nodiscard]] bool isOn() const { return on_; }
 
-    /// Sets the sound flag and plays nothing.
+    /// Sets the sound flag without playing anything.
     void setOn(bool on) { on_ = on; }
 
     /// The caption of the main window's button `SoundOnOff`, whose release is `OptionsForm::soundButton`.

@@ -6,7 +6,7 @@ namespace lexigrove
 namespace
 {
 
-/// The bonus colour that shows best on the tiles that it joins; the accent where none does well.
+/// The bonus colour that shows best on the tiles it joins, or the accent if none shows well.
 Colour linkColour(const ColourScheme& scheme, Colour accent)
 {
     constexpr double plainToSee = 2.5;
@@ -17,7 +17,7 @@ Colour linkColour(const ColourScheme& scheme, Colour accent)
     return readableText(accent, scheme.selectedFace());
 }
 
-/// A ground toned towards its text, or away from it where the text would suffer.
+/// A background tinted towards its text, or away from it if that would hurt the text.
 Colour toned(Colour ground, Colour text, double share)
 {
     const Colour towards = mixed(ground, text, share);
@@ -30,10 +30,10 @@ Colour toned(Colour ground, Colour text, double share)
 
 WindowColours deriveWindowColours(const ColourScheme& scheme)
 {
-    // Shares of the text's colour in the ground, as the eye liked them in a light and in a dark window.
+    // Shares of the text colour in the background, chosen by eye in light and dark windows.
     constexpr double stripShare = 0.06;
     constexpr double lineShare = 0.20;
-    constexpr double strongLineShare = 0.55; // for a scheme of the strongest contrast, which asks for lines to match
+    constexpr double strongLineShare = 0.55; // for schemes of the highest contrast, which need lines to match
     constexpr double strongestContrast = 18;
     constexpr double rowShare = 0.12;
     constexpr double disabledShare = 0.55;

@@ -1,4 +1,4 @@
-// Brings the files of one folder into a program folder and leaves there what a player has changed.
+// Copies the files of one folder into a program folder and keeps what a player has changed there.
 
 #include "platform/installed_files.hpp"
 
@@ -14,7 +14,7 @@ int main(int argc, char** argv)
     }
     try {
         std::filesystem::create_directories(argv[2]);
-        lexigrove::followInstalledFiles(argv[1], argv[2]);
+        lexigrove::syncInstalledFiles(argv[1], argv[2]);
         return 0;
     } catch (const std::exception& error) {
         std::cerr << error.what() << "\n";

@@ -1,9 +1,10 @@
 # What `play` and `check` share. To be sourced; `root` is the folder of the project.
 
-# Everything that these scripts say goes to the standard error: the standard output is the game's or the tests'.
+# These scripts write their messages to standard error: standard output belongs to the game or the tests.
 say() { printf '%s\n' "$*" >&2; }
 
-# Prints the packages of debian/control's Build-Depends, one a line; with "game" those that checking alone needs are left out.
+# Prints the packages in debian/control's Build-Depends, one per line; with "game", without those that only checking
+# needs.
 needed_packages() {
     awk -v game="${1:-}" '
         /^#/ { next }
@@ -20,7 +21,7 @@ needed_packages() {
         }' "$root/debian/control"
 }
 
-# Prints which of the named packages are not installed.
+# Prints those of the named packages that are not installed.
 missing_packages() {
     local installed
     # dpkg-query fails when it has never heard of one of them.
@@ -42,11 +43,11 @@ apt_get() {
     return 1
 }
 
-# install_missing [game]: installs what is not there.
+# install_missing [game]: installs what is missing.
 install_missing() {
     local needed missing
     if ! command -v dpkg-query >/dev/null || ! command -v apt-get >/dev/null; then
-        say "This is no Debian system: nothing is installed. Needed are what these Debian packages hold:" \
+        say "This is not a Debian system, so nothing is installed. The contents of these Debian packages are needed:" \
             "$(needed_packages "$@" | tr '\n' ' ')"
         return
     fi

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# tidy.sh BUILD-FOLDER: runs clang-tidy over the C++ files below the window that have been built there. A file that passed
-# is left alone until it, a header that it includes, .clang-tidy or clang-tidy itself changes.
+# tidy.sh BUILD-FOLDER: runs clang-tidy over the C++ files below the window that have been built there. A file that has
+# passed is skipped until it, a header that it includes, .clang-tidy or clang-tidy itself changes.
 set -euo pipefail
 root=$(dirname "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")")
 build=$(readlink -f "$1")
@@ -12,8 +12,8 @@ if [ ! -f "$build/compile_commands.json" ]; then
 fi
 cd "$root"
 
-# One line for each object file built, of paths from the root with tabs between them: its source and the project's headers
-# that it includes.
+# Prints a line for each object file built: its source and the project's headers that it includes, as paths from the
+# root separated by tabs.
 dependencies() {
     ninja -C "$build" -t deps | awk -v root="$root/" '
         /^[^ ]/ { if (line != "") print line; line = ""; next }

@@ -16,11 +16,11 @@
 namespace lexigrove
 {
 
-/// The game with its windows and the machine it runs on, put together. A QApplication stands before it.
+/// The game with its windows and the machine it runs on, put together. Requires a QApplication.
 class FrontEnd
 {
 public:
-    /// `folder` is the program folder with its closing separator.
+    /// `folder` is the program folder with its trailing separator.
     explicit FrontEnd(const std::string& folder);
     FrontEnd(const FrontEnd&) = delete;
     FrontEnd& operator=(const FrontEnd&) = delete;

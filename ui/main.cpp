@@ -39,8 +39,15 @@ int play(const StartOptions& options)
 
 int main(int argc, char** argv)
 {
-    if (const auto answer = answerWithoutWindow(argc, argv)) {
-        std::fputs(answer->c_str(), stdout);
+    StartOptions options;
+    try {
+        options = readStartOptions(argc, argv);
+    } catch (const StartOptionError& error) {
+        std::fprintf(stderr, "lexigrove: %s\nTry 'lexigrove --help'.\n", error.what());
+        return 2;
+    }
+    if (options.answer) {
+        std::fputs(options.answer->c_str(), stdout);
         return EXIT_SUCCESS;
     }
     QApplication application(argc, argv);
@@ -49,10 +56,7 @@ int main(int argc, char** argv)
     QApplication::setDesktopFileName("lexigrove");
     QApplication::setWindowIcon(gameIcon());
     try {
-        return play(readStartOptions(QApplication::arguments()));
-    } catch (const StartOptionError& error) {
-        std::fprintf(stderr, "lexigrove: %s\nTry 'lexigrove --help'.\n", error.what());
-        return 2;
+        return play(options);
     } catch (const ProgramFolderError& error) {
         std::fprintf(stderr, "lexigrove: %s\n", error.what());
         QMessageBox::critical(nullptr, "LexiGrove", QString::fromLocal8Bit(error.what()));

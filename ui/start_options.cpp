@@ -2,7 +2,8 @@
 
 #include "ui/look/text.hpp"
 
-#include <string_view>
+#include <QCommandLineParser>
+#include <QCoreApplication>
 
 namespace lexigrove
 {
@@ -10,20 +11,19 @@ namespace lexigrove
 namespace
 {
 
-constexpr const char* help = R"(Usage: lexigrove [options]
-LexiGrove, a word game on a board of letter tiles.
-
-  --folder DIR               the folder of the game's files: word lists, sounds, colour
-                             schemes, scores, configuration
-  --arrangement square|staggered
-                             the arrangement of the tiles, preset in the options dialog
-  --start                    starts a game with the stored options at once, without the
-                             options dialog
-  --help                     shows this text
-  --version                  shows the version
-
-Options of the toolkit, such as "-platform offscreen", are taken too.
-)";
+/// The toolkit's own options, which QApplication reads later; they are let through.
+void addToolkitOptions(QCommandLineParser& parser)
+{
+    const auto add = [&](const QStringList& names, const char* value) {
+        QCommandLineOption option(names, {}, value);
+        option.setFlags(QCommandLineOption::HiddenFromHelp);
+        parser.addOption(option);
+    };
+    add({"display", "geometry", "icon", "platform", "platformpluginpath", "platformtheme", "plugin", "qmljsdebugger",
+         "qwindowgeometry", "qwindowicon", "qwindowtitle", "session", "style", "stylesheet", "title"},
+        "value");
+    add({"dograb", "nograb", "reverse", "sync", "widgetcount"}, nullptr);
+}
 
 Arrangement arrangementNamed(const QString& name)
 {
@@ -36,39 +36,46 @@ Arrangement arrangementNamed(const QString& name)
 
 } // namespace
 
-StartOptions readStartOptions(const QStringList& arguments)
+StartOptions readStartOptions(int argc, char** argv)
 {
-    StartOptions options;
-    for (qsizetype i = 1; i < arguments.size(); ++i) {
-        const QString name = arguments[i].section('=', 0, 0);
-        const auto value = [&] {
-            if (arguments[i].contains('='))
-                return arguments[i].section('=', 1);
-            if (i + 1 == arguments.size())
-                throw StartOptionError(name.toStdString() + " asks for a value");
-            return arguments[++i];
-        };
-        if (name == "--folder")
-            options.folder = pathFromQString(value());
-        else if (name == "--arrangement")
-            options.arrangement = arrangementNamed(value());
-        else if (arguments[i] == "--start")
-            options.startAtOnce = true;
-        else
-            throw StartOptionError("unknown option: " + arguments[i].toStdString());
-    }
-    return options;
-}
+    QCommandLineParser parser;
+    parser.setApplicationDescription("LexiGrove, a word game on a board of letter tiles.\n"
+                                     "Options of the toolkit, such as \"-platform offscreen\", are taken too.");
+    parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
+    parser.addOptions({
+        {"folder", "The folder of the game's files: word lists, sounds, colour schemes, scores, configuration.", "DIR"},
+        {"arrangement", "The arrangement of the tiles, preset in the options dialog.", "square|staggered"},
+        {"start", "Starts a game with the stored options at once, without the options dialog."},
+        {"help", "Shows this text."},
+        {"version", "Shows the version."},
+    });
+    addToolkitOptions(parser);
 
-std::optional<std::string> answerWithoutWindow(int argc, const char* const* argv)
-{
-    for (int i = 1; i < argc; ++i) {
-        if (std::string_view(argv[i]) == "--help")
-            return help;
-        if (std::string_view(argv[i]) == "--version")
-            return "LexiGrove " LEXIGROVE_VERSION "\n";
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments += pathToQString(argv[i]);
+    const bool understood = parser.parse(arguments);
+
+    StartOptions options;
+    if (parser.isSet("help")) {
+        const QCoreApplication named(argc, argv); // tells the parser the program's name
+        options.answer = parser.helpText().toStdString();
+        return options;
     }
-    return std::nullopt;
+    if (parser.isSet("version")) {
+        options.answer = "LexiGrove " LEXIGROVE_VERSION "\n";
+        return options;
+    }
+    if (!understood)
+        throw StartOptionError(parser.errorText().toStdString());
+    if (!parser.positionalArguments().isEmpty())
+        throw StartOptionError("unknown option: " + parser.positionalArguments().front().toStdString());
+    if (parser.isSet("folder"))
+        options.folder = pathFromQString(parser.value("folder"));
+    if (parser.isSet("arrangement"))
+        options.arrangement = arrangementNamed(parser.value("arrangement"));
+    options.startAtOnce = parser.isSet("start");
+    return options;
 }
 
 } // namespace lexigrove

@@ -2,8 +2,6 @@
 
 #include "game/board.hpp"
 
-#include <QStringList>
-
 #include <optional>
 #include <stdexcept>
 #include <string>
@@ -13,6 +11,7 @@ namespace lexigrove
 
 /// What the command line asks for.
 struct StartOptions {
+    std::optional<std::string> answer;      ///< to --help and --version: printed instead of a game
     std::optional<std::string> folder;      ///< the program folder
     std::optional<Arrangement> arrangement; ///< presets the options dialog
     bool startAtOnce = false;               ///< a game with the stored options, without the options dialog
@@ -25,10 +24,7 @@ public:
     using std::runtime_error::runtime_error;
 };
 
-/// Reads the command line, the program's name first. Throws StartOptionError.
-StartOptions readStartOptions(const QStringList& arguments);
-
-/// The answer to --help and --version, which need no display; nothing for any other command line.
-std::optional<std::string> answerWithoutWindow(int argc, const char* const* argv);
+/// Reads the command line, the program's name first. Needs no display. Throws StartOptionError.
+StartOptions readStartOptions(int argc, char** argv);
 
 } // namespace lexigrove

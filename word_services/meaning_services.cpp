@@ -12,7 +12,7 @@ namespace
 {
 
 struct ServiceAddress {
-    const char* host; ///< where the player's file names no other
+    const char* host; ///< unless the player's file names another
     const char* path;
     const char* afterWord;
 };
@@ -67,7 +67,7 @@ MeaningServices::MeaningServices(const std::string& folder)
     try {
         lines = readLines(folder + "MeaningServices.txt");
     } catch (const FileError&) {
-        // the built-in addresses do
+        // the built-in addresses will do
     }
     for (std::size_t i = 0; i < serviceCount; ++i) {
         const std::string_view line = i < lines.size() ? withoutEnds(lines[i]) : std::string_view{};

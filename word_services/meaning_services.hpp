@@ -10,28 +10,28 @@
 namespace lexigrove
 {
 
-/// The four online services that tell what a word means. Where each lives is in `MeaningServices.txt` of the program
-/// folder, which the player may edit: one line a service, in the order below, the address before the path
-/// ("https://host"). A line that is missing or is no such address falls back to the built-in one.
+/// The four online services that explain words. Their addresses are in `MeaningServices.txt` in the program folder,
+/// which the player may edit: one line per service, in the order below, with the address before the path
+/// ("https://host"). A missing or invalid line falls back to the built-in address.
 class MeaningServices
 {
 public:
     enum Service : std::size_t { Online, Free, MerriamWebster, Computing };
     static constexpr std::size_t serviceCount = 4;
 
-    /// `folder` ends with its separator.
+    /// `folder` ends with a separator.
     explicit MeaningServices(const std::string& folder);
 
-    /// Chooses the service at a game's start from the frame "Word Meanings from". The options are tested in the order
-    /// of the services and the last one set wins; with none set the old choice stands.
+    /// Chooses the service at the start of a game from the frame "Word Meanings from". The options are tested in the
+    /// order of the services and the last one set wins; if none is set, the old choice stays.
     void choose(const OptionsForm& options);
 
     [[nodiscard]] Service chosen() const { return chosen_; }
 
-    /// The whole address of a word's page at the chosen service. The word is appended as it is.
+    /// The full address of a word's page at the chosen service. The word is appended unchanged.
     [[nodiscard]] std::string addressOf(std::string_view word) const;
 
-    /// The address before the path of a service, without a closing "/".
+    /// A service's address before the path, without a trailing "/".
     [[nodiscard]] const std::string& host(Service service) const { return hosts_[service]; }
 
 private:
@@ -39,8 +39,8 @@ private:
     Service chosen_ = Free;
 };
 
-/// Whether a text is an address that a service may have: https and a host, with a port where it has one; plain http on
-/// the machine itself only.
+/// Whether a text is an address that a service may have: https and a host, optionally with a port; plain http only on
+/// this machine.
 bool isServiceAddress(std::string_view text);
 
 } // namespace lexigrove

@@ -12,7 +12,7 @@ void Meanings::showOfCurrentRow()
         status_.show("Select a word first");
         return;
     }
-    state_.redTileHold = true; // as every window that is opened from the main one
+    state_.redTileHold = true; // as for every window opened from the main one
     showMeaning(word);
 }
 

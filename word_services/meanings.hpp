@@ -3,15 +3,15 @@
 #include "game/game_state.hpp"
 #include "platform/status_line.hpp"
 #include "platform/windows.hpp"
-#include "word_services/meaning_services.hpp"
 #include "settings/sound_cues.hpp"
+#include "word_services/meaning_services.hpp"
 
 #include <string>
 
 namespace lexigrove
 {
 
-/// The meaning window `Form3`: a browser view on the page of one word.
+/// The meaning window `Form3`: a browser view of one word's page.
 struct MeaningForm {
     std::string Caption; ///< the word
     std::string address; ///< the page that `WbDictionary` navigates to
@@ -21,16 +21,16 @@ struct MeaningForm {
 class Meanings
 {
 public:
-    Meanings(GameState& state, StatusLine& status, SoundCues& sounds, const MeaningServices& services,
-             Windows& windows)
+    Meanings(GameState& state, StatusLine& status, SoundCues& sounds, const MeaningServices& services, Windows& windows)
         : state_(state), status_(status), sounds_(sounds), services_(services), windows_(windows)
     {
     }
 
-    /// The meaning of the word in the current row of the main window's `WordsMade`; nothing during the computer's turn.
+    /// Shows the meaning of the word in the current row of the main window's `WordsMade`; does nothing during the
+    /// computer's turn.
     void showOfCurrentRow();
 
-    /// Shows the meaning of a word, which is not empty.
+    /// Shows the meaning of a word that is not empty.
     void showMeaning(const std::string& word);
 
 private:

@@ -8,7 +8,7 @@
 namespace lexigrove
 {
 
-/// `CheckDict`: tells on the status line whether the word being built is in the dictionary. Nothing else changes.
+/// `CheckDict`: says on the status line whether the word being built is in the dictionary, and changes nothing else.
 void checkSpelling(const Selection& selection, const Dictionary& dictionary, SoundCues& sounds, StatusLine& status);
 
 } // namespace lexigrove

@@ -58,7 +58,7 @@ TEST_F(ScoreFileTest, DamageLosesNoValidLineOfTheBestTen)
     EXPECT_EQ(ScoreFile(folder.file("no such folder/"), dialogs).record(500, "Ann").size(), 10U);
 }
 
-// Guards against running games that undo each other's scores.
+// Guards against running games that undo each other's scores, and a score that another game has meanwhile reached.
 TEST_F(ScoreFileTest, TwoGamesRecordAtTheSameMoment)
 {
     scores.ensure();
@@ -75,6 +75,7 @@ TEST_F(ScoreFileTest, TwoGamesRecordAtTheSameMoment)
     for (int score = 1070; score < 1080; ++score)
         best.push_back(scoreLine(score, "Game " + std::to_string(1000 + score % 2)));
     EXPECT_EQ(scores.load(), best);
+    EXPECT_EQ(scores.record(1070, "Late"), best);
 }
 
 } // namespace

@@ -3,9 +3,11 @@
 #include "tests/ui/played_window.hpp"
 #include "ui/dialogs/beside.hpp"
 #include "ui/dialogs/score_dialog.hpp"
+#include "ui/look/game_icon.hpp"
 #include "ui/pages/browser_view.hpp"
 #include "ui/play/words_view.hpp"
 
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
@@ -100,9 +102,14 @@ protected:
         ADD_FAILURE() << word << " is not listed";
         return 1;
     }
+    QPoint placeOf(QDialog& dialog, const std::string& word)
+    {
+        const WordsView& words = grid(dialog);
+        return words.visualRect(words.model()->index(rowOf(word) - 1, WordsGrid::wordColumn)).center();
+    }
     void clickRow(QDialog& dialog, const std::string& word)
     {
-        QTest::mouseClick(grid(dialog).viewport(), Qt::LeftButton, {}, grid(dialog).rowRect(rowOf(word)).center());
+        QTest::mouseClick(grid(dialog).viewport(), Qt::LeftButton, {}, placeOf(dialog, word));
     }
     bool isMarked(int tile) { return play_.theBoard().tile(tile).BorderStyle() == 1; }
     QColor selectedFace() { return toQColor(flow_.scheme.selectedFace()); }
@@ -134,10 +141,10 @@ TEST_F(HintsDialogTest, ARowPickedShowsItsPathOnTheBoard)
 TEST_F(HintsDialogTest, TheHeadingSortsAndSelectEntersTheWord)
 {
     script_.in("Form2", [&](QDialog& dialog) {
-        WordsView& words = grid(dialog);
+        const QHeaderView& headings = *grid(dialog).horizontalHeader();
         const auto clickHeading = [&](int column) {
-            const QPoint place(words.columnRect(column).center().x(), words.rowRect(0).center().y());
-            QTest::mouseClick(words.viewport(), Qt::LeftButton, {}, place);
+            const QPoint place(headings.sectionPosition(column) + 5, 5);
+            QTest::mouseClick(headings.viewport(), Qt::LeftButton, {}, place);
         };
         clickHeading(WordsGrid::wordColumn);
         EXPECT_EQ(rowOf("DO"), 3);
@@ -153,7 +160,8 @@ TEST_F(HintsDialogTest, TheHeadingSortsAndSelectEntersTheWord)
 TEST_F(HintsDialogTest, ADoubleClickAndEnterSelect)
 {
     script_.in("Form2", [&](QDialog& dialog) {
-        QTest::mouseDClick(grid(dialog).viewport(), Qt::LeftButton, {}, grid(dialog).rowRect(rowOf("DO")).center());
+        clickRow(dialog, "DO"); // the first half of the double click
+        QTest::mouseDClick(grid(dialog).viewport(), Qt::LeftButton, {}, placeOf(dialog, "DO"));
     });
     input(&GameFlow::getHint);
     EXPECT_EQ(flow_.game.state.WordsMade.text(1, WordsGrid::wordColumn), "DO");
@@ -270,6 +278,7 @@ TEST_F(DialogTest, MaintenanceSearchesAndAddsAWord)
 TEST_F(DialogTest, TheAboutBoxClosesThreeWays)
 {
     script_.in("AboutForm", [](QDialog& dialog) {
+        EXPECT_EQ(gameIcon().pixmap(256).toImage().pixelColor(100, 100), QColor("#24382c")) << "no picture in there";
         EXPECT_TRUE(dialog.findChild<QLabel*>("AboutText")->text().contains("LexiGrove - January 2005"));
         QTest::keyClick(&dialog, Qt::Key_Escape);
     });

@@ -1,6 +1,7 @@
 #include "settings/readable_colours.hpp"
 #include "tests/ui/played_window.hpp"
 
+#include <QHeaderView>
 #include <QImage>
 
 namespace lexigrove
@@ -146,16 +147,17 @@ TEST_P(Playing, WordsAreTyped)
 TEST_P(Playing, HeadingsSortTheWordsAndRowsArePicked)
 {
     WordsGrid& grid = play_.flow().game.state.WordsMade;
-    grid.insertOnTop({.score = 9, .word = "DOG"});
+    grid.insertOnTop({.score = 9, .word = "DOG", .maker = Maker::Computer});
     grid.insertOnTop({.score = 30, .word = "ACES"});
     grid.insertOnTop({.score = 4, .word = "BEE"});
     play_.window().showModels();
     auto& words = play_.child<WordsView>("WordsMade");
     for (const int width : {900, 1300}) {
         play_.window().resize(width, 640);
+        const QHeaderView& headings = *words.horizontalHeader();
         const auto clickHeading = [&](int column) {
-            const QPoint place(words.columnRect(column).right() - 3, words.rowRect(0).center().y());
-            QTest::mouseClick(words.viewport(), Qt::LeftButton, {}, place);
+            const QPoint place(headings.sectionPosition(column) + headings.sectionSize(column) - 3, 5);
+            QTest::mouseClick(headings.viewport(), Qt::LeftButton, {}, place);
         };
         grid.Tag.clear();
         clickHeading(WordsGrid::wordColumn);
@@ -163,10 +165,18 @@ TEST_P(Playing, HeadingsSortTheWordsAndRowsArePicked)
         clickHeading(WordsGrid::scoreColumn);
         EXPECT_EQ(grid.text(1, 3) + grid.text(2, 3), "ACESDOG");
     }
-    QTest::mouseClick(words.viewport(), Qt::LeftButton, {}, words.rowRect(2).center());
+    QTest::mouseClick(words.viewport(), Qt::LeftButton, {}, words.visualRect(words.model()->index(1, 0)).center());
     EXPECT_EQ(grid.Row(), 2);
     QTest::keyClick(&words, Qt::Key_Down);
     EXPECT_EQ(grid.Row(), 3);
+    const auto wordCell = [&](int row) {
+        const QRect cell = words.visualRect(words.model()->index(row - 1, WordsGrid::wordColumn));
+        return words.viewport()->grab(cell).toImage().pixelColor(cell.width() - 3, 3);
+    };
+    const WindowColours& colours = play_.host().theme.colours();
+    EXPECT_EQ(wordCell(1), toQColor(colours.card));
+    EXPECT_EQ(wordCell(2), toQColor(colours.computerBack));
+    EXPECT_EQ(wordCell(3), toQColor(colours.cardSelection));
 }
 
 // Guards the letters' place at every size and scale: tiles within the window, square, none over another, found again

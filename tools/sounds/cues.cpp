@@ -6,7 +6,7 @@ namespace lexigrove::tools
 namespace
 {
 
-// Half tones above C4.
+// Semitones above C4.
 constexpr double e3 = -8;
 constexpr double a3 = -3;
 constexpr double c4 = 0;
@@ -25,7 +25,7 @@ constexpr double e6 = 28;
 std::vector<Cue> cues()
 {
     return {
-        // A tile is clicked, up to ten times a word: the shortest and lightest of all.
+        // A tile is clicked, up to ten times per word: the shortest and lightest of all.
         {"beep3.wav", 0.14, {{c6, 0, 0.022, 0.34, wood(), 0}}},
         // A used tile leaves the board, several in a row: a soft pop below the tick.
         {"beep4.wav", 0.20, {{g4, 0, 0.035, 0.36, wood(), 7}}},

@@ -15,8 +15,8 @@ struct Cue {
     std::vector<Note> notes;
 };
 
-/// The eight sounds. All take their notes from one scale, C major without F and B, in which any two sound well
-/// together, as they must when a sound starts before the one before it has ended.
+/// The eight sounds. All use one scale, C major without F and B, in which any two notes sound well together, because a
+/// sound may start before the previous one has ended.
 std::vector<Cue> cues();
 
 } // namespace lexigrove::tools

@@ -24,7 +24,7 @@ double frequencyOf(double halfTones)
     return middleC * std::exp2(halfTones / 12.0);
 }
 
-/// A smooth way from 0 to 1.
+/// A smooth ramp from 0 to 1.
 double rise(double share)
 {
     return 0.5 - 0.5 * std::cos(std::numbers::pi * std::clamp(share, 0.0, 1.0));
@@ -35,7 +35,7 @@ void mix(std::vector<double>& signal, const Note& note)
     double whole = 0;
     for (const Partial& partial : note.timbre)
         whole += partial.loudness;
-    double phase = 0; // in turns; kept as a sum, for a bent note changes its frequency
+    double phase = 0; // in cycles; accumulated, because a bent note changes its frequency
     for (auto at = static_cast<std::size_t>(note.start * samplesPerSecond); at < signal.size(); ++at) {
         const double time = static_cast<double>(at) / samplesPerSecond - note.start;
         double swing = 0;

@@ -8,28 +8,27 @@ namespace lexigrove::tools
 
 /// One of the sine waves that a note is made of.
 struct Partial {
-    double ratio;    ///< its frequency, in times the note's
+    double ratio;    ///< its frequency, as a multiple of the note's
     double loudness; ///< relative to the other partials
-    double decay;    ///< how long it rings, in times the note's ring
+    double decay;    ///< how long it rings, as a multiple of the note's ring
 };
 using Timbre = std::vector<Partial>;
 
 Timbre wood();   ///< a wooden bar struck softly: a round tone with a short knock
 Timbre glass();  ///< a small bell: the overtones of a string, soft
-Timbre hollow(); ///< a stopped pipe: odd overtones alone, dull
+Timbre hollow(); ///< a stopped pipe: odd overtones only, dull
 
 /// A struck note: it starts softly within a few milliseconds and dies away.
 struct Note {
-    double pitch;    ///< in half tones above middle C (C4)
+    double pitch;    ///< in semitones above middle C (C4)
     double start;    ///< in seconds
     double ring;     ///< seconds after which it has fallen to about a third (1/e)
-    double loudness; ///< its largest swing, of 1 for full scale
+    double loudness; ///< its peak amplitude; 1 is full scale
     Timbre timbre;
-    double bend =
-        0; ///< half tones by which it starts off its pitch; it reaches the pitch within a few hundredths of a second
+    double bend = 0; ///< semitones off its pitch at the start, gone within a few hundredths of a second
 };
 
-/// Mixes the notes and closes with a fade into silence, so that neither start nor end clicks.
+/// Mixes the notes and ends with a fade into silence, so that neither start nor end clicks.
 std::vector<std::int16_t> synthesize(const std::vector<Note>& notes, double seconds);
 
 } // namespace lexigrove::tools

@@ -8,9 +8,9 @@ namespace
 
 constexpr std::uint32_t bytesPerSample = 2;
 constexpr std::uint32_t formatSize = 16;
-constexpr std::uint32_t headerSize = 36; // all between the RIFF size and the samples
+constexpr std::uint32_t headerSize = 36; // everything between the RIFF size and the samples
 
-/// Appends the `bytes` lowest bytes of a number, the lowest first.
+/// Appends the `bytes` lowest bytes of a number, lowest first.
 void append(std::string& file, std::uint32_t number, int bytes)
 {
     for (int byte = 0; byte < bytes; ++byte)

@@ -13,12 +13,12 @@ namespace lexigrove::tools
 namespace
 {
 
-constexpr int everydayClass = 20;    ///< up to here a word is common though a name be spelled so
-constexpr int contractionClass = 10; ///< up to here a word is common though a contraction be spelled so: "its", "were"
+constexpr int everydayClass = 20;    ///< up to here a word is common even if a name is spelled the same
+constexpr int contractionClass = 10; ///< the same for contractions: "its", "were"
 constexpr int level1Class = 35;      ///< a small dictionary
-constexpr int level2Class = 40; ///< beyond it names, brands and oaths begin to outnumber words that everybody knows
+constexpr int level2Class = 40; ///< beyond it, names, brands and oaths begin to outnumber words that everybody knows
 constexpr int surelyPlainClass = 60;
-constexpr int completeClass = 70; ///< a large dictionary: level 3 has it whole
+constexpr int completeClass = 70; ///< a large dictionary: level 3 has all of it
 constexpr double shared = -2.3;   ///< a tenth, as a logarithm: what is left of a count that belongs to something else
 
 constexpr double sharedWithNames = -1.1; ///< a third: what is left of the count of "lamb", "attic" or "ginger"
@@ -35,7 +35,7 @@ bool isWord(const std::string& word)
     return word.size() > 2 || word.find_first_of("aeiouy") != std::string::npos;
 }
 
-/// The words that SCOWL, the counts and good manners allow in the first two levels, the commonest first.
+/// The words that SCOWL, the counts and good manners allow in the first two levels, most common first.
 std::vector<Ranked> rankedWords(const Scowl& scowl, const WordCounts& counts, const OffensiveWords& offensive)
 {
     std::vector<Ranked> ranked;
@@ -57,16 +57,16 @@ std::vector<Ranked> rankedWords(const Scowl& scowl, const WordCounts& counts, co
     return ranked;
 }
 
-/// SCOWL's large classes list names and abbreviations in lower case too: "texas", "gif". Rare words that are spelled
-/// like one are taken for it.
+/// SCOWL's large classes list names and abbreviations in lower case too: "texas", "gif". A rare word that is spelled
+/// like one is taken for one.
 bool isPlainWord(const Scowl& scowl, const std::string& word, int size)
 {
     return isWord(word) &&
            (size <= surelyPlainClass || (!scowl.names.contains(word) && !scowl.abbreviations.contains(word)));
 }
 
-/// All words of the complete classes, and of the largest class those up to the length at which the level comes closest
-/// to its size.
+/// All words of the complete classes, and those of the largest class up to the length that brings the level closest to
+/// its size.
 std::vector<std::string> wordsOfLevel3(const Scowl& scowl)
 {
     std::vector<std::string> words;

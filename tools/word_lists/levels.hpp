@@ -12,15 +12,15 @@
 namespace lexigrove::tools
 {
 
-/// The words of the three levels, in upper case and in ascending order of their bytes; each level holds the one before
-/// it.
+/// The words of the three levels, in upper case and in ascending order of their bytes; each level contains the previous
+/// one.
 using Levels = std::array<std::vector<std::string>, 3>;
 
 constexpr std::array<std::size_t, 3> levelSizes{2'500, 20'000, 200'000};
 
-/// Levels 1 and 2 hold exactly their number of the commonest words, level 3 all words of a huge dictionary, of its
-/// rarest class only the shorter ones, so that their number comes close to the level's. Throws std::runtime_error where
-/// the lists are too small for a level, or a level is more than 5 % off its size.
+/// Levels 1 and 2 hold exactly their number of the most common words. Level 3 holds all words of a huge dictionary,
+/// except the longer ones of its rarest class, to come close to the level's size. Throws std::runtime_error if the
+/// lists are too small for a level, or a level is more than 5 % off its size.
 Levels makeLevels(const Scowl& scowl, const WordCounts& counts, const OffensiveWords& offensive);
 
 } // namespace lexigrove::tools

@@ -1,4 +1,4 @@
-// Makes the word lists of the three levels and the notices that their sources ask for.
+// Makes the word lists of the three levels and the notices that their sources require.
 
 #include "platform/text_file.hpp"
 #include "tools/word_lists/levels.hpp"
@@ -16,7 +16,7 @@ using namespace lexigrove;
 
 constexpr std::array<const char*, 3> levelFiles{"L1Ascii.txt", "L2Ascii.txt", "L3Ascii.txt"};
 
-/// The sources' own notices, whole, one behind the other.
+/// The sources' own notices, complete, one after another.
 void writeNotices(const std::string& path, const std::vector<std::string>& notices)
 {
     std::vector<std::string> lines{"The word lists L1Ascii.txt, L2Ascii.txt and L3Ascii.txt were made from the works "

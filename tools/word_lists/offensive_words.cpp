@@ -19,11 +19,12 @@ constexpr std::array<const char*, 3> offensiveUses{"ethnic_slur", "disparagement
 
 using Words = OffensiveWords::Words;
 
-/// One set of words of one meaning: a line of a data file.
+/// A meaning and the words that have it: a line of a data file.
 struct Meaning {
     std::string offset; ///< the meaning's name within its part of speech
     std::vector<std::string> words;
-    std::vector<std::pair<std::string, std::size_t>> uses; ///< the usage it belongs to, the word it is said of (0: all)
+    std::vector<std::pair<std::string, std::size_t>>
+        uses; ///< the usage it belongs to, and for which of the words (0: all)
 };
 
 /// Reads "offset file type count (word id)... count (pointer offset part source-target)... | gloss"; counts of words
@@ -64,7 +65,7 @@ bool isComment(const std::string& line)
     return line.starts_with("  ");
 }
 
-/// The offsets of the noun meanings that name an offensive way of using words.
+/// The offsets of the noun meanings that denote an offensive usage.
 Words offensiveUseOffsets(const std::string& folder)
 {
     Words offsets;
@@ -110,8 +111,8 @@ Words offensiveMeanings(const std::string& folder, const std::string& part, cons
     return found;
 }
 
-/// Goes through an index of words; a line of it: "word part meanings pointers (pointer)... meanings tagged offset...".
-/// `each` is called with the word and the offset of its first meaning, the most used one.
+/// Reads an index of words with lines like "word part meanings pointers (pointer)... meanings tagged offset...". Calls
+/// `each` with the word and the offset of its first meaning, the most common one.
 template <typename Each>
 void forEachWord(const std::string& folder, const std::string& part, const Each& each)
 {

@@ -29,7 +29,7 @@ private:
     Words verbs_;
 };
 
-/// Reads the data base of a folder such as Debian's /usr/share/wordnet. Throws std::runtime_error where it is missing.
+/// Reads the database in a folder such as Debian's /usr/share/wordnet. Throws std::runtime_error if it is missing.
 OffensiveWords readOffensiveWords(const std::string& folder);
 
 } // namespace lexigrove::tools

@@ -21,8 +21,8 @@ constexpr int largestNameClass = 50;
 /// Abbreviations beyond this class are so rare that a word of the same letters is the likelier one.
 constexpr int largestAbbreviationClass = 60;
 
-/// Contractions beyond this class ("an't", "we'd") take nothing from the words that are spelled like them, but for the
-/// shortest: "i'd" is common, whatever its class.
+/// Contractions beyond this class ("an't", "we'd") take nothing from the words that are spelled like them. The shortest
+/// do: "i'd" is common, whatever its class.
 constexpr int commonContractionClass = 35;
 constexpr std::size_t shortestContraction = 3;
 

@@ -17,8 +17,8 @@ namespace
 {
 
 // The model's file: the magic, the order n as one byte, n counts, the kind of quantisation, the quantisation tables,
-// one record for each word and a closing one, the tries of longer sequences, the length of the words' texts, the texts,
-// each with its closing zero. Numbers are 32 bits, little-endian.
+// one record for each word and a final one, the tries of longer sequences, the length of the words' texts, the texts,
+// each terminated by a zero. Numbers are 32 bits, little-endian.
 constexpr std::string_view magic = "Trie Language Model";
 constexpr std::uint32_t quantised16Bit = 1;
 constexpr std::size_t tableSize = (std::size_t{1} << 16U) * sizeof(float);
@@ -31,7 +31,7 @@ static_assert(std::endian::native == std::endian::little, "the model is read as 
     throw std::runtime_error("The word counts in " + path + " are not a language model of the expected kind.");
 }
 
-/// Reads numbers out of the file's bytes, and refuses to read behind their end.
+/// Reads numbers from the file's bytes, and refuses to read past their end.
 class Bytes
 {
 public:
@@ -52,7 +52,7 @@ private:
     const std::string& path_;
 };
 
-/// The offset of the first of the file's closing texts: the size in front of them must tell their length.
+/// The offset of the texts at the end of the file: the size before them must match their length.
 std::size_t startOfTexts(const std::string& file, const std::string& path, std::uint32_t words)
 {
     std::size_t start = file.size();

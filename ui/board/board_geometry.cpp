@@ -10,12 +10,12 @@ namespace
 {
 
 constexpr int sideRoom = layout::boardLeft;
-constexpr int boardGap = 120; ///< units that the board stands lower on the screen than in the model
+constexpr int boardGap = 120; ///< units by which the board is lower on the screen than in the model
 constexpr int unitsWide = 2 * sideRoom + Board::columns * layout::cellSize;
 constexpr int unitsHigh = layout::boardTop + boardGap + 8 * layout::cellSize + sideRoom;
 constexpr double tileGap = 0.03; ///< of a cell, on each side of a tile
 
-/// The drop row stands where the model has it, the board lower, and what is between on the way.
+/// The drop row stays where the model has it, the board is lower, and whatever is between them is in proportion.
 double lowered(int top)
 {
     const double share = static_cast<double>(top - layout::dropRowTop) / (layout::boardTop - layout::dropRowTop);

@@ -8,24 +8,24 @@
 namespace lexigrove
 {
 
-/// Where the board's units are shown, in logical pixels. Cells are a whole number of device pixels wide, so that all
-/// tiles are alike.
+/// Maps the board's units to logical pixels. Cells are a whole number of device pixels wide, so that all tiles look
+/// alike.
 ///
-/// The model leaves little room between the drop row and the board; on the screen the board stands a little lower, and
-/// what falls from the one to the other goes the way evenly.
+/// The model leaves little room between the drop row and the board. On the screen the board is a little lower, and
+/// letters fall from one to the other evenly.
 class BoardGeometry
 {
 public:
-    /// The largest board that fits into `room`. `ratio` is device pixels a logical pixel.
+    /// Fits the largest board into `room`. `ratio` is device pixels per logical pixel.
     void fit(QSizeF room, double ratio);
 
-    /// The room that the board takes, in logical pixels.
+    /// The size of the board in logical pixels.
     [[nodiscard]] QSizeF size() const;
 
     /// A cell's width and height in logical pixels.
     [[nodiscard]] double cell() const { return cell_; }
 
-    /// A place of the model as it is shown.
+    /// Where a rectangle of the model is shown.
     [[nodiscard]] QRectF place(int left, int top, int width, int height) const;
 
     /// A control's tile, a little smaller than its cell.
@@ -35,10 +35,10 @@ public:
         return tilePlace(control, control.Left(), control.Top());
     }
 
-    /// The strip under the drop row.
+    /// The strip behind the drop row.
     [[nodiscard]] QRectF strip() const;
 
-    /// The room that a board with cells of this size takes.
+    /// The size of a board with cells of this size.
     static QSizeF sizeFor(double cell);
 
 private:

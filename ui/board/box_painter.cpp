@@ -64,8 +64,8 @@ public:
     }
 
 private:
-    /// Where a line begins, from its middle and half its exact thickness. One that ends less than half a pixel of the
-    /// design before the edge ends at the edge, at every scale.
+    /// Where a line begins, from its middle and half its exact thickness. A line that ends less than half a design
+    /// pixel before the edge ends at the edge, at every scale.
     [[nodiscard]] double across(double middle, double half, double thickness, double low, double high) const
     {
         const double halfPixel = unitsPerPixel * scale_ / 2;
@@ -122,7 +122,7 @@ void BoxPainter::paintFace(QPainter& painter, const BoxControl& control, const Q
     painter.fillRect(shape.inner(), toQColor(face));
     for (const int number : {7, 6, 5, 1, 2, 3, 4}) {
         const FrameLine line = control.line(number);
-        if (line.visible && line.solid && number != 7) // the seventh has no place: it only keeps the face's colour
+        if (line.visible && line.solid && number != 7) // the seventh has no place: it only holds the face's colour
             painter.fillRect(shape.line(line), theme_.colour(line.colour));
     }
     if (const auto* picture = dynamic_cast<const BoxPicture*>(control.Picture().get())) {
@@ -144,7 +144,7 @@ void BoxPainter::paintCaption(QPainter& painter, const BoxControl& control, cons
     const QFont font = Theme::font(pixelSize > 0 ? pixelSize : ownSize, control.FontBold());
     const QString caption = toQString(control.Caption());
 
-    // The label's height is that of its capitals, so that they stand in the middle, not the room for accents above.
+    // The label's height is that of its capitals, so that they are centred, without the room for accents above.
     const QFontMetricsF metrics(font);
     const double width = metrics.horizontalAdvance(caption);
     const double height = metrics.capHeight();

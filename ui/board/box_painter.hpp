@@ -28,14 +28,14 @@ class BoxPainter
 public:
     explicit BoxPainter(const Theme& theme) : theme_(theme) {}
 
-    /// The face and the frame: all but the caption, the picture included. `lifted` is the control under the pointer.
+    /// The face, the frame and the picture: everything but the caption. `lifted` is for the control under the pointer.
     void paintFace(QPainter& painter, const BoxControl& control, const QRectF& place, bool lifted = false) const;
 
-    /// The caption in its place, bold or not as the control says. `pixelSize` is the letter's height in logical pixels;
-    /// 0 takes the control's own font size.
+    /// The caption in its place, bold if the control says so. `pixelSize` is the letter's height in logical pixels; 0
+    /// means the control's own font size.
     void paintCaption(QPainter& painter, const BoxControl& control, const QRectF& place, double pixelSize = 0) const;
 
-    /// The face as it is painted: a plain colour, lifted in tone or not.
+    /// The colour with which the face is painted, lifted or not.
     [[nodiscard]] Colour faceColour(const BoxControl& control, bool lifted) const;
 
 private:

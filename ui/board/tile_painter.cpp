@@ -16,7 +16,7 @@ namespace lexigrove
 namespace
 {
 
-// Shares of the tile's width.
+// As fractions of the tile's width.
 constexpr double letterShare = 0.52;
 constexpr double smallShare = 0.21; ///< value and mark
 constexpr double marginShare = 0.09;
@@ -48,7 +48,7 @@ void TilePainter::paintLetter(QPainter& painter, const BoxControl& tile, const Q
     }
 }
 
-/// A red tile is on its way down.
+/// An arrow down, where a red tile is heading.
 void TilePainter::paintRedMark(QPainter& painter, const QRectF& place) const
 {
     const double size = std::max(6.0, place.width() * smallShare);

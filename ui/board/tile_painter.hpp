@@ -11,7 +11,7 @@ namespace lexigrove
 {
 
 /// Paints letter tiles: the control with its letter, the letter's value, and a mark for its multiplier, so that nothing
-/// is told by colour alone. Face and letter are painted apart, so that links lie between them.
+/// is shown by colour alone. Face and letter are painted separately, with the links between them.
 class TilePainter
 {
 public:
@@ -24,11 +24,11 @@ public:
 
     void paintLetter(QPainter& painter, const BoxControl& tile, const QRectF& place) const;
 
-    /// The bar that joins two tiles that follow one another in a path. It reaches a little into both, and not as far as
-    /// their letters.
+    /// The bar that joins two successive tiles of a path. It reaches a little into both, but not as far as their
+    /// letters.
     void paintLink(QPainter& painter, const QRectF& from, const QRectF& to) const;
 
-    /// The dot that tells the first tile of a path.
+    /// The dot that marks the first tile of a path.
     void paintStart(QPainter& painter, const QRectF& place) const;
 
     /// The frame around the tile whose letter is to be swapped.

@@ -31,7 +31,7 @@ protected:
     }
 };
 
-/// A label that tells of a click on it.
+/// A label that reports clicks on it.
 class ClickedLabel : public QLabel
 {
 public:

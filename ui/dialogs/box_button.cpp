@@ -40,7 +40,7 @@ BoxButton::BoxButton(BoxControl& control, const Theme& theme, QWidget* parent)
     : QAbstractButton(parent), control_(control), theme_(theme)
 {
     setCursor(Qt::ArrowCursor);
-    setFocusPolicy(Qt::TabFocus); // a click leaves the keyboard where it was
+    setFocusPolicy(Qt::TabFocus); // a click does not move the focus
     setAttribute(Qt::WA_Hover);
     connect(&theme, &Theme::changed, this, [this] { update(); });
     connect(this, &QAbstractButton::clicked, this, [this] { control_.clicked(); });

@@ -8,17 +8,17 @@
 namespace lexigrove
 {
 
-/// A `BoxControl` of a dialog as a button. Its caption, tool tip, colours and state are the model's; the model hears of
-/// presses, releases, keys and the focus. `clicked()` is the release of the mouse button over it, or the space bar.
+/// A `BoxControl` of a dialog as a button. Its caption, tool tip, colours and state are the model's; presses, releases,
+/// keys and the focus go to the model. `clicked()` means a mouse button released over it, or the space bar.
 class BoxButton : public QAbstractButton
 {
     Q_OBJECT
 
 public:
-    /// `control` and `theme` outlive the button. The control takes the size of the button.
+    /// `control` and `theme` outlive the button. The control gets the size of the button.
     BoxButton(BoxControl& control, const Theme& theme, QWidget* parent = nullptr);
 
-    /// Shows what the model says now.
+    /// Shows what the model now says.
     void synchronise();
 
     [[nodiscard]] QSize sizeHint() const override;

@@ -19,7 +19,7 @@ namespace
 constexpr double zoom = 1.5;
 constexpr double unit = zoom / unitsPerPixel; ///< logical pixels
 constexpr int unitsPerPoint = 20;
-constexpr int substituteStretch = 87; ///< per cent: other sans-serif fonts run wider than the one the places are for
+constexpr int substituteStretch = 87; ///< per cent: other sans-serif fonts run wider than the intended one
 
 QFont chartFontOf(const std::string& name, int pointSize)
 {
@@ -31,7 +31,6 @@ QFont chartFontOf(const std::string& name, int pointSize)
     return font;
 }
 
-/// Paints the chart's items, each as it is given.
 class ChartPainter
 {
 public:

@@ -7,8 +7,8 @@
 namespace lexigrove
 {
 
-/// `Picture1`: paints the chart of the statistics at its own size, which is half as large again as the picture's units
-/// make it at the design resolution, so that its small print can be read.
+/// `Picture1`: paints the chart of the statistics half as large again as at the design resolution, so that its small
+/// print is readable.
 class ChartView : public QWidget
 {
     Q_OBJECT

@@ -10,11 +10,17 @@ class DictionaryMaintenance;
 class HintsForm;
 class Host;
 class OptionsForm;
+class PastGamesForm;
+class ReviewForm;
 class ScoreForm;
 class StatisticsForm;
+struct ContinueForm;
 struct MeaningForm;
 
-// The modal windows over their forms. Each returns when its form was hidden or its window closed.
+// The modal windows for the forms. Each call returns when its form has been hidden or its window closed.
+
+/// The question of a start, with a picture of the game that was kept. Closing it is No.
+void runContinueDialog(Host& host, ContinueForm& form);
 
 /// The options dialog `Form7`. Closing it is "Exit"; Esc does nothing, so that a slip never ends the program.
 void runOptionsDialog(Host& host, OptionsForm& form);
@@ -22,15 +28,21 @@ void runOptionsDialog(Host& host, OptionsForm& form);
 /// The top-ten window `ScoreForm`. Closing it, by its frame or with Esc, is "Close".
 void runScoreDialog(Host& host, ScoreForm& form);
 
-/// The hints window `Form2`. It opens to the right of the board, which stays in sight, for the row picked is shown
+/// The hints window `Form2`. It opens to the right of the board, which stays visible, because the row picked is shown
 /// there at once. Enter and a double click on a row select it; Esc is "Close".
 void runHintsDialog(Host& host, HintsForm& form);
 
-/// The meaning window `Form3`: the browser view `WbDictionary` fills it. Esc closes it, and the page ends with it.
+/// The meaning window `Form3`: the browser view `WbDictionary` fills it. Esc closes it together with its page.
 void runMeaningDialog(Host& host, BrowserLoader& loader, const MeaningForm& form);
 
 /// The statistics window `Form4`, with its chart in `Picture1`.
 void runStatisticsDialog(Host& host, const StatisticsForm& form);
+
+/// The games that are over: list, chart, bests and calendar.
+void runPastGamesDialog(Host& host, PastGamesForm& form);
+
+/// One game that is over, turn by turn.
+void runReviewDialog(Host& host, ReviewForm& form);
 
 /// The window "Dictionary Maintenance". Closing it, by its frame or with Esc, is "Exit".
 void runMaintenanceDialog(Host& host, DictionaryMaintenance& form);

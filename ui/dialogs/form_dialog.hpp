@@ -14,8 +14,8 @@ class QVBoxLayout;
 namespace lexigrove
 {
 
-/// A modal window over a form model. The model is the truth: an input goes to it through `input`, and the window then
-/// shows what the model says. It blocks the windows that it stands over and leaves the help window free.
+/// A modal window for a form model. The model holds the truth: inputs go to it through `input`, and the window then
+/// shows what the model says. It blocks the windows below it, but not the help window.
 class FormDialog : public QDialog
 {
 protected:
@@ -28,7 +28,7 @@ protected:
         showForm();
     }
 
-    /// Puts into the widgets what the form says; closes the window when the form is hidden.
+    /// Updates the widgets from the form; closes the window if the form is hidden.
     virtual void showForm() = 0;
 
     /// The player closes the window with its frame or with Esc.
@@ -36,7 +36,7 @@ protected:
 
     void reject() override { closePressed(); }
 
-    /// A column with the margins and gaps that all windows share, the window's own layout.
+    /// The window's layout: a column with the margins and gaps that all windows share.
     QVBoxLayout* newColumn();
 
     Host& host;
@@ -45,7 +45,7 @@ protected:
 /// A push button with its object name.
 QPushButton* newButton(const char* objectName, std::string_view caption, std::string_view toolTip = {});
 
-/// A row of buttons at the foot of a window: the first one takes the most room, as the one that the window is for.
+/// A row of buttons at the foot of a window: the first one, the main action, takes the most room.
 QHBoxLayout* newButtonRow(std::initializer_list<QWidget*> buttons);
 
 } // namespace lexigrove

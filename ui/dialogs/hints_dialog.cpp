@@ -21,7 +21,7 @@ public:
     HintsDialog(Host& gameHost, HintsForm& form)
         : FormDialog(gameHost, "Form2", form.Caption),
           form_(form),
-          WordsMade_(new WordsView(form.WordsMade, gameHost.theme)),
+          WordsMade_(new WordsView(form.WordsMade, gameHost.theme, this, &WindowColours::computerText)),
           Select_(newBox(form.BoxControl2, "BoxControl2")),
           Close_(newBox(form.BoxControl1, "BoxControl1")),
           Meaning_(newBox(form.Meaning, "Meaning"))
@@ -69,7 +69,7 @@ protected:
     }
 
 private:
-    /// An input of which the board behind shows something.
+    /// An input that changes what the board behind shows.
     template <std::invocable Action>
     void play(Action action)
     {

@@ -26,7 +26,7 @@ namespace
 
 using maintenance_text::ControlText;
 
-/// Rows with some air, all of one height.
+/// Rows with some padding, all of the same height.
 class WordDelegate : public QStyledItemDelegate
 {
 public:
@@ -88,7 +88,7 @@ protected:
         const std::array<const DictionaryMaintenance::Option*, 3> options{&form_.Option1, &form_.Option2,
                                                                           &form_.Option3};
         for (std::size_t i = 0; i < options.size(); ++i) {
-            options_[i]->setAutoExclusive(false); // the form says which is on, also that none is
+            options_[i]->setAutoExclusive(false); // the form says which one is on, if any
             options_[i]->setChecked(options[i]->Value);
             options_[i]->setAutoExclusive(true);
             options_[i]->setEnabled(options[i]->Enabled);
@@ -105,7 +105,7 @@ private:
     QPushButton* newButton(const ControlText& text, void (DictionaryMaintenance::*operation)())
     {
         QPushButton* const button = lexigrove::newButton(text.name.data(), text.caption, text.toolTip);
-        button->setAutoDefault(false); // Enter in the search box rewrites no dictionary
+        button->setAutoDefault(false); // Enter in the search box must not rewrite a dictionary
         connect(button, &QPushButton::clicked, this, [this, operation] { input(std::bind_front(operation, &form_)); });
         return button;
     }
@@ -139,7 +139,7 @@ private:
         List1_->setItemDelegate(new WordDelegate(List1_));
         List1_->setEditTriggers(QAbstractItemView::NoEditTriggers);
         connect(List1_, &QListView::clicked, this, [this](const QModelIndex& index) { pick(index); });
-        // The arrow keys select; the focus alone makes a row current, and must leave the word being edited alone.
+        // The arrow keys select. The focus alone also makes a row current, but must not change the word being edited.
         connect(List1_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
                 [this](const QItemSelection& selected) {
                     if (!selected.isEmpty())
@@ -187,8 +187,7 @@ private:
         return frame;
     }
 
-    /// A row of the list is clicked, or reached with the arrow keys. The list stays as it is, so it is not filled
-    /// again.
+    /// A row of the list is clicked, or reached with the arrow keys. The list does not change, so it is not refilled.
     void pick(const QModelIndex& index)
     {
         form_.clickRow(index.row());

@@ -27,8 +27,8 @@ namespace lexigrove
 namespace
 {
 
-/// A radio button or check box that tells what was done to it and leaves to the form what that means: `selected` by any
-/// means, and a mouse button, whichever, `released` over it.
+/// A radio button or check box that reports what was done to it and leaves the meaning to the form: it was `selected`
+/// by any means, or any mouse button was `released` over it.
 template <typename Button>
 class ChoiceButton : public Button
 {
@@ -41,7 +41,7 @@ public:
     void showValue(bool value)
     {
         const bool exclusive = this->autoExclusive();
-        this->setAutoExclusive(false); // else the one that is on could not be put off
+        this->setAutoExclusive(false); // otherwise the selected one could not be cleared
         this->setChecked(value);
         this->setAutoExclusive(exclusive);
     }
@@ -58,7 +58,7 @@ protected:
     }
 };
 
-/// The combo box of the schemes: it tells when its list is closed, and paints its arrow in the colours of the windows.
+/// The combo box of the schemes: it reports when its list is closed, and paints its arrow in the window colours.
 class SchemeBox : public QComboBox
 {
 public:
@@ -90,7 +90,7 @@ private:
     const Theme& theme_;
 };
 
-/// The schemes of the list are looked at in passing: what cannot be read is told when it is chosen.
+/// The listed schemes are only previewed: one that cannot be read is reported when it is chosen.
 class NoDialogs : public Dialogs
 {
 public:
@@ -165,7 +165,7 @@ protected:
 private:
     static void showText(QLineEdit& edit, const TextBox& box)
     {
-        if (edit.text() != pathToQString(box.Text)) // the cursor stays while the player types
+        if (edit.text() != pathToQString(box.Text)) // the cursor stays put while the player types
             edit.setText(pathToQString(box.Text));
         edit.setToolTip(pathToQString(box.ToolTipText));
         edit.setEnabled(box.Enabled);
@@ -176,7 +176,7 @@ private:
     {
         auto* const button = new ChoiceButton<Button>(toQString(choice.Caption));
         button->setObjectName(toQString(choice.name));
-        // A check box changes with every click, an option only comes on; its form puts the others off.
+        // A check box toggles with every click, an option button only turns on; the form clears the others.
         button->selected = [this, &choice] {
             input([&] { form_.setValue(choice, std::is_same_v<Button, QRadioButton> || !choice.Value); });
         };
@@ -207,7 +207,7 @@ private:
         return box;
     }
 
-    /// The name of the player's own dictionary stands beside its choice, the last one.
+    /// The name of the player's own dictionary is beside its choice, the last one.
     QGroupBox* newDictionaryFrame()
     {
         QGroupBox* const box = newFrame(form_.DictionaryFrame);
@@ -230,7 +230,7 @@ private:
         return box;
     }
 
-    /// A column of frames; what height is left over goes to the last one.
+    /// A column of frames; the last one gets the remaining height.
     static QVBoxLayout* newFrames(std::initializer_list<QGroupBox*> frames)
     {
         auto* const column = new QVBoxLayout;
@@ -279,7 +279,11 @@ private:
         connect(Startx, &QPushButton::clicked, this, [this] { input([this] { form_.pressStart(); }); });
         connect(PSBoard, &QPushButton::clicked, this, [this] { input([this] { form_.presetBoard(); }); });
         connect(Exitx, &QPushButton::clicked, this, [this] { closePressed(); });
-        return newButtonRow({Startx, PSBoard, Exitx});
+        if (!form_.offersLookBack())
+            return newButtonRow({Startx, PSBoard, Exitx});
+        auto* const LookBack = newButton("LookBack", "Look back", "Turn by turn through the game that is over");
+        connect(LookBack, &QPushButton::clicked, this, [this] { input([this] { form_.pressLookBack(); }); });
+        return newButtonRow({Startx, LookBack, PSBoard, Exitx});
     }
 
     OptionsForm& form_;

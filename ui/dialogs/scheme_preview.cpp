@@ -90,7 +90,7 @@ QIcon SchemePreview::icon(const ColourScheme& scheme, double devicePixelRatio)
         left += side + 2;
     }
     QIcon icon(pixmap);
-    icon.addPixmap(pixmap, QIcon::Selected); // a chosen row leaves the colours as they are
+    icon.addPixmap(pixmap, QIcon::Selected); // a selected row does not change the colours
     return icon;
 }
 

@@ -12,7 +12,7 @@
 namespace lexigrove
 {
 
-/// A few tiles in the colours of a scheme, where it is chosen.
+/// A few tiles in the colours of a scheme, shown where it is chosen.
 class SchemePreview : public QWidget
 {
     Q_OBJECT
@@ -24,7 +24,7 @@ public:
 
     void show(const ColourScheme& scheme);
 
-    /// A scheme's ground with its tiles' colours, for a list.
+    /// A scheme's background with its tiles' colours, for a list.
     static QIcon icon(const ColourScheme& scheme, double devicePixelRatio);
 
     [[nodiscard]] QSize sizeHint() const override;

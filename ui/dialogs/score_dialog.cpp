@@ -21,7 +21,7 @@ namespace lexigrove
 namespace
 {
 
-/// A fixed-width font: this one, or the desktop's where it is not installed.
+/// A fixed-width font: this one, or the desktop's if it is not installed.
 QFont listFont()
 {
     QFont font("Courier New");
@@ -88,7 +88,7 @@ public:
     }
 
 protected:
-    /// The form asks for the name while the list is in sight.
+    /// The form asks for the name while the list is visible.
     void showEvent(QShowEvent* event) override
     {
         FormDialog::showEvent(event);

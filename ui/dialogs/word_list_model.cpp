@@ -5,7 +5,7 @@
 namespace lexigrove
 {
 
-WordListModel::WordListModel(const WordView& words, QObject* parent) : QAbstractListModel(parent), words_(words) {}
+WordListModel::WordListModel(const FilteredWords& words, QObject* parent) : QAbstractListModel(parent), words_(words) {}
 
 void WordListModel::refresh()
 {
@@ -21,7 +21,7 @@ int WordListModel::rowCount(const QModelIndex& parent) const
 
 QVariant WordListModel::data(const QModelIndex& index, int role) const
 {
-    // In the middle of an operation the words can be fewer than the rows that the list still shows.
+    // In the middle of an operation there can be fewer words than rows still shown.
     if (role != Qt::DisplayRole || !index.isValid() || index.row() >= words_.rowCount())
         return {};
     return toQString(words_.row(index.row()));

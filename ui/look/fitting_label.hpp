@@ -6,18 +6,18 @@
 namespace lexigrove
 {
 
-/// A label whose text is as large as its room allows, up to a size of its own.
+/// A label whose text is as large as fits, up to a maximum.
 class FittingLabel : public QLabel
 {
     Q_OBJECT
 
 public:
-    /// `largest` in pixels; `letterSpacing` in parts of the text's size.
+    /// `largest` is in pixels, `letterSpacing` a fraction of the text's size.
     FittingLabel(double largest, double letterSpacing, QWidget* parent);
 
     void setColour(const QColor& colour);
 
-    /// What is shown, smaller and quieter, while there is no text.
+    /// The text shown, smaller and less prominent, while there is none.
     void setPlaceholder(const QString& text, const QColor& colour);
 
     void setLargest(double largest);

@@ -8,7 +8,7 @@ class QPainter;
 namespace lexigrove
 {
 
-/// The game's sign, a hexagonal tile with an L and a leaf, as data/lexigrove.svg draws it for the desktop.
+/// The game's sign, a hexagonal tile with an L and a leaf, drawn by data/lexigrove.svg.
 void paintGameIcon(QPainter& painter, const QRectF& place);
 
 QIcon gameIcon();

@@ -8,25 +8,25 @@
 namespace lexigrove
 {
 
-/// The game's text is Windows-1252, the toolkit's is Unicode. A byte without a character there becomes the control
-/// character of the same number, so that every text comes back as it was.
+/// The game's text is Windows-1252, the toolkit's is Unicode. A byte without a character becomes the control character
+/// of the same number, so that every text survives the round trip.
 QString toQString(std::string_view text);
 
-/// What Windows-1252 does not hold becomes "?".
+/// Characters outside Windows-1252 become "?".
 std::string fromQString(const QString& text);
 
-/// A file's path, which goes both ways unchanged, in the bytes of the file system.
+/// A file's path in the bytes of the file system, unchanged by the round trip.
 QString pathToQString(const std::string& path);
 std::string pathFromQString(const QString& path);
 
-/// A text that may hold a file's path: read as UTF-8, the form of paths, where it is that, else as the game's text. Two
-/// or more accents in a row that happen to be UTF-8 would read wrong; no message has any.
+/// A text that may contain a file's path: read as UTF-8, like paths, if it is valid, else as the game's text. Two or
+/// more accented letters in a row that happen to be valid UTF-8 would be misread; no message has any.
 QString messageToQString(std::string_view text);
 
-/// The text with its CR LF line breaks as the toolkit breaks lines.
+/// The text with CR LF turned into the toolkit's line breaks.
 QString linesOf(std::string_view text);
 
-/// The text on one line: its line breaks become a dash between blanks.
+/// The text on one line, with a dash between blanks for each line break.
 QString onOneLine(std::string_view text);
 
 } // namespace lexigrove

@@ -24,7 +24,7 @@ Colour fromQColor(const QColor& colour)
                static_cast<unsigned>(colour.blue()));
 }
 
-/// The toolkit's palette under the numbers of the system colours.
+/// The toolkit's palette, by system colour number.
 SystemPalette desktopPalette()
 {
     const QPalette palette = QApplication::palette();
@@ -56,7 +56,7 @@ SystemPalette desktopPalette()
     return desktop;
 }
 
-/// The system colours as they stand in this family of windows.
+/// The system colours as these windows show them.
 SystemPalette familyPalette(const WindowColours& colours)
 {
     SystemPalette family;
@@ -136,6 +136,9 @@ QLineEdit, QListView, QListWidget, QPlainTextEdit { background: @card; color: @c
     border-radius: 4px; padding: 3px; selection-background-color: @accent; selection-color: @accentText; }
 QLineEdit:focus, QListView:focus, QListWidget:focus { border-color: @accent; }
 QLineEdit:disabled { color: @disabled; background: @ground; }
+QTableView { background: @card; border: 1px solid @line; border-radius: 6px; padding: 4px 0; }
+QTableView QHeaderView { background: @card; border: none; }
+QTableView QHeaderView::section { background: @card; border: none; border-bottom: 1px solid @line; padding: 0 7px; }
 QGroupBox { border: 1px solid @line; border-radius: 6px; margin-top: 20px; padding: 4px 6px; }
 QGroupBox::title { subcontrol-origin: margin; subcontrol-position: top left; padding: 0 1px 4px 1px; color: @quietText; }
 QGroupBox::title:disabled { color: @disabled; }
@@ -169,7 +172,7 @@ QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }
 QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
 )");
     const std::array<std::pair<const char*, Colour>, 19> colourNames{{
-        {"@buttonText", colours.buttonText}, // a name stands before those that it begins with
+        {"@buttonText", colours.buttonText}, // a name must come before its own prefixes
         {"@buttonHover", colours.buttonHover},
         {"@buttonPressed", mixed(colours.button, colours.buttonText, 0.15)},
         {"@button", colours.button},
@@ -208,9 +211,9 @@ Theme::Theme() : desktop_(desktopPalette())
 
 void Theme::follow(const ColourScheme& scheme)
 {
-    if (applied_ && scheme.entries() == shown_)
+    if (scheme_ == &scheme && scheme.entries() == shown_)
         return;
-    applied_ = true;
+    scheme_ = &scheme;
     shown_ = scheme.entries();
     colours_ = deriveWindowColours(scheme);
     family_ = familyPalette(colours_);

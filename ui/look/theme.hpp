@@ -13,12 +13,12 @@ class QPainter;
 namespace lexigrove
 {
 
-/// The looks that all windows share: colours derived from the current scheme, fonts, measures. It colours the whole
-/// application (palette and style sheet), so a window of ordinary widgets needs nothing else; a widget that paints
+/// The look that all windows share: colours derived from the current scheme, fonts, measures. It colours the whole
+/// application (palette and style sheet), so a window of ordinary widgets needs nothing else. A widget that paints
 /// itself takes its colours from here and repaints on `changed`.
 ///
-/// What the style sheet knows by a dynamic property, set before the widget is shown: "primary" (true) on the one button
-/// that a window is for, "card" (true) on a QFrame that is a card, "quiet" (true) on a QLabel that stands back.
+/// The style sheet knows some dynamic properties, set before a widget is shown: "primary" (true) on a window's main
+/// button, "card" (true) on a QFrame that is a card, "quiet" (true) on a QLabel that is less prominent.
 class Theme : public QObject
 {
     Q_OBJECT
@@ -33,16 +33,19 @@ public:
     static constexpr int smallestText = 11;  ///< no text is smaller
     static constexpr int quietTextSize = 12; ///< captions of cards, the status line
 
-    /// Reads the desktop's palette. Colours come with the first scheme.
+    /// Reads the desktop's palette. The colours come with the first scheme.
     Theme();
 
     /// The desktop's colours, for a scheme that names system colours.
     [[nodiscard]] const SystemPalette& desktop() const { return desktop_; }
 
-    /// Colours the application after the scheme; nothing happens while its table stays the same.
+    /// Colours the application by the scheme; does nothing if its table has not changed.
     void follow(const ColourScheme& scheme);
 
     [[nodiscard]] const WindowColours& colours() const { return colours_; }
+
+    /// The scheme that was followed last, which outlives the theme's use.
+    [[nodiscard]] const ColourScheme& scheme() const { return *scheme_; }
 
     /// A plain colour, or a system colour as it stands in this family of windows (a window's background is the card).
     [[nodiscard]] QColor colour(Colour colour) const;
@@ -50,7 +53,7 @@ public:
     /// The desktop's own font at a size in pixels, never below the smallest.
     [[nodiscard]] static QFont font(double pixelSize, bool bold = false);
 
-    /// A card: a rounded face in a thin line.
+    /// Paints a card: a rounded face in a thin outline.
     static void paintCard(QPainter& painter, const QRectF& place, Colour face, Colour line, double lineWidth = 1);
 
 signals:
@@ -58,13 +61,13 @@ signals:
 
 private:
     SystemPalette desktop_;
-    bool applied_ = false;
+    const ColourScheme* scheme_ = nullptr;
     ColourTable shown_{};
     WindowColours colours_{};
-    SystemPalette family_; ///< system colours as they stand in these windows
+    SystemPalette family_; ///< system colours as these windows show them
 };
 
-/// The colour as Qt knows it; `colour` is a plain one.
+/// Converts a plain colour.
 QColor toQColor(Colour colour);
 
 } // namespace lexigrove

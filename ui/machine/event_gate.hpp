@@ -12,36 +12,36 @@ class QEventLoop;
 namespace lexigrove
 {
 
-/// The one place that knows whether the player has closed the main window while an input of the game runs, and that
-/// carries this through the toolkit's event loops, which no exception may cross.
+/// Knows whether the player has closed the main window while an input of the game runs, and carries that through the
+/// toolkit's event loops, which no exception may cross.
 ///
-/// A port or a window that waits for the player waits through `exec`. A slot of a dialog that calls a model does so
-/// through `run`: what is thrown there is kept, every open dialog is closed, and the `exec` that waits below throws it
-/// again.
+/// Ports and windows wait for the player through `exec`. Slots of dialogs call models through `run`: an exception
+/// thrown there is kept, every open dialog is closed, and the waiting `exec` rethrows it.
 class EventGate : public QObject
 {
     Q_OBJECT
 
 public:
-    /// The player leaves: closes every open dialog and ends every wait, so that the innermost returns first.
+    /// The player is leaving: closes every open dialog and ends every wait, so that the innermost returns first.
     void requestLeaving();
 
     [[nodiscard]] bool isLeavingRequested() const { return leaving_; }
 
-    /// Throws what a slot threw, or `Leaving` if it was requested; either is then no longer pending.
+    /// Rethrows what a slot threw, else throws `Leaving` if it was requested. What is thrown is no longer pending.
     void checkpoint();
 
-    /// For an input that has ended without a checkpoint: whether leaving was requested; it is then no longer pending.
+    /// For an input that has ended without a checkpoint: whether leaving was requested. The request is then no longer
+    /// pending.
     [[nodiscard]] bool takeRequest();
 
-    /// Runs the dialog modally, then checks. Returns QDialog::Accepted, QDialog::Rejected or what `done` was given.
-    /// Does not show the dialog when leaving was requested before.
+    /// Runs the dialog modally, then checks. Returns QDialog::Accepted, QDialog::Rejected or the value passed to
+    /// `done`. Does not show the dialog if leaving was already requested.
     int exec(QDialog& dialog);
 
-    /// Runs an event loop until it is quit, then checks.
+    /// Runs an event loop until it quits, then checks.
     void exec(QEventLoop& loop);
 
-    /// What a slot of a dialog does with a model that may ask a question or yield.
+    /// Runs a dialog slot's action on a model that may ask a question or yield.
     template <std::invocable Action>
     void run(Action action)
     {

@@ -14,18 +14,18 @@ class ModelsView
 public:
     virtual ~ModelsView() = default;
 
-    /// Shows what the models say now, where it differs from what is shown; the colours of the application included.
+    /// Shows whatever has changed in the models, including the application's colours.
     virtual void showModels() = 0;
 
     /// An input or a tick of the game has ended.
     virtual void inputEnded() = 0;
 
-    /// The widget over which dialogs stand.
+    /// The widget that dialogs open over.
     virtual QWidget* widget() = 0;
 };
 
-/// What every window of the game has at hand. The ports and windows are made before the game, and the main window after
-/// it, so the main window enters itself here.
+/// What every window of the game can use. The ports and windows are created before the game, and the main window after
+/// it, so the main window registers itself here.
 class Host
 {
 public:
@@ -34,14 +34,14 @@ public:
 
     void setView(ModelsView* view) { view_ = view; }
 
-    /// The parent for a dialog that is about to be shown: the dialog that is open on top, else the main window (a
-    /// question of the start brings it up), null before it exists.
+    /// The parent for a dialog that is about to be shown: the topmost open dialog, else the main window (a question
+    /// during start-up shows it), or null before that exists.
     [[nodiscard]] QWidget* dialogParent() const;
 
     /// The main window, null before it exists.
     [[nodiscard]] QWidget* mainWindow() const { return view_ != nullptr ? view_->widget() : nullptr; }
 
-    /// To be called when a dialog has changed a model that the main window shows (a hint's path, the colours).
+    /// Called when a dialog has changed a model that the main window shows (a hint's path, the colours).
     void showModels() const
     {
         if (view_ != nullptr)

@@ -7,7 +7,7 @@
 namespace lexigrove
 {
 
-/// The button as the models know it; any further one counts as the middle one.
+/// The button as the models know it; any other one counts as the middle button.
 inline MouseButton mouseButton(Qt::MouseButton button)
 {
     if (button == Qt::LeftButton)

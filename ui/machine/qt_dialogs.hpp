@@ -6,7 +6,7 @@
 namespace lexigrove
 {
 
-/// The questions as dialogs over the window that is on top.
+/// The questions as dialogs over the topmost window.
 class QtDialogs : public Dialogs
 {
 public:

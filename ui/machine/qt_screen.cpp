@@ -1,6 +1,7 @@
 #include "ui/machine/qt_screen.hpp"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QEventLoop>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -16,7 +17,7 @@ namespace
 
 using namespace std::chrono_literals;
 
-/// The eye sees no more than about this many pictures a second.
+/// The eye does not notice pictures that last less than about this.
 constexpr auto pictureLength = 8ms;
 
 } // namespace
@@ -29,8 +30,8 @@ QtScreen::QtScreen(Host& host) : host_(host)
 void QtScreen::showAndRunEvents()
 {
     host_.showModels();
-    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents); // a click keeps until the rules are done
-    shown_ = SteadyClock::now(); // taken after the painting: however slow that is, the rules get their share
+    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents); // clicks wait until the rules are done
+    shown_ = SteadyClock::now(); // taken after painting: however slow that is, the rules get their share
     host_.gate.checkpoint();
 }
 
@@ -46,13 +47,13 @@ void QtScreen::yield()
 void QtScreen::animationStep(int rounds)
 {
     host_.gate.checkpoint();
-    showAndRunEvents(); // every step is seen, also with a delay of 0, which only does not wait
+    showAndRunEvents(); // every step is shown, even with a delay of 0, which only skips the wait
     if (rounds <= 0)
         return;
     const auto now = SteadyClock::now();
     stepEnd_ = std::max(stepEnd_, now) + rounds * roundLength;
     const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(stepEnd_ - now);
-    if (left < 1ms) // a timer cannot wait for less: short steps are waited for together
+    if (left < 1ms) // a timer cannot wait for less, so short waits add up first
         return;
     QEventLoop loop;
     QTimer::singleShot(left, Qt::PreciseTimer, &loop, &QEventLoop::quit);
@@ -84,12 +85,22 @@ void QtScreen::waitForAnyInput()
     host_.gate.exec(loop);
 }
 
+void QtScreen::copyText(const std::string& text)
+{
+    QGuiApplication::clipboard()->setText(QString::fromStdString(text));
+}
+
+std::string QtScreen::copiedText() const
+{
+    return QGuiApplication::clipboard()->text().toStdString();
+}
+
 bool QtScreen::eventFilter(QObject* receiver, QEvent* event)
 {
     return useUp(event) || QObject::eventFilter(receiver, event);
 }
 
-/// True when nobody else gets to see the event.
+/// Returns true if nobody else may see the event.
 bool QtScreen::useUp(QEvent* event)
 {
     switch (event->type()) {

@@ -14,7 +14,7 @@ namespace lexigrove
 
 /// The screen as the rules see it: at every yield the main window shows the models, and the toolkit's events run.
 ///
-/// A yield costs nothing when the last one was a moment ago: a redraw of every tile yields some hundreds of times.
+/// A yield costs nothing if the last one was a moment ago: redrawing every tile yields hundreds of times.
 class QtScreen : public QObject, public Screen
 {
     Q_OBJECT
@@ -24,16 +24,18 @@ public:
 
     void yield() override;
 
-    /// A step lasts `roundLength` for every round, waited for in the event loop.
+    /// A step lasts `rounds` times `roundLength`, spent in the event loop.
     void animationStep(int rounds) override;
 
     void setBusyPointer(bool busy) override;
 
-    /// While it is locked yields do nothing, so that nothing is painted and nobody leaves half-way.
+    /// While locked, yields do nothing, so that nothing is painted and the player cannot leave half-way.
     void lockBoardUpdates(bool locked) override { locked_ = locked; }
 
     void waitForAnyInput() override;
 
+    void copyText(const std::string& text) override;
+    [[nodiscard]] std::string copiedText() const override;
     void inputEnded() override { host_.inputEnded(); }
 
     /// 250 rounds, the delay that the game starts with, make a step of ten milliseconds.
@@ -53,7 +55,7 @@ private:
     SteadyClock::time_point shown_;   ///< when the models were shown last
     SteadyClock::time_point stepEnd_; ///< when the current step of an animation is over
 
-    // The input that ends a wait is used up with its release.
+    // The input that ends a wait is consumed together with its release.
     QEventLoop* waiting_ = nullptr;
     int usedKey_ = 0;
     Qt::MouseButton usedButton_ = Qt::NoButton;

@@ -24,10 +24,10 @@ constexpr int longestSound = 2200; ///< milliseconds that the program's end wait
 constexpr int lookAgainAfter = 25; ///< milliseconds
 constexpr int threadEndsWithin = 3500;
 
-/// The toolkit complains aloud where a machine has no sound. In the sound's thread it does so in silence.
+/// The toolkit prints complaints if a machine has no sound. Those of the sound thread are suppressed.
 QtMessageHandler& otherThreadsHandler()
 {
-    static QtMessageHandler handler = nullptr; // the toolkit takes a plain function, which cannot keep it
+    static QtMessageHandler handler = nullptr; // the toolkit takes a plain function, which has no state
     return handler;
 }
 
@@ -53,7 +53,7 @@ std::unique_ptr<SoundPlayer> loadPlayer()
 
 } // namespace
 
-/// What lives in the sound's thread.
+/// Lives in the sound thread.
 class SoundWorker : public QObject
 {
 public:
@@ -96,7 +96,7 @@ QtSoundDevice::~QtSoundDevice()
         return;
     QMetaObject::invokeMethod(worker_.get(),
                               [worker = worker_.get()] { worker->finish(QDeadlineTimer(longestSound)); });
-    if (!thread_.wait(threadEndsWithin)) { // the machine's sound hangs: the program ends all the same
+    if (!thread_.wait(threadEndsWithin)) { // the machine's sound hangs: the program ends anyway
         thread_.terminate();
         thread_.wait();
     }

@@ -12,15 +12,14 @@ namespace lexigrove
 
 class SoundWorker;
 
-/// Plays wave files. The player is a module that is loaded with the first sound, in a thread of its own, so that
-/// neither the start nor the game ever waits for the machine's sound. Without the module, a device or the file there is
-/// silence.
+/// Plays wave files. The player is a module, loaded with the first sound in its own thread, so that neither the start
+/// nor the game ever waits for the machine's sound. Without the module, a device or the file, nothing is heard.
 class QtSoundDevice : public SoundDevice
 {
 public:
     QtSoundDevice();
 
-    /// Lets a sound that is being played end, for some two seconds at most.
+    /// Lets a sound that is playing finish, for about two seconds at most.
     ~QtSoundDevice() override;
     QtSoundDevice(const QtSoundDevice&) = delete;
     QtSoundDevice& operator=(const QtSoundDevice&) = delete;

@@ -8,20 +8,20 @@
 namespace lexigrove
 {
 
-/// Plays wave files in the thread that made it. Files are read once and kept.
+/// Plays wave files in the thread that created it. Files are read once and kept.
 class SoundPlayer
 {
 public:
     virtual ~SoundPlayer() = default;
 
-    /// Starts the file, from its beginning if it is being played; returns at once. A file that is missing or cannot be
-    /// played is passed over.
+    /// Starts the file, from its beginning if it is already playing, and returns at once. A file that is missing or
+    /// cannot be played is ignored.
     virtual void play(const QString& file) = 0;
 
     [[nodiscard]] virtual bool isPlaying() const = 0;
 };
 
-/// The machine's sound, in a module of its own.
+/// The machine's sound, in a separate module.
 class SoundModule
 {
 public:

@@ -13,8 +13,7 @@ namespace lexigrove
 namespace
 {
 
-/// Keeps from the terminal what the engine says at its start about things that are as they are meant to be. Any other
-/// message passes.
+/// Suppresses known harmless start-up messages.
 class EngineStart
 {
 public:
@@ -29,7 +28,7 @@ private:
         for (const char* known : {
                  "Qt WebEngine seems to be initialized from a plugin.", // pages need no OpenGL here
                  "No suitable graphics backend found",                  // nor a graphics card
-                 "Sandboxing disabled by user.",                        // the module says so itself, and why
+                 "Sandboxing disabled by user.",                        // the module itself says so, and why
              })
             if (text.startsWith(known))
                 return;

@@ -16,16 +16,16 @@
 namespace lexigrove
 {
 
-/// Colours by the names that a page's style sheet knows them by, such as "--ground".
+/// Colours by their names in a page's style sheet, such as "--ground".
 using PageColours = std::map<QString, QColor>;
 
-/// A page of the web engine. Destroying it tears the page down and forgets everything that it left.
+/// A page of the web engine. Destroying it closes the page and forgets everything that it stored.
 class BrowserPage
 {
 public:
     virtual ~BrowserPage() = default;
 
-    /// What shows the page; it belongs to this object.
+    /// The widget that shows the page; this object owns it.
     [[nodiscard]] virtual QWidget* widget() = 0;
 
     virtual void navigate(const QUrl& address) = 0;
@@ -33,17 +33,17 @@ public:
     virtual void back() = 0;
     virtual void forward() = 0;
 
-    /// Gives the page, and those that come, the colours of the names that their style sheets use.
+    /// Sets the colours that the style sheets of this page and later ones know by name.
     virtual void setColours(const PageColours& colours) = 0;
 };
 
 struct BrowserPageSetup {
     BrowserRules rules;
-    QColor ground;                    ///< under a page that is not painted yet
-    std::function<void(bool)> loaded; ///< a page was loaded, or could not be
+    QColor ground;                    ///< behind a page that is not painted yet
+    std::function<void(bool)> loaded; ///< called with whether a page could be loaded
 };
 
-/// The web engine. It comes from a module of its own, so that a game that shows no page loads none of it.
+/// The web engine, in a separate module, so that a game that shows no page does not load it.
 class BrowserModule
 {
 public:
@@ -52,15 +52,15 @@ public:
     [[nodiscard]] virtual std::unique_ptr<BrowserPage> newPage(const BrowserPageSetup& setup) = 0;
 };
 
-/// Loads the module when the first page is asked for.
+/// Loads the module when the first page is needed.
 class BrowserLoader
 {
 public:
-    /// The places where the module is looked for, the first one first; by default beside the executables and where it
-    /// is installed.
+    /// `folders` are searched for the module in order; by default these are beside the executables and where it is
+    /// installed.
     explicit BrowserLoader(QStringList folders = moduleFolders());
 
-    /// A page, or null when the module cannot be loaded; `failure` then says why.
+    /// A page, or null if the module cannot be loaded; `failure` then says why.
     [[nodiscard]] std::unique_ptr<BrowserPage> newPage(const BrowserPageSetup& setup);
     [[nodiscard]] const QString& failure() const { return failure_; }
 

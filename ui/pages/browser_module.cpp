@@ -30,7 +30,7 @@ namespace lexigrove
 namespace
 {
 
-/// Whether the kernel lets a process of this user into namespaces of its own, which the sandbox is built of.
+/// Whether the kernel lets this user's processes create namespaces, which the sandbox needs.
 bool kernelAllowsSandbox()
 {
     const pid_t child = fork();
@@ -40,7 +40,7 @@ bool kernelAllowsSandbox()
     return child > 0 && waitpid(child, &status, 0) == child && WIFEXITED(status) && WEXITSTATUS(status) == 0;
 }
 
-/// The engine runs in its sandbox wherever it can; where it cannot, it would not start at all.
+/// Turns the sandbox off only where the engine would not start with it.
 void decideOnSandbox()
 {
     const char* reason = nullptr;
@@ -56,8 +56,8 @@ void decideOnSandbox()
     std::fprintf(stderr, "LexiGrove: pages are shown without the web engine's sandbox: %s.\n", reason);
 }
 
-/// Contexts of OpenGL would cost every start of the game, page or no page. Without them the engine shows nothing,
-/// unless the processor paints its pages.
+/// OpenGL contexts would slow every start of the game, page or no page. Without them the engine shows nothing unless
+/// the processor paints its pages.
 void decideOnPainting()
 {
     const QOpenGLContext* const shared = QOpenGLContext::globalShareContext();
@@ -65,7 +65,7 @@ void decideOnPainting()
         qputenv("QT_QUICK_BACKEND", "software");
 }
 
-/// Refuses what the rules do not allow, before anything is asked of the network or the disk.
+/// Refuses what the rules do not allow, before the network or the disk is accessed.
 class RequestGuard : public QWebEngineUrlRequestInterceptor
 {
 public:
@@ -86,7 +86,7 @@ private:
     BrowserRules rules_;
 };
 
-/// A page that asks nothing of the player and opens nothing beside itself.
+/// A page that asks the player nothing and opens no other windows.
 class GuardedPage : public QWebEnginePage
 {
 public:
@@ -156,7 +156,7 @@ void setLimits(QWebEngineSettings& settings)
     settings.setUnknownUrlSchemePolicy(QWebEngineSettings::DisallowUnknownUrlSchemes);
 }
 
-/// What gives a page its colours. It runs apart from the page's own scripts, and also where those do not run.
+/// The script that sets a page's colours. It is separate from the page's own scripts, and runs even if those do not.
 QWebEngineScript colouring(const PageColours& colours)
 {
     QString source;
@@ -169,7 +169,7 @@ QWebEngineScript colouring(const PageColours& colours)
     return script;
 }
 
-/// One view with a profile of its own, which lives in memory only and ends with it.
+/// One view with its own profile, which lives only in memory and ends with it.
 class EnginePage : public BrowserPage
 {
 public:
@@ -194,7 +194,7 @@ public:
 
     void navigate(const QUrl& address) override
     {
-        // The engine's own page about a missing file is made by a script.
+        // The engine's own page about a missing file needs scripts.
         const bool missing = address.isLocalFile() && !QFileInfo::exists(address.toLocalFile());
         page_.settings()->setAttribute(QWebEngineSettings::JavascriptEnabled, scripts_ || missing);
         page_.setUrl(address);
@@ -224,7 +224,7 @@ private:
 
 BrowserEngine::BrowserEngine()
 {
-    QLoggingCategory::setFilterRules("qt.webenginecontext=false"); // a page of technical data in the terminal
+    QLoggingCategory::setFilterRules("qt.webenginecontext=false"); // otherwise a page of technical data in the terminal
     decideOnSandbox();
     decideOnPainting();
 }

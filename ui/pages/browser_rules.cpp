@@ -16,7 +16,7 @@ bool isOnThisMachine(const QUrl& url)
     return host == "localhost" || host == "127.0.0.1" || host == "::1";
 }
 
-/// The folder with the links on the way resolved and a closing separator, so that no path leads out of it unseen.
+/// The folder with links resolved and a trailing separator, so that no path leads out of it unnoticed.
 QString realFolder(const QString& path)
 {
     const QString folder = QFileInfo(QFileInfo(path).path()).canonicalFilePath();

@@ -11,8 +11,8 @@
 namespace lexigrove
 {
 
-/// Shows pages of the web engine. The engine is loaded with the first page; where that fails, the view says so in place
-/// of the page and offers the system's browser.
+/// Shows pages of the web engine. The engine is loaded with the first page; if that fails, the view says so instead and
+/// offers the system's browser.
 class BrowserView : public QWidget
 {
     Q_OBJECT
@@ -21,22 +21,22 @@ public:
     BrowserView(BrowserLoader& loader, BrowserRules rules, QWidget* parent = nullptr);
     ~BrowserView() override;
 
-    /// The pointer is busy meanwhile.
+    /// Shows the busy pointer meanwhile.
     void navigate(const QUrl& address);
 
-    /// Of the page shown, empty when none is.
+    /// The address of the page shown; empty if there is none.
     [[nodiscard]] QUrl address() const;
     void back();
     void forward();
 
-    /// For a page whose style sheet knows colours by these names.
+    /// Sets the colours that the page's style sheet knows by these names.
     void setPageColours(const PageColours& colours);
 
-    /// Tears the page down; the next `navigate` begins anew.
+    /// Closes the page; the next `navigate` opens a new one.
     void close();
 
 signals:
-    /// A page was loaded, or the engine's own page about a failure stands in its place.
+    /// A page was loaded, or the engine's own page about a failure is shown instead.
     void loaded(bool success);
 
 private:

@@ -14,7 +14,7 @@ namespace lexigrove
 namespace
 {
 
-/// The help page's own names for the colours of the windows.
+/// The window colours under the help page's names for them.
 PageColours pageColours(const WindowColours& colours)
 {
     return {
@@ -55,7 +55,7 @@ HelpWindow::HelpWindow(const Theme& theme, BrowserLoader& loader, const std::str
 void HelpWindow::bringToFront()
 {
     awaitsActivation_ = !isActiveWindow();
-    WebBrowser1_->navigate(address_); // first: the engine's first view makes the toolkit build a shown window anew
+    WebBrowser1_->navigate(address_); // first: the engine's first view makes the toolkit recreate a visible window
     show();
     raise();
     activateWindow();
@@ -82,7 +82,7 @@ void HelpWindow::resizeEvent(QResizeEvent*)
     int left = WebBrowser1_->x();
     for (QPushButton* const button : {Command1_, Command2_, Command3_}) {
         const QSize buttonSize(11 * Theme::grid, button->sizeHint().height());
-        if (button == Command3_) // stands apart, at the right
+        if (button == Command3_) // set apart, at the right
             left = width() - WebBrowser1_->x() - buttonSize.width();
         button->setGeometry({QPoint(left, strip + (height() - strip - buttonSize.height()) / 2), buttonSize});
         left += buttonSize.width() + Theme::spacing;

@@ -16,8 +16,8 @@ class BrowserLoader;
 class BrowserView;
 class Theme;
 
-/// The help window `Form5`: a local page in a browser view, with its buttons below. It stands beside the game and
-/// blocks nothing; "Exit" hides it.
+/// The help window `Form5`: a local page in a browser view, with its buttons below. It does not block the game; "Exit"
+/// hides it.
 class HelpWindow : public QWidget
 {
 public:
@@ -40,15 +40,15 @@ private:
     QPushButton* Command1_;
     QPushButton* Command2_;
     QPushButton* Command3_;
-    bool awaitsActivation_ = false; ///< the page of this showing is already on its way
+    bool awaitsActivation_ = false; ///< the page for this showing is already loading
 };
 
-/// Whether "Back" and "Forward" do anything at the browser's current address: only between places of the help page
-/// reached through its "#" anchors.
+/// Whether "Back" and "Forward" do anything at the browser's current address: they only move between the "#" anchors of
+/// the help page.
 [[nodiscard]] bool mayNavigate(const QUrl& currentAddress);
 
-/// Size of the browser view for a window's inner size and the view's top, all in 1/1440 inch. Nothing when it would be
-/// negative: the view then stays as it is.
+/// Size of the browser view for a window's inner size and the view's top, all in 1/1440 inch. Nothing if it would be
+/// negative: the view then keeps its size.
 [[nodiscard]] std::optional<QSize> helpViewSize(QSize inner, int viewTop);
 
 } // namespace lexigrove

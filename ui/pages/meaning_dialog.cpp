@@ -24,10 +24,10 @@ public:
         auto* const column = new QVBoxLayout(this);
         column->setContentsMargins({});
         column->addWidget(WbDictionary);
-        new QShortcut(Qt::Key_Escape, this, [this] { accept(); }); // also where the page has the focus
+        new QShortcut(Qt::Key_Escape, this, [this] { accept(); }); // even if the page has the focus
         resize(120 * Theme::grid, 84 * Theme::grid);
-        // Before the window is shown: the engine's first view makes the toolkit build a window anew, which would close
-        // a dialog that is open.
+        // Before the window is shown: the engine's first view makes the toolkit recreate the window, which would close
+        // an open dialog.
         WbDictionary->navigate(QUrl(toQString(form.address)));
     }
 

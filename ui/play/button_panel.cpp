@@ -49,7 +49,7 @@ QPushButton* ButtonPanel::add(const PanelButton& description)
     button->setObjectName(description.name);
     button->setAccessibleName(description.text);
     button->setToolTip(description.toolTip);
-    button->setFocusPolicy(Qt::TabFocus); // a click leaves the keyboard to the word
+    button->setFocusPolicy(Qt::TabFocus); // a click leaves the keyboard for typing words
     connect(button, &QPushButton::clicked, this, [this, command = description.command] { flow_.perform(command); });
     return button;
 }

@@ -12,7 +12,7 @@ class QPushButton;
 namespace lexigrove
 {
 
-/// The buttons of the player's actions, `Frame3`.
+/// The buttons for the player's actions, `Frame3`.
 class ButtonPanel : public QWidget
 {
     Q_OBJECT

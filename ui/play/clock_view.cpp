@@ -95,7 +95,7 @@ void ClockFrame::paintEvent(QPaintEvent* /*event*/)
 {
     const ClockRectangle& ground = clock_.Shapet();
     QPainter painter(this);
-    const bool themed = ground.fill != theme_.colours().ground; // else the line tells where the clock is
+    const bool themed = ground.fill != theme_.colours().ground; // otherwise the line shows where the clock is
     Theme::paintCard(painter, rect(), ground.fill, themed ? ground.border : theme_.colours().line);
 }
 

@@ -35,7 +35,7 @@ private:
     std::uint32_t shownRevision_ = 0;
 };
 
-/// The frame `Frame10` around the clock, in the clock's own ground.
+/// The frame `Frame10` around the clock, in the clock's own background colour.
 class ClockFrame : public QWidget
 {
     Q_OBJECT
@@ -54,7 +54,7 @@ signals:
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
-    void mousePressEvent(QMouseEvent* /*event*/) override {} ///< taken, so that the release comes here
+    void mousePressEvent(QMouseEvent* /*event*/) override {} ///< accepted, so that the release comes here
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:

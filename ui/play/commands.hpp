@@ -11,12 +11,12 @@
 namespace lexigrove
 {
 
-/// A line of a menu.
+/// An item of a menu.
 struct MenuItem {
     Command command;
     QString text;
     QList<QKeySequence> keys;
-    QString keyText;        ///< a key that the window takes itself, shown beside the text
+    QString keyText;        ///< a key that the window handles itself, shown beside the text
     bool afterLine = false; ///< a line separates it from the one above
 };
 
@@ -25,7 +25,7 @@ struct Menu {
     std::vector<MenuItem> items;
 };
 
-/// The menus of the main window: all that its buttons do, and more.
+/// The menus of the main window: everything that its buttons do, and more.
 std::vector<Menu> mainMenus();
 
 /// A button of the main window.
@@ -35,7 +35,7 @@ struct PanelButton {
     QString text;
     QString toolTip;
     int row = 0;
-    int width = 1; ///< compared with the other buttons of the row
+    int width = 1; ///< relative to the other buttons of the row
 };
 
 std::vector<PanelButton> panelButtons();

@@ -20,7 +20,7 @@ namespace lexigrove
 MainWindow::MainWindow(Host& host, GameFlow& flow, const StatusLine& status) : host_(host), flow_(flow)
 {
     setObjectName("MainWindow");
-    host_.theme.follow(flow_.view().scheme); // before the widgets: each is then dressed once
+    host_.theme.follow(flow_.view().scheme); // before the widgets, so that each is styled only once
     auto* centre = new QWidget(this);
     area_ = new PlayArea(flow, host.theme, centre);
     status_ = new StatusLineView(status, flow, host.theme, centre);
@@ -106,7 +106,7 @@ void MainWindow::addTimer(const QString& name, Timer timer)
 
 // ---- Inputs
 
-/// A close request that came while the input ran is carried out behind it.
+/// A close request that came during the input is carried out after it.
 void MainWindow::inputEnded()
 {
     if (!flow_.isBusy()) {
@@ -175,7 +175,7 @@ void MainWindow::keyReleaseEvent(QKeyEvent* event)
         QMainWindow::keyReleaseEvent(event);
 }
 
-/// Closing is leaving, with the flow's questions; in the middle of an input that input unwinds first.
+/// Closing means leaving, with the flow's questions; an input in progress unwinds first.
 void MainWindow::closeEvent(QCloseEvent* event)
 {
     if (!flow_.ended()) {

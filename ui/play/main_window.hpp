@@ -15,7 +15,7 @@ class QHBoxLayout;
 namespace lexigrove
 {
 
-/// The main window: gives keys, menus and ticks to the flow, and shows the models after every input.
+/// The main window: passes keys, menus and ticks to the flow, and shows the models after every input.
 class MainWindow : public QMainWindow, public ModelsView
 {
     Q_OBJECT

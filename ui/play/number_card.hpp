@@ -10,7 +10,7 @@
 namespace lexigrove
 {
 
-/// A number of the game on a card, with what it is above it.
+/// A number of the game on a card, under its caption.
 class NumberCard : public QFrame
 {
     Q_OBJECT

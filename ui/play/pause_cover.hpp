@@ -15,7 +15,7 @@ class PauseCover : public QWidget
 public:
     PauseCover(const Theme& theme, QWidget* parent);
 
-    /// The blinking caption, empty while it is dark, and a quiet line below it.
+    /// The blinking caption, empty in its off phase, and a less prominent line below it.
     void setCaption(const QString& caption, const QString& hint = {});
     [[nodiscard]] const QString& caption() const { return caption_; }
 
@@ -24,7 +24,7 @@ signals:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
-    void mousePressEvent(QMouseEvent* /*event*/) override {} ///< taken: nothing below sees it
+    void mousePressEvent(QMouseEvent* /*event*/) override {} ///< accepted: nothing below sees it
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:

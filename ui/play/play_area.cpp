@@ -91,8 +91,8 @@ void PlayArea::resizeEvent(QResizeEvent* /*event*/)
     layOut();
 }
 
-/// The board takes all the height that there is, and the side what is left of the width, up to what it can use; the two
-/// stand in the middle together.
+/// The board takes all the height, and the side takes the remaining width, up to what it can use; together they are
+/// centred.
 void PlayArea::layOut()
 {
     const int height = this->height() - Theme::margin - topMargin;
@@ -126,7 +126,7 @@ void PlayArea::synchronise()
     yourScore_->show(std::to_string(state.yourScore));
     compScore_->show(std::to_string(state.compScore));
     tilesLeft_->show(state.tilesLeftText());
-    if (compScore_->isHidden() == state.computerGame) // alone the player needs no second score
+    if (compScore_->isHidden() == state.computerGame) // a solo player needs no second score
         compScore_->setVisible(state.computerGame);
     word_->synchronise();
     buttons->synchronise();

@@ -70,7 +70,7 @@ StatusLineView::StatusLineView(const StatusLine& status, const GameFlow& flow, c
         label->setTextFormat(Qt::PlainText);
         label->setProperty("quiet", true);
         label->setFont(Theme::font(textSize));
-        label->setMinimumWidth(1); // a long message does not widen the window
+        label->setMinimumWidth(1); // a long message must not widen the window
     }
     Label4->setFont(Theme::font(Theme::smallestText));
     Label4->setWordWrap(true);
@@ -105,7 +105,7 @@ void StatusLineView::synchronise()
         Label4->setText(description);
 }
 
-/// What the player has to know stands out from what the pointer happens to rest on.
+/// Messages that the player has to know stand out from descriptions of what is under the pointer.
 void StatusLineView::setLoud(bool loud)
 {
     if (loud == loud_)

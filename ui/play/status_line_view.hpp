@@ -36,7 +36,7 @@ private:
     QLabel* Label4;
     std::string shown_;
     bool loud_ = false;
-    QString full_; ///< the whole message, where the label shows only its beginning
+    QString full_; ///< the whole message if the label shows only its beginning
 };
 
 } // namespace lexigrove

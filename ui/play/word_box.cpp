@@ -16,7 +16,7 @@ namespace
 {
 
 constexpr double wordSize = 28;
-constexpr double scoreShare = 0.78; ///< the score's letters, of the word's
+constexpr double scoreShare = 0.78; ///< size of the score's digits relative to the word's letters
 constexpr double frameWidth = 2;
 
 } // namespace
@@ -85,7 +85,7 @@ void WordBox::paintEvent(QPaintEvent* /*event*/)
     Theme::paintCard(painter, rect(), computersTurn_ ? colours.computerBack : colours.card, colours.accent, frameWidth);
     if (!scoreBack_)
         return;
-    // The score stands on the colour of the bonus tile that multiplies it.
+    // The score is on the colour of the bonus tile that multiplies it.
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(toQColor(*scoreBack_));

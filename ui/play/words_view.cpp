@@ -2,13 +2,11 @@
 
 #include "ui/look/text.hpp"
 
-#include <QFontMetrics>
+#include <QAbstractTableModel>
+#include <QHeaderView>
 #include <QKeyEvent>
-#include <QMouseEvent>
 #include <QPainter>
-#include <QScrollBar>
-
-#include <algorithm>
+#include <QStyledItemDelegate>
 
 namespace lexigrove
 {
@@ -17,30 +15,158 @@ namespace
 {
 
 constexpr int textSize = 13;
-constexpr int shownRowsWanted = 8;
-constexpr int edge = 1;   ///< of the card
-constexpr int corner = 4; ///< rows keep off the card's round corners
+constexpr int heightOfRow = 3 * Theme::grid;
 
-int gridWidth()
+/// Where a column begins, in the grid's units; that of the column after the last one is the grid's width.
+int leftOf(int column)
 {
-    int width = 0;
-    for (const WordsGridColumn& column : WordsGrid::columns)
-        width += column.width;
-    return width;
+    int left = 0;
+    for (int c = 0; c < column; ++c)
+        left += WordsGrid::columns[static_cast<std::size_t>(c)].width;
+    return left;
 }
+
+int alignmentOf(int column)
+{
+    const bool left = WordsGrid::columns[static_cast<std::size_t>(column)].alignment == CellAlignment::Left;
+    return static_cast<int>(Qt::AlignVCenter | (left ? Qt::AlignLeft : Qt::AlignHCenter));
+}
+
+/// Paints the cells: the current row and the computer's words stand out, whatever has the focus.
+class CellPainter : public QStyledItemDelegate
+{
+public:
+    CellPainter(const WordsGrid& grid, const Theme& theme, QObject* parent)
+        : QStyledItemDelegate(parent), grid_(grid), theme_(theme)
+    {
+    }
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        const int row = index.row() + 1;
+        if (row >= grid_.Rows()) // the grid was emptied, and the view is yet to hear of it
+            return;
+        const WindowColours& colours = theme_.colours();
+        const bool current = row == grid_.Row();
+        const bool word = index.column() == WordsGrid::wordColumn;
+        const bool computers = word && grid_.row(row).maker == Maker::Computer;
+        const QRect& cell = option.rect;
+        painter->fillRect(cell, toQColor(computers ? colours.computerBack
+                                         : current ? colours.cardSelection
+                                                   : colours.card));
+        painter->setPen(toQColor(computers ? colours.computerFore
+                                 : current ? colours.cardSelectionText
+                                           : colours.cardText));
+        painter->setFont(Theme::font(textSize, word));
+        painter->drawText(cell.adjusted(word ? Theme::grid : 0, 0, 0, 0), alignmentOf(index.column()),
+                          index.data().toString());
+        if (current && index.column() == 0)
+            painter->fillRect(QRect(cell.left(), cell.top(), 3, cell.height()), toQColor(colours.accent));
+    }
+
+private:
+    const WordsGrid& grid_;
+    const Theme& theme_;
+};
+
+/// Headings that tell of every press, also of one on the edge of a section and of the second one of a double click.
+class Headings : public QHeaderView
+{
+public:
+    explicit Headings(QWidget* parent) : QHeaderView(Qt::Horizontal, parent) {}
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override
+    {
+        if (event->button() == Qt::LeftButton)
+            emit sectionPressed(logicalIndexAt(event->pos()));
+    }
+    void mouseDoubleClickEvent(QMouseEvent* event) override { mousePressEvent(event); }
+};
 
 } // namespace
 
-WordsView::WordsView(const WordsGrid& grid, const Theme& theme, QWidget* parent)
-    : QAbstractScrollArea(parent), grid_(grid), theme_(theme)
+/// The grid's rows, without the headings, as a table of texts.
+class WordsModel : public QAbstractTableModel
 {
-    setProperty("card", true);
-    setViewportMargins(edge, corner, edge, corner);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+public:
+    WordsModel(const WordsGrid& grid, const Theme& theme, Colour WindowColours::*headings, QObject* parent)
+        : QAbstractTableModel(parent), grid_(grid), theme_(theme), headings_(headings)
+    {
+    }
+
+    void refresh()
+    {
+        if (rows_ == grid_.Rows() - 1) {
+            emit dataChanged(index(0, 0), index(rows_ - 1, WordsGrid::wordColumn));
+            return;
+        }
+        beginResetModel();
+        rows_ = grid_.Rows() - 1;
+        endResetModel();
+    }
+
+    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : rows_; }
+
+    [[nodiscard]] int columnCount(const QModelIndex& /*parent*/) const override { return WordsGrid::columnCount; }
+
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override
+    {
+        if (role != Qt::DisplayRole || index.row() + 1 >= grid_.Rows())
+            return {};
+        return toQString(grid_.text(index.row() + 1, index.column()));
+    }
+
+    [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override
+    {
+        if (orientation == Qt::Vertical)
+            return {};
+        switch (role) {
+        case Qt::DisplayRole:
+            return toQString(grid_.text(0, section));
+        case Qt::TextAlignmentRole:
+            return alignmentOf(section);
+        case Qt::ForegroundRole:
+            return toQColor(theme_.colours().*headings_);
+        default:
+            return {};
+        }
+    }
+
+private:
+    const WordsGrid& grid_;
+    const Theme& theme_;
+    Colour WindowColours::*headings_;
+    int rows_ = 0; ///< as the view knows them
+};
+
+WordsView::WordsView(const WordsGrid& grid, const Theme& theme, QWidget* parent, Colour WindowColours::*headings)
+    : QTableView(parent), grid_(grid), theme_(theme), model_(new WordsModel(grid, theme, headings, this))
+{
+    setModel(model_);
+    setItemDelegate(new CellPainter(grid, theme, this));
+    setSelectionMode(NoSelection);
+    setTabKeyNavigation(false);
     setFocusPolicy(Qt::StrongFocus);
-    viewport()->setAutoFillBackground(false);
-    viewport()->setMouseTracking(true);
-    connect(&theme, &Theme::changed, this, [this] { viewport()->update(); });
+    setShowGrid(false);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollMode(ScrollPerPixel);
+    setMinimumSize(24 * Theme::grid, 3 * heightOfRow);
+    verticalHeader()->hide();
+    verticalHeader()->setDefaultSectionSize(heightOfRow);
+
+    auto* const headingBar = new Headings(this);
+    headingBar->setFont(Theme::font(Theme::quietTextSize, true));
+    headingBar->setFixedHeight(heightOfRow);
+    headingBar->setMinimumSectionSize(1);
+    headingBar->setStretchLastSection(true);
+    setHorizontalHeader(headingBar);
+
+    connect(headingBar, &QHeaderView::sectionPressed, this,
+            [this](int column) { emit headingClicked(leftOf(column)); });
+    connect(this, &QTableView::pressed, this, [this](const QModelIndex& cell) { emit rowPicked(cell.row() + 1); });
+    connect(this, &QTableView::doubleClicked, this,
+            [this](const QModelIndex& cell) { emit rowActivated(cell.row() + 1); });
 }
 
 void WordsView::synchronise()
@@ -48,16 +174,11 @@ void WordsView::synchronise()
     if (grid_.revision() == shownRevision_)
         return;
     shownRevision_ = grid_.revision();
-    const bool rowsCame = grid_.Rows() > shownRows_;
-    const bool currentMoved = grid_.Row() != shownCurrent_;
-    shownRows_ = grid_.Rows();
-    shownCurrent_ = grid_.Row();
-    updateScrollBar();
-    if (currentMoved && !rowsCame)
-        showRow(shownCurrent_);
-    else if (rowsCame)
-        verticalScrollBar()->setValue(0);
-    viewport()->update();
+    const bool rowsCame = grid_.Rows() - 1 > model_->rowCount();
+    model_->refresh();
+    showCurrent(); // and scrolls there
+    if (rowsCame)
+        scrollToTop();
 }
 
 void WordsView::setEmptyText(const QString& text)
@@ -66,179 +187,55 @@ void WordsView::setEmptyText(const QString& text)
     viewport()->update();
 }
 
-int WordsView::rowHeight() const
+void WordsView::paintEvent(QPaintEvent* event)
 {
-    const int height = QFontMetrics(Theme::font(textSize, true)).height() + Theme::grid;
-    return std::max(height, 3 * Theme::grid);
-}
-
-QRect WordsView::rowRect(int row) const
-{
-    const int height = rowHeight();
-    const int top = row == 0 ? 0 : row * height - verticalScrollBar()->value();
-    return {0, top, viewport()->width(), height};
-}
-
-QRect WordsView::columnRect(int column) const
-{
-    int left = 0;
-    for (int c = 0; c < column; ++c)
-        left += WordsGrid::columns[static_cast<std::size_t>(c)].width;
-    const int right = left + WordsGrid::columns[static_cast<std::size_t>(column)].width;
-    const int width = viewport()->width();
-    const int from = left * width / gridWidth();
-    return {from, 0, right * width / gridWidth() - from, viewport()->height()};
-}
-
-int WordsView::rowAt(const QPoint& place) const
-{
-    if (!viewport()->rect().contains(place))
-        return -1;
-    const int height = rowHeight();
-    if (place.y() < height)
-        return 0;
-    const int row = (place.y() + verticalScrollBar()->value()) / height;
-    return row < grid_.Rows() ? row : -1;
-}
-
-QSize WordsView::sizeHint() const
-{
-    return {40 * Theme::grid, shownRowsWanted * rowHeight()};
-}
-
-QSize WordsView::minimumSizeHint() const
-{
-    return {24 * Theme::grid, 3 * rowHeight()};
-}
-
-void WordsView::paintEvent(QPaintEvent* /*event*/)
-{
-    const WindowColours& colours = theme_.colours();
-    QPainter painter(viewport());
-    const QRect whole = viewport()->rect();
-    painter.fillRect(whole, toQColor(colours.card));
-
-    const QRect heading = rowRect(0);
-    painter.setClipRect(whole.adjusted(0, heading.bottom() + 1, 0, 0));
-    for (int row = 1; row < grid_.Rows(); ++row) {
-        const QRect place = rowRect(row);
-        if (place.bottom() > heading.bottom() && place.top() < whole.bottom())
-            paintRow(painter, row);
-    }
-    if (grid_.Rows() == 1 && !emptyText_.isEmpty()) {
-        painter.setFont(Theme::font(textSize));
-        painter.setPen(toQColor(colours.cardQuietText));
-        const QRect room = whole.adjusted(Theme::gap, heading.bottom() + Theme::gap, -Theme::gap, -Theme::gap);
-        painter.drawText(room, Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, emptyText_);
-    }
-
-    painter.setClipping(false);
-    paintRow(painter, 0);
-    painter.fillRect(QRect(0, heading.bottom(), whole.width(), 1), toQColor(colours.line));
-}
-
-void WordsView::paintRow(QPainter& painter, int row) const
-{
-    const WindowColours& colours = theme_.colours();
-    const QRect place = rowRect(row);
-    const bool current = row > 0 && row == grid_.Row();
-    for (int column = 0; column < WordsGrid::columnCount; ++column) {
-        const bool word = column == WordsGrid::wordColumn;
-        const bool own = row == 0 || !word || grid_.row(row).maker == Maker::Player;
-        const Colour ground = own ? (current ? colours.cardSelection : colours.card) : colours.computerBack;
-        // Headings are the computer's fore colour, which is made for its own ground: on the card it is the computer's
-        // colour as a text.
-        const Colour text = row == 0 ? colours.computerText
-                            : own    ? (current ? colours.cardSelectionText : colours.cardText)
-                                     : colours.computerFore;
-
-        const QRect cellPlace = columnRect(column).intersected(place);
-        painter.fillRect(cellPlace, toQColor(ground));
-        painter.setFont(Theme::font(row == 0 ? Theme::quietTextSize : textSize, row == 0 || word));
-        painter.setPen(toQColor(text));
-        const bool left = WordsGrid::columns[static_cast<std::size_t>(column)].alignment == CellAlignment::Left;
-        painter.drawText(cellPlace.adjusted(left ? Theme::grid : 0, 0, 0, 0),
-                         Qt::AlignVCenter | static_cast<int>(left ? Qt::AlignLeft : Qt::AlignHCenter),
-                         toQString(grid_.text(row, column)));
-    }
-    if (current)
-        painter.fillRect(QRect(place.left(), place.top(), 3, place.height()), toQColor(colours.accent));
-}
-
-void WordsView::updateScrollBar()
-{
-    const int room = viewport()->height();
-    QScrollBar* bar = verticalScrollBar();
-    bar->setRange(0, std::max(0, grid_.Rows() * rowHeight() - room));
-    bar->setPageStep(std::max(1, room - rowHeight()));
-    bar->setSingleStep(rowHeight());
-}
-
-void WordsView::showRow(int row)
-{
-    if (row < 1)
+    QTableView::paintEvent(event);
+    if (grid_.Rows() > 1)
         return;
-    const int height = rowHeight();
-    QScrollBar* bar = verticalScrollBar();
-    const int highest = (row - 1) * height; // the row then stands right below the headings
-    const int lowest = (row + 1) * height - viewport()->height();
-    bar->setValue(std::clamp(bar->value(), std::min(lowest, highest), highest));
+    QPainter painter(viewport());
+    painter.setFont(Theme::font(textSize));
+    painter.setPen(toQColor(theme_.colours().cardQuietText));
+    painter.drawText(viewport()->rect().adjusted(Theme::gap, Theme::gap, -Theme::gap, -Theme::gap),
+                     Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, emptyText_);
 }
 
 void WordsView::resizeEvent(QResizeEvent* event)
 {
-    QAbstractScrollArea::resizeEvent(event);
-    updateScrollBar();
-}
-
-void WordsView::mousePressEvent(QMouseEvent* event)
-{
-    if (event->button() != Qt::LeftButton)
-        return;
-    const int row = rowAt(event->pos());
-    if (row == 0)
-        emit headingClicked(event->pos().x() * gridWidth() / std::max(1, viewport()->width()));
-    else if (row > 0)
-        emit rowPicked(row);
-}
-
-void WordsView::mouseDoubleClickEvent(QMouseEvent* event)
-{
-    const int row = rowAt(event->pos());
-    if (row > 0 && event->button() == Qt::LeftButton)
-        emit rowActivated(row);
-    else
-        mousePressEvent(event); // quick clicks on the headings sort each time
+    QTableView::resizeEvent(event);
+    const auto place = [this](int column) {
+        return leftOf(column) * viewport()->width() / leftOf(WordsGrid::columnCount);
+    };
+    for (int column = 0; column < WordsGrid::wordColumn; ++column) // the last one takes what is left
+        setColumnWidth(column, place(column + 1) - place(column));
 }
 
 void WordsView::keyPressEvent(QKeyEvent* event)
 {
-    const int row = grid_.Row();
-    const int last = grid_.Rows() - 1;
-    const int page = std::max(1, viewport()->height() / rowHeight() - 2);
-    const auto pick = [&](int wanted) {
-        if (last >= 1)
-            emit rowPicked(std::clamp(wanted, 1, last));
-    };
     switch (event->key()) {
     case Qt::Key_Up:
-        return pick(row - 1);
     case Qt::Key_Down:
-        return pick(row + 1);
     case Qt::Key_PageUp:
-        return pick(row - page);
     case Qt::Key_PageDown:
-        return pick(row + page);
+        showCurrent(); // the focus brings a current cell of its own
+        QTableView::keyPressEvent(event);
+        if (currentIndex().isValid())
+            emit rowPicked(currentIndex().row() + 1);
+        return;
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        if (row >= 1 && activatesOnEnter)
-            emit rowActivated(row);
+        if (activatesOnEnter && grid_.Row() > 0)
+            emit rowActivated(grid_.Row());
         else
             event->ignore();
         return;
     default:
-        event->ignore(); // the arrow keys of the scroll area would move the rows and not the mark
+        event->ignore(); // letters are for the board
     }
+}
+
+void WordsView::showCurrent()
+{
+    setCurrentIndex(model_->index(grid_.Row() - 1, WordsGrid::wordColumn));
 }
 
 } // namespace lexigrove

@@ -3,21 +3,24 @@
 #include "controls/words_grid.hpp"
 #include "ui/look/theme.hpp"
 
-#include <QAbstractScrollArea>
 #include <QString>
+#include <QTableView>
 
 namespace lexigrove
 {
 
-/// A `WordsGrid` as a table in a card: the headings stand, the rows scroll. It changes nothing itself: it tells what
-/// was clicked, and its owner gives that to the model and calls `synchronise`.
-class WordsView : public QAbstractScrollArea
+class WordsModel;
+
+/// A `WordsGrid` as a table: the headings stand, the rows scroll. It changes nothing itself: it tells what was clicked,
+/// and its owner gives that to the grid and calls `synchronise`.
+class WordsView : public QTableView
 {
     Q_OBJECT
 
 public:
-    /// `grid` and `theme` outlive the view.
-    WordsView(const WordsGrid& grid, const Theme& theme, QWidget* parent = nullptr);
+    /// `grid` and `theme` outlive the view. The colour of the headings is one that reads on the card.
+    WordsView(const WordsGrid& grid, const Theme& theme, QWidget* parent = nullptr,
+              Colour WindowColours::*headings = &WindowColours::cardQuietText);
 
     /// Shows what the grid says now; scrolls to the current row when that has changed, or else to the top when a row
     /// has come in.
@@ -25,16 +28,6 @@ public:
 
     /// A quiet text in the middle of a grid without words.
     void setEmptyText(const QString& text);
-
-    /// Where a row is shown, in the viewport's coordinates; row 0 is the headings.
-    [[nodiscard]] QRect rowRect(int row) const;
-    /// Where a column is shown, 0 to 3: its left edge and width in the viewport.
-    [[nodiscard]] QRect columnRect(int column) const;
-    /// The row at a place of the viewport, 0 for the headings, -1 beside all rows.
-    [[nodiscard]] int rowAt(const QPoint& place) const;
-
-    [[nodiscard]] QSize sizeHint() const override;
-    [[nodiscard]] QSize minimumSizeHint() const override;
 
     /// Whether Enter on a row activates it; otherwise the key goes on to the window.
     bool activatesOnEnter = true;
@@ -50,22 +43,16 @@ signals:
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
-    void mousePressEvent(QMouseEvent* event) override;
-    void mouseDoubleClickEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    [[nodiscard]] int rowHeight() const;
-    void paintRow(QPainter& painter, int row) const;
-    void updateScrollBar();
-    void showRow(int row);
+    void showCurrent();
 
     const WordsGrid& grid_;
     const Theme& theme_;
+    WordsModel* model_;
     QString emptyText_;
     std::uint32_t shownRevision_ = 0;
-    int shownRows_ = 1;
-    int shownCurrent_ = 0;
 };
 
 } // namespace lexigrove

@@ -1,4 +1,4 @@
-#include "dictionary/word_view.hpp"
+#include "dictionary/filtered_words.hpp"
 
 #include "dictionary/word_text.hpp"
 
@@ -22,44 +22,44 @@ std::array<unsigned char, 256> upperCaseTable()
 
 } // namespace
 
-void WordView::Clear()
+void FilteredWords::Clear()
 {
     fill(WordList(), 0);
 }
 
-void WordView::fill(const WordList& words, int count)
+void FilteredWords::fill(const WordList& words, int count)
 {
     words_ = words;
     count_ = count;
     applySearch();
 }
 
-std::string_view WordView::list(int position) const
+std::string_view FilteredWords::list(int position) const
 {
     if (position < 0 || position >= count_)
         throw std::out_of_range("The list has no such position");
     return words_.entry(position + 1);
 }
 
-void WordView::setSearch(std::string_view text)
+void FilteredWords::setSearch(std::string_view text)
 {
     search_ = upperCase(text);
     applySearch();
 }
 
-int WordView::rowCount() const
+int FilteredWords::rowCount() const
 {
     return search_.empty() ? count_ : static_cast<int>(found_.size());
 }
 
-std::string_view WordView::row(int row) const
+std::string_view FilteredWords::row(int row) const
 {
     if (row < 0 || row >= rowCount())
         throw std::out_of_range("The list has no such row");
     return words_.entry(search_.empty() ? row + 1 : found_[static_cast<std::size_t>(row)]);
 }
 
-void WordView::applySearch()
+void FilteredWords::applySearch()
 {
     found_.clear();
     if (search_.empty())

@@ -1,6 +1,6 @@
-// Show Dictionary over a dictionary of level 3: from the click until the list stands painted, against a list widget
+// Show Dictionary over a dictionary of level 3: from the click until the list has been painted, against a list widget
 // that is given the same words as items.
-//   bench_word_view [LIST]
+//   bench_show_dictionary [LIST]
 
 #include "bench/level_three.hpp"
 #include "flow/game_flow.hpp"
@@ -21,7 +21,7 @@ namespace
 
 constexpr double frame = 1000.0 / 60;
 
-/// Runs in the open window: fills its list and a list widget of the same size by turns.
+/// Runs in the open window: fills its list and a list widget of the same size in turn.
 void measure(const WordList& words)
 {
     QWidget* const window = QApplication::activeModalWidget();
