@@ -233,7 +233,7 @@ void GameFlow::recordGame(GameEnd end)
     GameState& state = p.game.state;
     if (!inGame_ || state.turns.empty() || state.begun.empty())
         return;
-    const GameRecord record = recordOf(p.game, state.begun, end);
+    const GameRecord record = recordOf(p.game, end);
     state.begun.clear();
     if (state.kind == GameKind::Daily)
         p.ports.screen.copyText(dailySummary(record));

@@ -24,8 +24,8 @@ enum class GameEnd {
 
 /// A game that is over, as the past games keep it.
 struct GameRecord {
-    std::string begun;          ///< local date and time of its start, "2026-11-23 04:15"
-    std::string userDictionary; ///< the file of dictionary 0, empty for a level; without control characters
+    std::string begun = {};          ///< local date and time of its start, "2026-11-23 04:15"
+    std::string userDictionary = {}; ///< the file of dictionary 0, empty for a level; without control characters
     GameKind kind = GameKind::Normal;
     bool computerGame = false;
     Strategy strategy = Strategy::HighestScore; ///< of the computer
@@ -33,8 +33,8 @@ struct GameRecord {
     int compScore = 0;
     int secondsPlayed = 0;
     GameEnd end = GameEnd::Left;
-    BoardPosition start;     ///< also the arrangement and the level of the game
-    std::vector<Turn> turns; ///< the first one first
+    BoardPosition start = {};     ///< also the arrangement and the level of the game
+    std::vector<Turn> turns = {}; ///< the first one first
     int hintsUsed = 0;
     int redTilesMade = 0;
     int pushes = 0;
