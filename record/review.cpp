@@ -139,7 +139,7 @@ const WordsThere& Review::there(ReviewList list, int turn) const
         BoardSearch search; // prepares the list for the first turn, and serves all
         for (const Turn& made : record_.turns) {
             known.push_back(wordsOn(made.before, wordsOf(list), search));
-            if (made.maker == Maker::Player && made.score > known.back().best.score)
+            if (made.score > known.back().best.score)
                 known.back().best = {made.word, made.path, made.score};
         }
     }

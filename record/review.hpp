@@ -44,7 +44,7 @@ public:
     /// Whether the list has words: a user dictionary may be gone.
     [[nodiscard]] bool hasWords(ReviewList list) const;
 
-    /// What was there before a turn. A player's word that scored more than any word found is the best one.
+    /// What was there before a turn. A word that was made and scored more than any word found is the best one.
     [[nodiscard]] const WordsThere& there(ReviewList list, int turn) const;
 
     /// The points of the player's words, and those that the best word of each of these turns would have given.

@@ -237,6 +237,7 @@ TEST_F(PastGames, CountsDailyBoards)
     EXPECT_EQ(days[28].best, 60);
     EXPECT_EQ(form_.bestOfCalendar(), 60);
     form_.activate(*dayOf("2026-11-01"));
+    EXPECT_EQ(form_.streak(), 3);
     EXPECT_EQ(form_.calendar().front().best, 40);
     EXPECT_EQ(form_.bestOfCalendar(), 80);
     form_.activate(*dayOf("2026-11-03"));
