@@ -234,7 +234,7 @@ void GameFlow::recordGame(GameEnd end)
     GameState& state = p.game.state;
     if (!inGame_ || state.turns.empty() || state.begun.empty())
         return;
-    const GameRecord record = recordOf(p.game, state.begun, end);
+    const GameRecord record = recordOf(p.game, end);
     state.begun.clear();
     if (state.kind == GameKind::Daily)
         p.ports.screen.copyText(dailySummary(record));
@@ -260,8 +260,8 @@ void GameFlow::gameBegun()
     GameParts& p = *parts_;
     p.game.state.start = textOf(boardOf(p.game));
     const auto seconds = static_cast<unsigned>(p.ports.clock.secondsSinceMidnight());
-    p.game.state.begun = textOf(Day(p.ports.clock.today())) + " " + twoDigits(seconds / 3600) + ":" +
-                         twoDigits(seconds / 60 % 60);
+    p.game.state.begun =
+        textOf(Day(p.ports.clock.today())) + " " + twoDigits(seconds / 3600) + ":" + twoDigits(seconds / 60 % 60);
     startClock(gameSeconds);
     inGame_ = true;
 }
