@@ -259,8 +259,8 @@ void GameFlow::gameBegun()
     GameParts& p = *parts_;
     p.game.state.start = textOf(boardOf(p.game));
     const auto seconds = static_cast<unsigned>(p.ports.clock.secondsSinceMidnight());
-    p.game.state.begun = textOf(Day(p.ports.clock.today())) + " " + twoDigits(seconds / 3600) + ":" +
-                         twoDigits(seconds / 60 % 60);
+    p.game.state.begun =
+        textOf(Day(p.ports.clock.today())) + " " + twoDigits(seconds / 3600) + ":" + twoDigits(seconds / 60 % 60);
     startClock(gameSeconds);
     inGame_ = true;
 }
