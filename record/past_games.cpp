@@ -1,6 +1,7 @@
 #include "record/past_games.hpp"
 
 #include <algorithm>
+#include <iterator>
 #include <map>
 #include <set>
 #include <utility>
@@ -82,8 +83,7 @@ void PastGamesForm::activate(Day today)
     const RecordFolder::Contents contents = folder_.list();
     damaged_ = contents.damaged;
     games_.clear();
-    for (const NamedRecord& game : contents.records)
-        games_.push_back(pastGameOf(game));
+    std::transform(contents.records.rbegin(), contents.records.rend(), std::back_inserter(games_), pastGameOf);
     column_ = Column::Date;
     ascending_ = false;
     level_.reset();
@@ -130,7 +130,7 @@ void PastGamesForm::filter(std::optional<int> level)
 void PastGamesForm::arrange()
 {
     rows_.clear();
-    std::copy_if(games_.begin(), games_.end(), std::back_inserter(rows_),
+    std::copy_if(games_.rbegin(), games_.rend(), std::back_inserter(rows_),
                  [this](const PastGame& game) { return !level_ || game.level == *level_; });
     std::stable_sort(rows_.begin(), rows_.end(), [this](const PastGame& a, const PastGame& b) {
         return ascending_ ? isBefore(a, b, column_) : isBefore(b, a, column_);
@@ -152,9 +152,9 @@ std::unique_ptr<ReviewForm> PastGamesForm::openRow(std::size_t row) const
 std::vector<PastGamesForm::ChartPoint> PastGamesForm::chart() const
 {
     std::vector<ChartPoint> points;
-    for (auto game = games_.rbegin(); game != games_.rend(); ++game) {
-        if (!level_ || game->level == *level_)
-            points.push_back({game->begun, game->score});
+    for (const PastGame& game : games_) {
+        if (!level_ || game.level == *level_)
+            points.push_back({game.begun, game.score});
     }
     return points;
 }
@@ -162,16 +162,15 @@ std::vector<PastGamesForm::ChartPoint> PastGamesForm::chart() const
 std::vector<PastGamesForm::Best> PastGamesForm::bests() const
 {
     std::map<std::pair<int, Arrangement>, Best> bests;
-    for (auto game = games_.rbegin(); game != games_.rend(); ++game) {
-        if (game->kind != GameKind::Normal || game->computerGame)
+    for (const PastGame& game : games_) {
+        if (game.kind != GameKind::Normal || game.computerGame)
             continue;
-        const auto [best, isFirst] = bests.try_emplace({game->level, game->arrangement});
-        if (isFirst || game->score > best->second.score)
-            best->second = {game->level, game->arrangement, game->score, game->begun};
+        const auto [best, isFirst] = bests.try_emplace({game.level, game.arrangement});
+        if (isFirst || game.score > best->second.score)
+            best->second = {game.level, game.arrangement, game.score, game.begun};
     }
     std::vector<Best> list;
-    for (const auto& [place, best] : bests)
-        list.push_back(best);
+    std::transform(bests.begin(), bests.end(), std::back_inserter(list), [](const auto& best) { return best.second; });
     return list;
 }
 

@@ -103,7 +103,7 @@ private:
     RecordFolder folder_;
     ReviewLists& lists_;
     Meanings& meanings_;
-    std::vector<PastGame> games_; ///< all, the newest first
+    std::vector<PastGame> games_; ///< all, the oldest first
     std::vector<PastGame> rows_;
     int damaged_ = 0;
     Day today_{};

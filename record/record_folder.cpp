@@ -28,7 +28,8 @@ std::string freeName(const std::string& folder, const std::string& begun)
     const std::string moment = begun.substr(0, 10) + '-' + begun.substr(11, 2) + begun.substr(14, 2) + '-';
     for (int number = 1; number <= 999; ++number) {
         const std::string digits = std::to_string(number);
-        std::string name = moment + std::string(3 - digits.size(), '0') + digits + ".txt";
+        std::string name = moment;
+        name.append(3 - digits.size(), '0').append(digits).append(".txt");
         if (!fs::exists(folder + name))
             return name;
     }
