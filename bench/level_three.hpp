@@ -68,7 +68,7 @@ private:
     std::filesystem::path path_;
 };
 
-/// Asks nobody. A message, which would report a failure, is printed.
+/// Asks no questions. A message, which would report a failure, is printed.
 class NoDialogs : public Dialogs
 {
 public:

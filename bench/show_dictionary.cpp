@@ -3,9 +3,10 @@
 //   bench_show_dictionary [LIST]
 
 #include "bench/level_three.hpp"
-#include "flow/game_flow.hpp"
-#include "ui/dialogs/maintenance_dialog.hpp"
+#include "dictionary/maintenance.hpp"
+#include "ui/dialogs/dialogs.hpp"
 #include "ui/look/text.hpp"
+#include "ui/machine/host.hpp"
 
 #include <QApplication>
 #include <QListView>
@@ -70,11 +71,10 @@ int main(int argumentCount, char** arguments)
     dictionary.read(dialogs, status, random, clock);
     DictionaryMaintenance form(dictionary, dialogs, screen, clock);
     Host host;
-    MaintenanceDialog dialog(host);
     QTimer::singleShot(0, [&] {
         measure(dictionary.words);
         QApplication::activeModalWidget()->close();
     });
-    dialog.show(form);
+    runMaintenanceDialog(host, form);
     return 0;
 }

@@ -90,8 +90,8 @@ int showGame(QApplication& application, const std::string& folder)
 {
     QApplication::setWindowIcon(gameIcon());
     FrontEnd game(folder);
-    game.window.input([&] { game.flow.startUp(); });
-    const Reporter reporter(game.window, [&] { game.window.input([&] { game.flow.startGame(); }); });
+    game.flow.startUp();
+    const Reporter reporter(game.window, [&] { game.flow.startGame(); });
     game.window.show();
     return application.exec();
 }

@@ -6,7 +6,10 @@ add_library(lexigrove_flags INTERFACE)
 target_compile_features(lexigrove_flags INTERFACE cxx_std_20)
 target_include_directories(lexigrove_flags INTERFACE ${CMAKE_SOURCE_DIR})
 target_compile_options(lexigrove_flags INTERFACE
-    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor -Woverloaded-virtual -Werror)
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor -Woverloaded-virtual)
+if(LEXIGROVE_WERROR)
+    target_compile_options(lexigrove_flags INTERFACE -Werror)
+endif()
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
     # When optimizing, this compiler reports false overlaps and unset values in its own strings and optionals.
     target_compile_options(lexigrove_flags INTERFACE
@@ -19,10 +22,17 @@ if(LEXIGROVE_SANITIZE)
 endif()
 
 # lexigrove_library(<folder> SOURCES <files> [DEPENDS <lower floors>])
-# A folder is a static library of the folder's name.
+# A folder is a static library of the folder's name. Where CMAKE_UNITY_BUILD is on, the files of one folder are compiled
+# in one piece, so that every header is read once a folder; a name in an unnamed namespace is therefore unique in its
+# folder.
 function(lexigrove_library name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;DEPENDS")
     add_library(${name} STATIC ${arg_SOURCES})
+    foreach(source IN LISTS arg_SOURCES)
+        cmake_path(GET source PARENT_PATH folder)
+        set_source_files_properties(${source} PROPERTIES UNITY_GROUP "${name}/${folder}")
+    endforeach()
+    set_target_properties(${name} PROPERTIES UNITY_BUILD_MODE GROUP)
     target_link_libraries(${name} PUBLIC lexigrove_flags ${arg_DEPENDS})
 endfunction()
 
@@ -34,7 +44,7 @@ function(lexigrove_test name)
         set(arg_TIMEOUT 300)
     endif()
     add_executable(${name} ${arg_SOURCES})
-    set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
+    set_target_properties(${name} PROPERTIES UNITY_BUILD OFF RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
     target_link_libraries(${name} PRIVATE ${arg_DEPENDS} GTest::gmock GTest::gtest_main)
     gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT ${arg_TIMEOUT})
 endfunction()

@@ -1,6 +1,7 @@
 #include "console/console.hpp"
 
 #include "controls/colour.hpp"
+#include "platform/ascii.hpp"
 #include "platform/ports.hpp"
 
 #include <algorithm>
@@ -31,7 +32,7 @@ std::string_view takeId(std::string_view& line)
 {
     const std::size_t end = std::min(line.find(' '), line.size());
     const std::string_view id = line.substr(0, end);
-    if (id.empty() || !std::all_of(id.begin(), id.end(), [](char c) { return c >= '0' && c <= '9'; }))
+    if (!ascii::isNumber(id))
         return {};
     line.remove_prefix(end);
     return id;
@@ -58,7 +59,7 @@ void Console::run(const std::optional<BoardPosition>& position)
             carryOut(*line);
         } else {
             flow_.perform(Command::Exit);
-            tellExit();
+            writeExit();
         }
     }
 }
@@ -73,7 +74,7 @@ void Console::carryOut(const std::string& line)
     Arguments arguments(rest);
     try {
         const Lines lines = answer(arguments.required("command"), arguments);
-        tellExit();
+        writeExit();
         channel_.writeAnswer(id, lines);
     } catch (const CommandError& error) {
         channel_.writeFailure(id, error.what());
@@ -90,7 +91,7 @@ Lines Console::answer(const std::string& name, Arguments& arguments)
     return command->run(context_, arguments);
 }
 
-void Console::tellExit()
+void Console::writeExit()
 {
     if (flow_.ended())
         channel_.writeEvent("exit");

@@ -33,7 +33,7 @@ public:
 private:
     void carryOut(const std::string& line);
     Lines answer(const std::string& name, Arguments& arguments);
-    void tellExit();
+    void writeExit();
 
     LineChannel channel_;
     std::unique_ptr<const Clock> clock_;

@@ -5,10 +5,10 @@
 #include "game/game_state.hpp"
 #include "game/letter_supply.hpp"
 #include "game/selection.hpp"
+#include "platform/ascii.hpp"
 #include "settings/options_form.hpp"
 
 #include <algorithm>
-#include <cctype>
 
 namespace lexigrove
 {
@@ -23,8 +23,8 @@ std::string cell(const BoxControl& tile)
     if (!tile.Visible())
         return ".";
     std::string text = tile.Caption().empty() ? "_" : tile.Caption();
-    if (tile.Tag() == "X" && text[0] >= 'A' && text[0] <= 'Z')
-        text[0] = static_cast<char>(text[0] - 'A' + 'a');
+    if (tile.Tag() == "X")
+        text[0] = ascii::toLower(text[0]);
     return tile.MaskColor() == multiplier::plain ? text : text + std::to_string(tile.MaskColor());
 }
 

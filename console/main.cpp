@@ -1,6 +1,5 @@
 #include "console/command_line.hpp"
 #include "console/console.hpp"
-#include "console/version.hpp"
 #include "platform/program_folder.hpp"
 
 #include <clocale>
@@ -17,7 +16,7 @@ int play(const lexigrove::CommandLine& options)
 {
     const std::string folder = lexigrove::programFolder(lexigrove::programFolderRequest(options.folder));
     if (isatty(STDIN_FILENO) != 0) {
-        std::cerr << "LexiGrove " << lexigrove::gameVersion()
+        std::cerr << "LexiGrove " << LEXIGROVE_VERSION
                   << ": \"new_game\" starts a game, \"show\" shows it, \"list_commands\" lists the commands.\n";
     }
     lexigrove::Console console(folder, options.timeOfDay, std::cin, std::cout);
@@ -41,8 +40,7 @@ int main(int argc, char** argv)
             return badOptionStatus;
         }
         if (options.help || options.version) {
-            std::cout << (options.help ? lexigrove::helpText
-                                       : std::string("LexiGrove ") + lexigrove::gameVersion() + "\n");
+            std::cout << (options.help ? lexigrove::helpText : std::string("LexiGrove ") + LEXIGROVE_VERSION + "\n");
             return 0;
         }
         try {

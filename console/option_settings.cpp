@@ -1,9 +1,10 @@
 #include "console/option_settings.hpp"
 
-#include "dictionary/word_text.hpp"
+#include "platform/ascii.hpp"
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace lexigrove
 {
@@ -71,17 +72,16 @@ bool isFreeText(std::string_view key)
 /// Letters in any case, or "x", which `options` prints for a game whose score is not recorded.
 void checkPreset(const std::string& value)
 {
-    const auto isLetter = [](char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); };
-    if (value.size() > std::size_t{PresetLetters::count} || !std::all_of(value.begin(), value.end(), isLetter))
+    if (value.size() > std::size_t{PresetLetters::count} || !std::all_of(value.begin(), value.end(), ascii::isLetter))
         throw CommandError("preset must be up to 100 letters A to Z: " + value);
 }
 
 void choosePresetLetters(PresetLetters& preset, const std::string& value)
 {
     if (value == "x")
-        preset.closeScoreOffer();
+        preset.markUnrecorded();
     else
-        preset.choose(upperCase(value));
+        preset.choose(ascii::upperCase(value));
 }
 
 } // namespace

@@ -13,7 +13,7 @@ namespace lexigrove
 namespace
 {
 
-constexpr int mostTicks = 1'000'000;
+constexpr int maxTicks = 1'000'000;
 
 MouseButton buttonArgument(Arguments& arguments)
 {
@@ -23,7 +23,7 @@ MouseButton buttonArgument(Arguments& arguments)
 int ticksArgument(Arguments& arguments)
 {
     const auto typed = arguments.next();
-    return typed ? numberIn("ticks", *typed, 1, mostTicks) : 1;
+    return typed ? numberIn("ticks", *typed, 1, maxTicks) : 1;
 }
 
 struct Click {

@@ -1,6 +1,7 @@
 #include "console/command.hpp"
 #include "game/board.hpp"
 #include "game/game_state.hpp"
+#include "platform/ascii.hpp"
 #include "settings/options_form.hpp"
 
 #include <algorithm>
@@ -25,11 +26,9 @@ std::string letterArgument(Arguments& arguments)
     const std::string text = arguments.required("letter");
     if (text == ".")
         return {};
-    const char letter =
-        static_cast<char>(text.size() == 1 && text[0] >= 'a' && text[0] <= 'z' ? text[0] - 'a' + 'A' : text[0]);
-    if (text.size() != 1 || letter < 'A' || letter > 'Z')
+    if (text.size() != 1 || !ascii::isLetter(text[0]))
         throw CommandError("letter must be A to Z or .: " + text);
-    return {letter};
+    return ascii::upperCase(text);
 }
 
 TileEdit tileEdit(Arguments& arguments)
@@ -83,20 +82,20 @@ struct Setting {
     int GameState::*number; ///< null for those that are set differently
 };
 
-constexpr int mostPoints = 1'000'000'000; // adding a word's score is then far from overflowing
-constexpr int most16 = std::numeric_limits<std::int16_t>::max();
-constexpr int least16 = std::numeric_limits<std::int16_t>::min();
+constexpr int maxPoints = 1'000'000'000; // adding a word's score is then far from overflowing
+constexpr int max16 = std::numeric_limits<std::int16_t>::max();
+constexpr int min16 = std::numeric_limits<std::int16_t>::min();
 
-constexpr Setting settings[] = {
-    {"YourScore", -mostPoints, mostPoints, &GameState::yourScore},
-    {"CompScore", -mostPoints, mostPoints, &GameState::compScore},
-    {"TilesLeft", least16, most16, nullptr},
-    {"ticks", 0, most16, &GameState::tickCount},
-    {"hints_used", 0, most16, &GameState::hintsUsed},
-    {"red_threshold", least16, most16, nullptr},
-    {"last_pressure", -mostPoints, mostPoints, &GameState::lastPressure},
-    {"bonus_tiles", 0, most16, &GameState::bonusTilesOnBoard},
-    {"red_tiles_used", 0, most16, &GameState::redTilesUsed},
+constexpr Setting numbersToSet[] = {
+    {"YourScore", -maxPoints, maxPoints, &GameState::yourScore},
+    {"CompScore", -maxPoints, maxPoints, &GameState::compScore},
+    {"TilesLeft", min16, max16, nullptr},
+    {"ticks", 0, max16, &GameState::tickCount},
+    {"hints_used", 0, max16, &GameState::hintsUsed},
+    {"red_threshold", min16, max16, nullptr},
+    {"last_pressure", -maxPoints, maxPoints, &GameState::lastPressure},
+    {"bonus_tiles", 0, max16, &GameState::bonusTilesOnBoard},
+    {"red_tiles_used", 0, max16, &GameState::redTilesUsed},
 };
 
 struct NewValue {
@@ -107,9 +106,9 @@ struct NewValue {
 NewValue newValue(Arguments& arguments)
 {
     const std::string name = arguments.required("name");
-    const auto* const setting = std::find_if(std::begin(settings), std::end(settings),
+    const auto* const setting = std::find_if(std::begin(numbersToSet), std::end(numbersToSet),
                                              [&](const Setting& entry) { return entry.name == name; });
-    if (setting == std::end(settings))
+    if (setting == std::end(numbersToSet))
         throw CommandError("unknown name: " + name);
     const std::string value = arguments.required("value");
     if (name == "TilesLeft" && value == "NONE")

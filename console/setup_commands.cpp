@@ -1,6 +1,5 @@
 #include "console/command.hpp"
 #include "console/option_settings.hpp"
-#include "console/version.hpp"
 #include "settings/options_form.hpp"
 
 #include <algorithm>
@@ -59,7 +58,7 @@ std::vector<ConsoleCommand> setUpCommands()
     const auto onOff = [](Arguments& arguments) { return arguments.choice("developer", {"on", "off"}); };
     return {
         command("name", When::Always, [](CommandContext&) -> Lines { return {"LexiGrove"}; }),
-        command("version", When::Always, [](CommandContext&) -> Lines { return {gameVersion()}; }),
+        command("version", When::Always, [](CommandContext&) -> Lines { return {LEXIGROVE_VERSION}; }),
         command("protocol_version", When::Always, [](CommandContext&) -> Lines { return {"1"}; }),
         command("list_commands", When::Always, commandNames),
         command("known_command", When::Always, name, knownCommand),

@@ -2,6 +2,7 @@
 #include "dictionary/dictionary.hpp"
 #include "dictionary/field_cipher.hpp"
 #include "dictionary/word_text.hpp"
+#include "platform/ascii.hpp"
 #include "settings/colour_scheme.hpp"
 
 namespace lexigrove
@@ -122,7 +123,7 @@ Lines saveConfiguration(CommandContext& context)
 std::string schemeArgument(Arguments& arguments)
 {
     const std::string text = arguments.rest();
-    return std::string(trimBlanks(text));
+    return std::string(ascii::trimmed(text));
 }
 
 Lines loadScheme(CommandContext& context, const std::string& name)

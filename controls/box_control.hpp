@@ -12,8 +12,8 @@ namespace lexigrove
 
 class Screen;
 
-/// What a `BoxControl` tells its container, in the order of the control's interface. `X` and `Y` are in units, relative
-/// to the part (surface or caption) under the pointer; `Button` is 1 left, 2 right, 4 middle.
+/// What a `BoxControl` reports to its container, in the order of the control's interface. `X` and `Y` are in units,
+/// relative to the part (surface or caption) under the pointer; `Button` is 1 left, 2 right, 4 middle.
 class BoxControlEvents
 {
 public:

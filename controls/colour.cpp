@@ -66,11 +66,11 @@ double contrastRatio(Colour a, Colour b)
     return (lighter + 0.05) / (darker + 0.05);
 }
 
-Colour readableOn(Colour ground)
+Colour readableOn(Colour background)
 {
     constexpr Colour black = rgb(0, 0, 0);
     constexpr Colour white = rgb(255, 255, 255);
-    return contrastRatio(black, ground) >= contrastRatio(white, ground) ? black : white;
+    return contrastRatio(black, background) >= contrastRatio(white, background) ? black : white;
 }
 
 } // namespace lexigrove

@@ -54,7 +54,7 @@ struct SystemPalette {
 /// Contrast ratio of two plain colours, 1 to 21, from the relative luminances of WCAG 2.
 double contrastRatio(Colour a, Colour b);
 
-/// Black or white, whichever reads better on a plain ground.
-Colour readableOn(Colour ground);
+/// Black or white, whichever reads better on a plain background.
+Colour readableOn(Colour background);
 
 } // namespace lexigrove

@@ -1,5 +1,7 @@
 #include "controls/dc.hpp"
 
+#include "platform/ascii.hpp"
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -30,14 +32,6 @@ std::int16_t toInt16(int value)
 int divideDown(int dividend, int divisor)
 {
     return static_cast<int>(std::floor(static_cast<double>(dividend) / divisor));
-}
-
-std::string upperCase(std::string text)
-{
-    for (char& c : text)
-        if (c >= 'a' && c <= 'z')
-            c = static_cast<char>(c - 'a' + 'A');
-    return text;
 }
 
 /// The two ends of a segment. By design, the middle bars of digits 0 and 2 are a pixel further left.
@@ -132,7 +126,7 @@ void Dc::ShowTimeOnly(bool value)
 
 void Dc::ClockColor(std::string name)
 {
-    const std::string theme = upperCase(name);
+    const std::string theme = ascii::upperCase(name);
     ClockColor_ = std::move(name);
     changed_ = true;
     if (theme == "DEFAULT")
@@ -280,7 +274,7 @@ void frame10Released(Dc& clock, MouseButton button)
         const int thicker = clock.DigitWidth() + 1;
         clock.DigitWidth(toInt16(thicker >= 7 ? 2 : thicker));
     } else if (button == MouseButton::Right) {
-        const std::string theme = upperCase(clock.ClockColor());
+        const std::string theme = ascii::upperCase(clock.ClockColor());
         clock.ClockColor(theme == "GREEN" ? "BLUE" : theme == "BLUE" ? "RED" : "GREEN");
     }
 }

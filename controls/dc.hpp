@@ -22,7 +22,7 @@ struct ClockLine {
 
 /// The background rectangle of the clock.
 struct ClockRectangle {
-    Point leftTop;
+    Point topLeft;
     Size size;
     Colour fill = 0;
     Colour border = 0;

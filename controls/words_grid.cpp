@@ -1,5 +1,7 @@
 #include "controls/words_grid.hpp"
 
+#include "platform/ascii.hpp"
+
 #include <algorithm>
 #include <stdexcept>
 
@@ -10,10 +12,10 @@ namespace
 {
 
 /// The lower-case form of a Windows-1252 capital letter; any other character is returned unchanged.
-unsigned char smallLetter(char c)
+unsigned char lowerCase(char c)
 {
     const auto code = static_cast<unsigned char>(c);
-    if ((code >= 'A' && code <= 'Z') || (code >= 0xC0 && code <= 0xDE && code != 0xD7))
+    if (ascii::isUpper(c) || (code >= 0xC0 && code <= 0xDE && code != 0xD7))
         return static_cast<unsigned char>(code + 0x20);
     if (code == 0x8A || code == 0x8C || code == 0x8E) // S with caron, OE, Z with caron
         return static_cast<unsigned char>(code + 0x10);
@@ -30,7 +32,7 @@ bool isBefore(const WordsRow& a, const WordsRow& b, int column)
     case WordsGrid::lengthColumn:
         return a.word.size() < b.word.size();
     default:
-        return std::ranges::lexicographical_compare(a.word, b.word, {}, smallLetter, smallLetter);
+        return std::ranges::lexicographical_compare(a.word, b.word, {}, lowerCase, lowerCase);
     }
 }
 

@@ -1,6 +1,6 @@
 #include "dictionary/field_cipher.hpp"
 
-#include "dictionary/word_text.hpp"
+#include "platform/ascii.hpp"
 
 #include <stdexcept>
 
@@ -36,9 +36,9 @@ private:
 unsigned cellValue(std::string_view cell)
 {
     unsigned value = 0;
-    for (const char character : trimBlanks(cell)) {
-        const auto digit = hexDigits.find(static_cast<char>(upperCase(static_cast<unsigned char>(character))));
-        if (digit == std::string_view::npos)
+    for (const char character : ascii::trimmed(cell)) {
+        const int digit = ascii::hexValue(character);
+        if (digit < 0)
             break;
         value = value * 16 + static_cast<unsigned>(digit);
     }

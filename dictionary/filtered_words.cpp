@@ -12,11 +12,11 @@ namespace lexigrove
 namespace
 {
 
-std::array<unsigned char, 256> upperCaseTable()
+std::array<char, 256> upperCaseTable()
 {
-    std::array<unsigned char, 256> table{};
+    std::array<char, 256> table{};
     for (unsigned code = 0; code < 256; ++code)
-        table[code] = upperCase(static_cast<unsigned char>(code));
+        table[code] = upperCase(static_cast<char>(code));
     return table;
 }
 
@@ -64,9 +64,9 @@ void FilteredWords::applySearch()
     found_.clear();
     if (search_.empty())
         return;
-    const std::array<unsigned char, 256> upper = upperCaseTable();
+    const std::array<char, 256> upper = upperCaseTable();
     const auto same = [&upper](char letter, char sought) {
-        return upper[static_cast<unsigned char>(letter)] == static_cast<unsigned char>(sought);
+        return upper[static_cast<unsigned char>(letter)] == sought;
     };
     for (int i = 1; i <= count_; ++i) {
         const std::string_view word = words_.entry(i);

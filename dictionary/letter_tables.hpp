@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/ascii.hpp"
 #include "platform/clock.hpp"
 #include "platform/random.hpp"
 
@@ -55,7 +56,7 @@ private:
 /// The place of a letter in the alphabet, 1 to 26, and 0 for anything but A to Z.
 constexpr int letterIndex(char letter)
 {
-    return letter >= 'A' && letter <= 'Z' ? letter - 'A' + 1 : 0;
+    return ascii::isUpper(letter) ? letter - 'A' + 1 : 0;
 }
 
 /// The score of a letter; 0 for anything but A to Z.

@@ -1,7 +1,7 @@
 #include "dictionary/maintained_format.hpp"
 
 #include "dictionary/field_cipher.hpp"
-#include "dictionary/word_text.hpp"
+#include "platform/ascii.hpp"
 #include "platform/text_file.hpp"
 
 #include <algorithm>
@@ -22,7 +22,7 @@ constexpr std::size_t largestWordsSize = std::size_t{64} << 20;
 /// The number at the start of a text, or 0 without one.
 double leadingNumber(std::string_view text)
 {
-    const std::string_view trimmed = trimBlanks(text);
+    const std::string_view trimmed = ascii::trimmed(text);
     double number = 0;
     const auto result = std::from_chars(trimmed.data(), trimmed.data() + trimmed.size(), number);
     return result.ec == std::errc::result_out_of_range ? HUGE_VAL : number;

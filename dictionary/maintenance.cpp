@@ -2,6 +2,7 @@
 
 #include "dictionary/sorting_list.hpp"
 #include "dictionary/word_text.hpp"
+#include "platform/ascii.hpp"
 #include "platform/text_file.hpp"
 
 #include <stdexcept>
@@ -114,7 +115,7 @@ void DictionaryMaintenance::spellCheck()
         dialogs_.message("Load Dictionary first");
         return;
     }
-    const std::string sought = upperCase(trimBlanks(Text1));
+    const std::string sought = upperCase(ascii::trimmed(Text1));
     const bool found = dictionary_.words.findWord(sought) != -1;
     dialogs_.message(sought + (found ? " found" : " NOT found"));
 }
@@ -124,7 +125,7 @@ void DictionaryMaintenance::addWord()
     const std::optional<LevelFiles> files = filesToChange();
     if (!files)
         return;
-    const std::string sought = upperCase(trimBlanks(Text1));
+    const std::string sought = upperCase(ascii::trimmed(Text1));
     const std::string added = upperCase(Text1); // blanks included
     const WordList before = dictionary_.words;
     if (before.findWord(sought) != -1) {
@@ -163,7 +164,7 @@ void DictionaryMaintenance::removeWord()
     const std::optional<LevelFiles> files = filesToChange();
     if (!files)
         return;
-    const std::string removed = upperCase(trimBlanks(Text1));
+    const std::string removed = upperCase(ascii::trimmed(Text1));
     const WordList before = dictionary_.words;
     if (removed.empty() || before.findWord(removed) == -1) {
         dialogs_.message(removed + " does not exist in dictionary");

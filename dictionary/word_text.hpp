@@ -7,12 +7,9 @@ namespace lexigrove
 {
 
 /// The upper-case form of a Windows-1252 character; a character without one is returned unchanged.
-unsigned char upperCase(unsigned char character);
+char upperCase(char character);
 
 /// The text in upper case, Windows-1252.
 std::string upperCase(std::string_view text);
-
-/// The text without its leading and trailing blanks (no other white space). The view points into `text`.
-std::string_view trimBlanks(std::string_view text);
 
 } // namespace lexigrove

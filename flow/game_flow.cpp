@@ -37,7 +37,7 @@ ScoreForm::Answer offerScore(GameParts& parts)
     return showTopTen(parts.scoreForm, parts.ports.windows, score);
 }
 
-void tellWinner(const GameState& state, StatusLine& status)
+void showWinner(const GameState& state, StatusLine& status)
 {
     const int lead = state.yourScore - state.compScore;
     if (lead > 0)
@@ -105,12 +105,12 @@ void GameFlow::startUp(std::optional<Arrangement> arrangement)
     input(When::Always, [&](GameParts& p) {
         setUpClock(p.Dc1);
         const WindowColours before = deriveWindowColours(p.scheme);
-        p.configuration.load(before.ground, before.card);
+        p.configuration.load(before.background, before.card);
         p.options.applyDictionaryChoice();
         p.options.loadSchemes();
         if (p.Dc1.ClockColor() == "DEFAULT") { // its colours are from before the scheme was loaded
             const WindowColours colours = deriveWindowColours(p.scheme);
-            p.Dc1.ClockBackground(colours.ground);
+            p.Dc1.ClockBackground(colours.background);
             p.Dc1.DigitHighlight(colours.card);
         }
         p.game.refreshLooks();
@@ -131,7 +131,7 @@ void GameFlow::openOptionsAndStart()
 void GameFlow::startGame()
 {
     input(When::Always, [this](GameParts& p) {
-        if (!p.options.settings.presetLetters.wait()) // a game was dealt from them, or its score is not recorded
+        if (!p.options.settings.presetLetters.areWaiting()) // a game was dealt from them, or its score is not recorded
             p.options.settings.presetLetters.clear();
         clearGame();
         beginGame();
@@ -172,14 +172,14 @@ void GameFlow::beginGame()
     p.services.choose(p.options);
     p.game.state.resetForNewGame();
     p.game.state.computerGame = p.options.isComputerGame();
-    p.game.state.kind = p.options.settings.presetLetters.wait() ? GameKind::Preset : GameKind::Normal;
+    p.game.state.kind = p.options.settings.presetLetters.areWaiting() ? GameKind::Preset : GameKind::Normal;
     p.maintenance.reset();
     p.dictionary.read(p.ports.dialogs, p.ports.status, p.ports.random, p.ports.clock);
     p.game.board.layOut(p.options.isSquare() ? Arrangement::Square : Arrangement::Staggered);
     p.game.supply.dealLetters();
     p.game.refreshLooks();
     if (p.game.state.computerGame)
-        p.options.settings.presetLetters.closeScoreOffer();
+        p.options.settings.presetLetters.markUnrecorded();
     gameBegun();
 }
 
@@ -224,7 +224,7 @@ bool GameFlow::giveUpGame()
         recordGame(GameEnd::NewGame);
         PresetLetters& preset = p.options.settings.presetLetters;
         if (preset.isNormalGame()) {
-            preset.closeScoreOffer(); // offered once: leaving does not record the score a second time
+            preset.markUnrecorded(); // offered once: leaving does not record the score a second time
             if (offerScore(p) == ScoreForm::Answer::ExitProgram)
                 leave();
         }
@@ -259,7 +259,7 @@ void GameFlow::endOfGame(GameEnd end)
     PresetLetters& preset = p.options.settings.presetLetters;
     if (preset.isNormalGame()) {
         p.game.state.statistics.setHintsUsed(p.game.state.hintsUsed);
-        preset.closeScoreOffer(); // offered once: leaving does not record the score a second time
+        preset.markUnrecorded(); // offered once: leaving does not record the score a second time
         const ScoreForm::Answer answer = offerScore(p);
         if (answer == ScoreForm::Answer::ExitProgram)
             leave();

@@ -144,7 +144,7 @@ private:
     void loseGame(int col);
     void endOfGame(GameEnd end);
     void clockExpired();
-    void openingWindow();
+    void prepareWindow();
     void pauseOrResume();
     void resume();
     [[noreturn]] void leave();

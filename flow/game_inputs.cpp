@@ -36,7 +36,7 @@ const GameFlow::Entry& GameFlow::entryOf(Command command)
         Entry{Command::SharedBoard, When::NotPaused, Ends, [](Flow& flow, Parts&) { flow.askForSharedBoard(); }},
         Entry{Command::PastGames, When::NotPaused, Ends,
               [](Flow& flow, Parts& p) {
-                  flow.openingWindow();
+                  flow.prepareWindow();
                   p.pastGames.activate(p.ports.clock.today());
                   p.ports.windows.show(p.pastGames);
               }},
@@ -61,7 +61,7 @@ const GameFlow::Entry& GameFlow::entryOf(Command command)
         Entry{Command::GetHint, When::InPlay, Ends, [](Flow&, Parts& p) { p.hints.getHint(); }},
         Entry{Command::CheckWord, When::InPlay, Ends,
               [](Flow&, Parts& p) { checkSpelling(p.game.selection, p.dictionary, p.sounds, p.ports.status); }},
-        Entry{Command::ShowMeaning, When::InPlay, Ends, [](Flow&, Parts& p) { p.meanings.showOfCurrentRow(); }},
+        Entry{Command::ShowMeaning, When::InPlay, Ends, [](Flow&, Parts& p) { p.meanings.showForCurrentRow(); }},
         Entry{Command::AddWord, When::InPlay, Ends,
               [](Flow&, Parts& p) {
                   if (!p.maintenance.open(p.game.selection.word(), p.ports.status))
@@ -71,24 +71,24 @@ const GameFlow::Entry& GameFlow::entryOf(Command command)
               }},
         Entry{Command::TopTen, When::InPlay, Ends,
               [](Flow& flow, Parts& p) {
-                  flow.openingWindow();
+                  flow.prepareWindow();
                   showTopTen(p.scoreForm, p.ports.windows, {});
               }},
         Entry{Command::Statistics, When::InPlay, Ends,
               [](Flow& flow, Parts& p) {
-                  flow.openingWindow();
+                  flow.prepareWindow();
                   p.game.state.statistics.setHintsUsed(p.game.state.hintsUsed);
                   p.statisticsForm.activate(p.game.state.computerGame, p.dictionary.letters.letterCounts);
                   p.ports.windows.show(p.statisticsForm);
               }},
         Entry{Command::Help, When::Always, Ends,
               [](Flow& flow, Parts& p) {
-                  flow.openingWindow();
+                  flow.prepareWindow();
                   p.ports.windows.showHelp(p.folder + "lexigrove.htm");
               }},
         Entry{Command::About, When::Always, Ends,
               [](Flow& flow, Parts& p) {
-                  flow.openingWindow();
+                  flow.prepareWindow();
                   p.ports.windows.showAbout();
               }},
         Entry{Command::AskPassword, When::Always, Ends,
@@ -165,7 +165,7 @@ void GameFlow::typeLetter(char letter)
 {
     input(When::InPlay, [=](GameParts& p) {
         p.game.letterSwap.cancel(); // typing is another action
-        spellOn(p.game, letter);
+        extendWord(p.game, letter);
     });
 }
 
@@ -174,7 +174,7 @@ void GameFlow::typeWord(const std::string& word)
     input(When::InPlay, [&](GameParts& p) {
         p.game.letterSwap.cancel();
         for (const char letter : word) {
-            if (!spellOn(p.game, letter))
+            if (!extendWord(p.game, letter))
                 return;
         }
     });
@@ -225,7 +225,7 @@ void GameFlow::releaseDeveloperKey(DeveloperKey key)
 }
 
 /// What precedes every window opened from the main one: a sound, and no pressure until the next word.
-void GameFlow::openingWindow()
+void GameFlow::prepareWindow()
 {
     parts_->game.state.redTileHold = true;
     parts_->sounds.play(cue::menu);
@@ -263,9 +263,9 @@ void GameFlow::tick(Timer timer)
     case Timer::Push:
         input(When::InPlay, [this](GameParts& p) {
             const RedTiles::PushResult push = p.game.redTiles.pushTimerTick();
-            if (push.what == RedTiles::Push::Pushed)
+            if (push.outcome == RedTiles::Push::Pushed)
                 p.game.letterSwap.cancel();
-            if (push.what == RedTiles::Push::Lost)
+            if (push.outcome == RedTiles::Push::Lost)
                 loseGame(push.col);
         });
         break;

@@ -140,7 +140,7 @@ void GameFlow::continueFrom(const Position& position)
     if (position.state.kind == GameKind::Normal && !position.state.computerGame)
         options.settings.presetLetters.clear();
     else
-        options.settings.presetLetters.closeScoreOffer();
+        options.settings.presetLetters.markUnrecorded();
     startClock(position.secondsLeft);
     inGame_ = true;
     saved_ = withoutTime(this->position());
@@ -162,7 +162,7 @@ void GameFlow::beginFrom(const BoardPosition& board, GameKind kind)
     p.dictionary.applyChoice(board.level, p.options.UsrDictName.Text);
     p.dictionary.read(p.ports.dialogs, p.ports.status, p.ports.random, p.ports.clock);
     restore(p.game, board);
-    p.options.settings.presetLetters.closeScoreOffer();
+    p.options.settings.presetLetters.markUnrecorded();
     gameBegun();
 }
 

@@ -75,7 +75,7 @@ void Study::loadConfiguration()
 {
     flow_.input(When::Always, [](GameParts& p) {
         const WindowColours colours = deriveWindowColours(p.scheme);
-        p.configuration.load(colours.ground, colours.card);
+        p.configuration.load(colours.background, colours.card);
     });
 }
 

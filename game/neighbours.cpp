@@ -11,7 +11,7 @@ namespace
 
 /// Overwrites the lists of tiles first, first + step, ... last with the neighbours at these offsets that are on the
 /// board.
-void pass(NeighbourTable& table, int first, int last, int step, std::initializer_list<int> offsets)
+void setNeighbours(NeighbourTable& table, int first, int last, int step, std::initializer_list<int> offsets)
 {
     for (int tile = first; tile <= last; tile += step) {
         NeighbourList list;
@@ -89,12 +89,12 @@ std::string NeighbourList::text() const
 NeighbourTable squareNeighbours()
 {
     NeighbourTable table;
-    pass(table, 1, 64, 1, {-1, +1, -7, +7, -8, +8, -9, +9});
-    pass(table, 1, 8, 1, {-1, +1, +7, +8, +9});   // left column
-    pass(table, 57, 64, 1, {-1, +1, -7, -8, -9}); // right column
-    // The first pass wraps around at the top and bottom edges; these two replace those lists.
-    pass(table, 1, 57, 8, {+1, -7, -8, +8, +9}); // top row
-    pass(table, 8, 64, 8, {-1, +7, -8, +8, -9}); // bottom row
+    setNeighbours(table, 1, 64, 1, {-1, +1, -7, +7, -8, +8, -9, +9});
+    setNeighbours(table, 1, 8, 1, {-1, +1, +7, +8, +9});   // left column
+    setNeighbours(table, 57, 64, 1, {-1, +1, -7, -8, -9}); // right column
+    // The first call wraps around at the top and bottom edges; these two replace those lists.
+    setNeighbours(table, 1, 57, 8, {+1, -7, -8, +8, +9}); // top row
+    setNeighbours(table, 8, 64, 8, {-1, +7, -8, +8, -9}); // bottom row
     return table;
 }
 

@@ -30,7 +30,7 @@ int RedTiles::pressure() const
 
 void RedTiles::makeRedTile()
 {
-    if (game_.state.redTilesOnBoard >= mostRedTiles)
+    if (game_.state.redTilesOnBoard >= maxRedTiles)
         return;
     std::vector<int> candidates; // at most one per column: its topmost plain tile
     for (int col = 1; col <= Board::columns; ++col) {

@@ -12,7 +12,7 @@ struct Game;
 class RedTiles
 {
 public:
-    static constexpr int mostRedTiles = 4;
+    static constexpr int maxRedTiles = 4;
 
     explicit RedTiles(Game& game) : game_(game) {}
 
@@ -34,12 +34,12 @@ public:
     };
 
     struct PushResult {
-        Push what = Push::Nothing;
+        Push outcome = Push::Nothing;
         int col = 0; ///< the column drawn, 0 for Nothing
     };
 
-    /// A tick of `MoveColDownTimer`: draws a special tile and pushes its column down by one cell; the waiting letter
-    /// falls in at the top.
+    /// A tick of `MoveColDownTimer`: picks a random special tile and pushes its column down by one cell; the waiting
+    /// letter falls in at the top.
     PushResult pushTimerTick();
 
     /// Shows the red tile at the bottom of a column leaving the board: the end of a lost game.

@@ -79,8 +79,8 @@ void WordEntry::awardBonusFor(std::size_t wordLength)
 
 void WordEntry::awardBonusTile(Colour multiplier)
 {
-    constexpr int mostBonusTiles = 4;
-    if (game_.state.bonusTilesOnBoard >= mostBonusTiles || game_.state.computerGame)
+    constexpr int maxBonusTiles = 4;
+    if (game_.state.bonusTilesOnBoard >= maxBonusTiles || game_.state.computerGame)
         return;
     const auto isPlain = [](const BoxControl& tile) { return tile.Visible() && tile.MaskColor() == multiplier::plain; };
     if (std::none_of(game_.board.Tiles.begin() + 1, game_.board.Tiles.end(), isPlain))

@@ -47,7 +47,7 @@ private:
     {
         if (path_.size() == word_.size())
             return true;
-        if (++steps_ > mostSteps)
+        if (++steps_ > maxSteps)
             return false;
         for (const int tile : candidates(from, path_, word_[path_.size()])) {
             path_.push_back(tile);
@@ -60,7 +60,7 @@ private:
     }
 
     /// Only a board full of one letter gets anywhere near this.
-    static constexpr int mostSteps = 50'000;
+    static constexpr int maxSteps = 50'000;
 
     const Board& board_;
     const std::string word_;
@@ -85,7 +85,7 @@ std::optional<std::vector<int>> typedPath(const Board& board, const Selection& p
     return finder.find();
 }
 
-bool spellOn(Game& game, char letter)
+bool extendWord(Game& game, char letter)
 {
     const auto path = typedPath(game.board, game.selection, letter);
     if (!path) {

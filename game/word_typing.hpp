@@ -18,6 +18,6 @@ std::optional<std::vector<int>> typedPath(const Board& board, const Selection& p
 
 /// Adds a letter to the word by clicking the tiles of its `typedPath`. If there is none, leaves the path alone and
 /// returns false, after a message on the status line.
-bool spellOn(Game& game, char letter);
+bool extendWord(Game& game, char letter);
 
 } // namespace lexigrove

@@ -8,16 +8,6 @@
 namespace lexigrove
 {
 
-namespace
-{
-
-char upperLetter(char letter)
-{
-    return static_cast<char>(upperCase(static_cast<unsigned char>(letter)));
-}
-
-} // namespace
-
 TracedWord BoardSearch::traceWord(const SearchBoard& board, std::string_view word)
 {
     TracedWord traced;
@@ -52,9 +42,9 @@ const CandidateList& BoardSearch::sweep(const SearchBoard& board, const WordList
     }
     board_.prepare(board);
     candidates_.clear(board);
-    for (WordTrie::Node node = 0; node != trie_.firstLetters(); ++node) {
+    for (WordTrie::Node node = 0; node != trie_.firstLetterCount(); ++node) {
         const char letter = trie_.letter(node);
-        const Frontier paths = board_.start(upperLetter(letter));
+        const Frontier paths = board_.start(upperCase(letter));
         visitChildren(node, paths, 1, letterValue(letter));
     }
     return candidates_;
@@ -76,7 +66,7 @@ void BoardSearch::visitChildren(WordTrie::Node parent, const Frontier& paths, in
     const WordTrie::Node first = trie_.childrenBegin(parent);
     if ((letters & otherCharacters) != 0) {
         for (WordTrie::Node node = first; node != trie_.childrenEnd(parent); ++node)
-            visit(node, upperLetter(trie_.letter(node)), letterValue(trie_.letter(node)));
+            visit(node, upperCase(trie_.letter(node)), letterValue(trie_.letter(node)));
         return;
     }
     for (LetterSet hits = letters & paths.next; hits != 0; hits &= hits - 1) {

@@ -98,7 +98,7 @@ void SpellingBoard::copyPath(std::uint32_t path, std::span<std::uint8_t> tiles) 
 
 void SpellingBoard::makeRoom(std::size_t steps)
 {
-    if (steps > mostSteps)
+    if (steps > maxSteps)
         throw std::length_error("There are too many ways to spell one word on this board");
     if (steps_.size() < steps)
         steps_.resize(std::max(steps, 2 * steps_.size()));

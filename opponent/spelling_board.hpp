@@ -67,7 +67,7 @@ private:
     std::array<Surroundings, SearchBoard::tileCount + 1> around_{};
     /// A quarter of a gigabyte of paths. Ordinary boards need a few thousand; only long runs of one letter on a board
     /// full of it come near this.
-    static constexpr std::size_t mostSteps = std::size_t{1} << 24;
+    static constexpr std::size_t maxSteps = std::size_t{1} << 24;
 
     std::vector<Step> steps_ = std::vector<Step>(4'096); ///< the paths of all frontiers; grows as needed
 };

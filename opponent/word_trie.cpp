@@ -49,7 +49,7 @@ void WordTrie::build(const WordList& words)
         levelSize += growth[level];
         next[level + 1] = next[level] + levelSize;
     }
-    firstLetters_ = next[1];
+    firstLetterCount_ = next[1];
     const Node count = next[maxLength];
     letters_.assign(count, 0);
     children_.assign(count + std::size_t{1}, count);

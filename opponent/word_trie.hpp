@@ -32,7 +32,7 @@ public:
     void build(const WordList& words);
 
     /// How many nodes hold first letters; they are the nodes from 0 on.
-    [[nodiscard]] Node firstLetters() const { return firstLetters_; }
+    [[nodiscard]] Node firstLetterCount() const { return firstLetterCount_; }
     /// The letter as the list has it.
     [[nodiscard]] char letter(Node node) const { return letters_[node]; }
     [[nodiscard]] bool endsWord(Node node) const { return (children_[node] & wordMark) != 0; }
@@ -49,7 +49,7 @@ private:
 
     static void addLetter(LetterSet& letters, char letter);
 
-    Node firstLetters_ = 0;
+    Node firstLetterCount_ = 0;
     std::vector<char> letters_;
     std::vector<Node>
         children_; ///< the first child, with wordMark where a word ends; one extra entry ends the last node

@@ -74,9 +74,9 @@ std::string folderOf(const std::string& path)
 /// The file at the end of a chain of symbolic links, whether it exists or not.
 std::string followLinks(const std::string& path)
 {
-    constexpr int longestChain = 40; // the system's own limit
+    constexpr int maxLinks = 40; // the system's own limit
     std::string file = path;
-    for (int links = 0; links <= longestChain; ++links) {
+    for (int links = 0; links <= maxLinks; ++links) {
         std::string link(4096, '\0');
         const ssize_t length = ::readlink(file.c_str(), link.data(), link.size());
         if (length < 0)

@@ -1,6 +1,7 @@
 #include "scores/score_file.hpp"
 
 #include "dictionary/field_cipher.hpp"
+#include "platform/ascii.hpp"
 #include "platform/text_file.hpp"
 
 #include <algorithm>
@@ -26,10 +27,9 @@ std::vector<std::string> defaultLines()
     return lines;
 }
 
-bool isScoreLine(const std::string& line)
+bool isScoreLine(std::string_view line)
 {
-    return line.size() > digits + 1 && line[digits] == '\t' &&
-           std::all_of(line.begin(), line.begin() + digits, [](char c) { return c >= '0' && c <= '9'; });
+    return line.size() > digits + 1 && line[digits] == '\t' && ascii::isNumber(line.substr(0, digits));
 }
 
 /// The score lines of the file in ascending order; nothing if the file exists but cannot be read.

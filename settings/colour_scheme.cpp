@@ -1,5 +1,6 @@
 #include "settings/colour_scheme.hpp"
 
+#include "platform/ascii.hpp"
 #include "platform/text_file.hpp"
 #include "settings/readable_colours.hpp"
 
@@ -16,15 +17,6 @@ namespace lexigrove
 namespace
 {
 
-int hexDigit(char c)
-{
-    if (c >= '0' && c <= '9')
-        return c - '0';
-    if (c >= 'A' && c <= 'F')
-        return c - 'A' + 10;
-    return c >= 'a' && c <= 'f' ? c - 'a' + 10 : -1;
-}
-
 /// The number at the start of a text in `base` 10 or 16, with a fraction if decimal; 0 without a digit.
 double digitsOf(std::string_view text, int base)
 {
@@ -35,7 +27,7 @@ double digitsOf(std::string_view text, int base)
             place = 0.1;
             continue;
         }
-        const int digit = hexDigit(c);
+        const int digit = ascii::hexValue(c);
         if (digit < 0 || digit >= base)
             break;
         if (place == 0) {
@@ -78,15 +70,13 @@ bool isSchemeFile(const std::filesystem::directory_entry& file)
 {
     std::error_code failure;
     const std::string name = file.path().filename().string();
-    std::string extension = file.path().extension().string();
-    std::transform(extension.begin(), extension.end(), extension.begin(),
-                   [](unsigned char c) { return static_cast<char>(c >= 'A' && c <= 'Z' ? c - 'A' + 'a' : c); });
-    return extension == ".sch" && !name.starts_with('.') && file.is_regular_file(failure);
+    return ascii::lowerCase(file.path().extension().string()) == ".sch" && !name.starts_with('.') &&
+           file.is_regular_file(failure);
 }
 
 } // namespace
 
-ColourTable groveColours()
+ColourTable builtInColours()
 {
     return {rgb(0xe7, 0xee, 0xe4), rgb(0xff, 0xff, 0xff), rgb(0xff, 0xff, 0xff), rgb(0xc8, 0xbe, 0xa3),
             rgb(0xc8, 0xbe, 0xa3), rgb(0xfb, 0xf7, 0xea), rgb(0x24, 0x38, 0x2c), rgb(0xa9, 0xd8, 0xb0),

@@ -16,7 +16,7 @@ namespace lexigrove
 /// Indices into the colour table. The other window colours are derived from these in settings/window_colours.hpp.
 namespace scheme_entry
 {
-inline constexpr std::size_t ground = 0; ///< frames and panels
+inline constexpr std::size_t background = 0; ///< frames and panels
 inline constexpr std::size_t tileTop = 1;
 inline constexpr std::size_t tileLeft = 2;
 inline constexpr std::size_t tileBottom = 3;
@@ -34,7 +34,7 @@ inline constexpr std::size_t computer = 12; ///< the computer's back colour
 using ColourTable = std::array<Colour, 14>;
 
 /// The table before any file is read.
-ColourTable groveColours();
+ColourTable builtInColours();
 
 /// The colour table, filled from the scheme files "*.sch" of the program folder.
 class ColourScheme
@@ -81,7 +81,7 @@ public:
 private:
     std::string folder_;
     Dialogs& dialogs_;
-    ColourTable entries_ = groveColours();
+    ColourTable entries_ = builtInColours();
 };
 
 /// Read one line of a scheme file (red;green;blue) or of the default scheme (a whole colour before the first ";").

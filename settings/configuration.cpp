@@ -1,5 +1,6 @@
 #include "settings/configuration.hpp"
 
+#include "platform/ascii.hpp"
 #include "platform/text_file.hpp"
 
 #include <algorithm>
@@ -21,14 +22,6 @@ namespace
 struct Garbled {
 };
 
-std::string_view trimmed(std::string_view text)
-{
-    const std::size_t first = text.find_first_not_of(" \t");
-    if (first == std::string_view::npos)
-        return {};
-    return text.substr(first, text.find_last_not_of(" \t") - first + 1);
-}
-
 /// A number may contain blanks anywhere and a fraction, which is dropped.
 std::int16_t wholeNumber(std::string text)
 {
@@ -47,11 +40,7 @@ std::int16_t wholeNumber(std::string text)
 
 bool trueOrFalse(std::string_view line)
 {
-    std::string text(trimmed(line));
-    for (char& c : text) {
-        if (c >= 'A' && c <= 'Z')
-            c = static_cast<char>(c - 'A' + 'a');
-    }
+    const std::string text = ascii::lowerCase(std::string(ascii::trimmed(line, " \t")));
     if (text != "true" && text != "false")
         throw Garbled{};
     return text == "true";

@@ -28,7 +28,7 @@ public:
     void clear() { choose({}); }
 
     /// Marks the game as one whose score is not recorded (again); its letters are forgotten.
-    void closeScoreOffer()
+    void markUnrecorded()
     {
         letters_.clear();
         state_ = State::Unrecorded;
@@ -42,7 +42,7 @@ public:
     }
 
     /// Whether letters are waiting for the next game.
-    [[nodiscard]] bool wait() const { return state_ == State::Chosen; }
+    [[nodiscard]] bool areWaiting() const { return state_ == State::Chosen; }
     [[nodiscard]] bool isNormalGame() const { return state_ == State::None; }
     [[nodiscard]] const std::string& letters() const { return letters_; }
 

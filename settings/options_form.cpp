@@ -225,7 +225,7 @@ void OptionsForm::enableUserDictionary(bool enabled)
 void OptionsForm::colourSchemeBox()
 {
     Combo1.backColor = context_.scheme.entry(scheme_entry::wordList);
-    SchemeFrame.backColor = context_.scheme.entry(scheme_entry::ground);
+    SchemeFrame.backColor = context_.scheme.entry(scheme_entry::background);
 }
 
 } // namespace lexigrove

@@ -1,28 +1,11 @@
 #include "settings/preset_board.hpp"
 
+#include "platform/ascii.hpp"
+
 #include <algorithm>
 
 namespace lexigrove
 {
-
-namespace
-{
-
-std::string upperCased(std::string text)
-{
-    for (char& c : text) {
-        if (c >= 'a' && c <= 'z')
-            c = static_cast<char>(c - 'a' + 'A');
-    }
-    return text;
-}
-
-bool isUpperCaseLetter(char c)
-{
-    return c >= 'A' && c <= 'Z';
-}
-
-} // namespace
 
 std::string askForPresetLetters(Dialogs& dialogs, std::size_t count)
 {
@@ -34,7 +17,7 @@ std::string askForPresetLetters(Dialogs& dialogs, std::size_t count)
             return {};
         if (typed.find(' ') != std::string::npos)
             continue;
-        std::string letters = upperCased(typed);
+        std::string letters = ascii::upperCase(typed);
         if (letters.size() < count) {
             dialogs.message("enter " + std::to_string(count - letters.size()) + " more letters");
             defaultAnswer = typed;
@@ -44,7 +27,7 @@ std::string askForPresetLetters(Dialogs& dialogs, std::size_t count)
             dialogs.message("last " + std::to_string(letters.size() - count) + " too many, will be discarded");
             letters.resize(count);
         }
-        if (std::all_of(letters.begin(), letters.end(), isUpperCaseLetter))
+        if (std::all_of(letters.begin(), letters.end(), ascii::isUpper))
             return letters;
         dialogs.message("Only A-Z allowed, please re-enter");
     }

@@ -13,9 +13,9 @@ constexpr Colour black = rgb(0, 0, 0);
 constexpr Colour white = rgb(255, 255, 255);
 constexpr int steps = 50; // a fiftieth of the way is too small a step to see
 
-double worseContrast(Colour text, Colour ground, Colour otherGround)
+double worseContrast(Colour text, Colour background, Colour otherBackground)
 {
-    return std::min(contrastRatio(text, ground), contrastRatio(text, otherGround));
+    return std::min(contrastRatio(text, background), contrastRatio(text, otherBackground));
 }
 
 /// Hue in sixths of the circle, saturation and lightness 0 to 1.
@@ -63,29 +63,30 @@ Colour mixed(Colour a, Colour b, double share)
     return rgb(mix(redOf(a), redOf(b)), mix(greenOf(a), greenOf(b)), mix(blueOf(a), blueOf(b)));
 }
 
-Colour readableText(Colour wanted, Colour ground)
+Colour readableText(Colour wanted, Colour background)
 {
-    return readableText(wanted, ground, ground);
+    return readableText(wanted, background, background);
 }
 
-Colour readableText(Colour wanted, Colour ground, Colour otherGround)
+Colour readableText(Colour wanted, Colour background, Colour otherBackground)
 {
-    const bool darker = worseContrast(black, ground, otherGround) >= worseContrast(white, ground, otherGround);
+    const bool darker =
+        worseContrast(black, background, otherBackground) >= worseContrast(white, background, otherBackground);
     const Colour end = darker ? black : white;
     for (int i = 0; i < steps; ++i) {
         const Colour text = mixed(wanted, end, static_cast<double>(i) / steps);
-        if (worseContrast(text, ground, otherGround) >= leastContrast)
+        if (worseContrast(text, background, otherBackground) >= minimumContrast)
             return text;
     }
     return end;
 }
 
-Colour quietOn(Colour text, Colour ground)
+Colour quietOn(Colour text, Colour background)
 {
     constexpr double quietest = 0.35;
     for (int i = 0; i < steps; ++i) {
-        const Colour quiet = mixed(text, ground, quietest * (steps - i) / steps);
-        if (contrastRatio(quiet, ground) >= leastContrast)
+        const Colour quiet = mixed(text, background, quietest * (steps - i) / steps);
+        if (contrastRatio(quiet, background) >= minimumContrast)
             return quiet;
     }
     return text;
@@ -96,23 +97,24 @@ Colour lifted(Colour face, Colour text)
     constexpr double visibly = 1.06;
     const Colour lighter = mixed(face, white, 0.10);
     const Colour darker = mixed(face, black, 0.07);
-    const bool lighterReads = contrastRatio(text, lighter) >= leastContrast;
-    const bool darkerReads = contrastRatio(text, darker) >= leastContrast;
+    const bool lighterReads = contrastRatio(text, lighter) >= minimumContrast;
+    const bool darkerReads = contrastRatio(text, darker) >= minimumContrast;
     if (lighterReads && (contrastRatio(lighter, face) >= visibly || !darkerReads))
         return lighter;
     return darker;
 }
 
-Colour shadeFor(Colour colour, Colour ground, Colour otherGround, double contrast)
+Colour shadeFor(Colour colour, Colour background, Colour otherBackground, double contrast)
 {
-    const bool darker = worseContrast(black, ground, otherGround) >= worseContrast(white, ground, otherGround);
+    const bool darker =
+        worseContrast(black, background, otherBackground) >= worseContrast(white, background, otherBackground);
     Hsl hsl = hslOf(colour);
     const double end = darker ? 0 : 1;
     const double start = hsl.lightness;
     for (int i = 0; i <= steps; ++i) {
         hsl.lightness = start + (end - start) * i / steps;
         const Colour shade = colourOf(hsl);
-        if (worseContrast(shade, ground, otherGround) >= contrast)
+        if (worseContrast(shade, background, otherBackground) >= contrast)
             return shade;
     }
     return darker ? black : white;

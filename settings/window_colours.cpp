@@ -18,12 +18,12 @@ Colour linkColour(const ColourScheme& scheme, Colour accent)
 }
 
 /// A background tinted towards its text, or away from it if that would hurt the text.
-Colour toned(Colour ground, Colour text, double share)
+Colour toned(Colour background, Colour text, double share)
 {
-    const Colour towards = mixed(ground, text, share);
-    if (contrastRatio(readableOn(ground), towards) >= leastContrast)
+    const Colour towards = mixed(background, text, share);
+    if (contrastRatio(readableOn(background), towards) >= minimumContrast)
         return towards;
-    return mixed(ground, readableOn(ground) == rgb(0, 0, 0) ? rgb(255, 255, 255) : rgb(0, 0, 0), share);
+    return mixed(background, readableOn(background) == rgb(0, 0, 0) ? rgb(255, 255, 255) : rgb(0, 0, 0), share);
 }
 
 } // namespace
@@ -42,23 +42,23 @@ WindowColours deriveWindowColours(const ColourScheme& scheme)
     WindowColours colours{};
     const Colour letter = scheme.plain(scheme_entry::tileLetter);
 
-    colours.ground = scheme.plain(scheme_entry::ground);
+    colours.background = scheme.plain(scheme_entry::background);
     colours.card = scheme.plain(scheme_entry::wordList);
-    colours.dark = readableOn(colours.ground) == rgb(255, 255, 255);
+    colours.dark = readableOn(colours.background) == rgb(255, 255, 255);
 
-    const Colour onGround = readableText(letter, colours.ground);
-    colours.strip = toned(colours.ground, onGround, stripShare);
-    colours.text = readableText(letter, colours.ground, colours.strip);
-    colours.quietText = readableText(quietOn(colours.text, colours.ground), colours.ground, colours.strip);
-    const bool strong = contrastRatio(colours.text, colours.ground) >= strongestContrast;
-    colours.line = mixed(colours.ground, colours.text, strong ? strongLineShare : lineShare);
+    const Colour onBackground = readableText(letter, colours.background);
+    colours.strip = toned(colours.background, onBackground, stripShare);
+    colours.text = readableText(letter, colours.background, colours.strip);
+    colours.quietText = readableText(quietOn(colours.text, colours.background), colours.background, colours.strip);
+    const bool strong = contrastRatio(colours.text, colours.background) >= strongestContrast;
+    colours.line = mixed(colours.background, colours.text, strong ? strongLineShare : lineShare);
 
     colours.cardText = readableText(letter, colours.card);
     colours.cardQuietText = quietOn(colours.cardText, colours.card);
     colours.cardSelection = mixed(colours.card, colours.cardText, rowShare);
     colours.cardSelectionText = readableText(colours.cardText, colours.cardSelection);
 
-    colours.accent = shadeFor(scheme.tileFace(multiplier::doubled), colours.ground, colours.card, accentContrast);
+    colours.accent = shadeFor(scheme.tileFace(multiplier::doubled), colours.background, colours.card, accentContrast);
     colours.accentText = readableText(colours.card, colours.accent);
 
     colours.button = scheme.tileFace(multiplier::plain);

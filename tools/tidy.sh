@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# tidy.sh BUILD-FOLDER: runs clang-tidy over the C++ files below the window that have been built there. A file that has
+# tidy.sh BUILD-FOLDER: runs clang-tidy over the project's C++ files that have been built there, tests aside. A file that has
 # passed is skipped until it, a header that it includes, .clang-tidy or clang-tidy itself changes.
 set -euo pipefail
 root=$(dirname "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")")
@@ -44,6 +44,5 @@ tidy_one() {
 export -f tidy_one
 export passed build
 
-below_window='^(platform|controls|dictionary|scores|settings|game|opponent|flow|console|tools)/'
-dependencies | awk -F '\t' -v folders="$below_window" '$1 ~ folders && $1 ~ /\.cpp$/' |
+dependencies | awk -F '\t' '$1 ~ /\.cpp$/ && $1 !~ /^(tests|bench)\/|_autogen\//' |
     sort -u | tr '\n' '\0' | xargs -0 -r -n 1 -P "$(nproc)" bash -c 'tidy_one "$1"' tidy

@@ -1,5 +1,6 @@
 #include "word_services/meaning_services.hpp"
 
+#include "platform/ascii.hpp"
 #include "platform/text_file.hpp"
 
 #include <algorithm>
@@ -33,19 +34,14 @@ std::string_view withoutEnds(std::string_view line)
     return line;
 }
 
-bool isDigit(char c)
-{
-    return c >= '0' && c <= '9';
-}
-
 bool isHostCharacter(char c)
 {
-    return isDigit(c) || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '-' || c == '.';
+    return ascii::isDigit(c) || ascii::isLetter(c) || c == '-' || c == '.';
 }
 
 bool isPort(std::string_view text)
 {
-    if (text.empty() || text.size() > 5 || !std::all_of(text.begin(), text.end(), isDigit))
+    if (text.size() > 5 || !ascii::isNumber(text))
         return false;
     const int port = std::stoi(std::string(text));
     return port >= 1 && port <= 65'535;

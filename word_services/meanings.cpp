@@ -3,7 +3,7 @@
 namespace lexigrove
 {
 
-void Meanings::showOfCurrentRow()
+void Meanings::showForCurrentRow()
 {
     if (state_.computerTurnInProgress)
         return;

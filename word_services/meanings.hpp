@@ -28,7 +28,7 @@ public:
 
     /// Shows the meaning of the word in the current row of the main window's `WordsMade`; does nothing during the
     /// computer's turn.
-    void showOfCurrentRow();
+    void showForCurrentRow();
 
     /// Shows the meaning of a word that is not empty.
     void showMeaning(const std::string& word);

@@ -12,7 +12,7 @@ namespace lexigrove
 namespace
 {
 
-/// What the console writes for this input, in a folder without any files but a dictionary.
+/// What the console writes for this input, in a folder that holds only a dictionary.
 std::string output(const std::string& input, std::optional<double> timeOfDay = 45240)
 {
     const TemporaryFolder folder;
@@ -43,7 +43,7 @@ TEST(Console, EveryCommandStandsAnyArguments)
     const char* const arguments[] = {"",   " 1",   " -1",          " 99999999999999999999",
                                      " =", " A\\", " 1 2 3 4 5 6", " \xFF\\t"};
     const CommandTable table;
-    for (const Command& command : table.all()) {
+    for (const ConsoleCommand& command : table.all()) {
         for (const char* const argument : arguments) {
             const std::string line = std::string(command.name) + argument;
             for (const char* const start : {"name\n", "new_game\n"}) {
@@ -60,7 +60,7 @@ TEST(Console, WithoutATimeOfDayEveryGameIsAnother)
     EXPECT_NE(output("new_game\nshow\nquit", std::nullopt), output("new_game\nshow\nquit", std::nullopt));
 }
 
-/// Guards against bytes that break a line, and blanks that a text loses.
+/// Guards against bytes that break a line, and against a text losing its blanks.
 TEST(Console, AnyTextPassesBothWays)
 {
     EXPECT_TRUE(rc::check([](const std::string& text) {

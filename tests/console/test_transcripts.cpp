@@ -19,19 +19,19 @@ namespace fs = std::filesystem;
 
 const fs::path transcriptFolder = TRANSCRIPT_FOLDER;
 
-/// Plays a transcript in a program folder of its own, which begins as a copy of transcripts/folder. A transcript reads
+/// Plays a transcript in its own program folder, initially a copy of transcripts/folder. A transcript reads
 /// like a terminal; its lines are
 ///
 ///     # TEXT            a comment
 ///     > TEXT            a line that the console reads
-///     @run [SECONDS]    starts the console at this time of day, 12:34 if left out
+///     @run [SECONDS]    starts the console at this time of day, by default 12:34
 ///     @end              ends the console's input, as @run and @fresh do
-///     @fresh            makes the folder what it was in the beginning
-///     @file NAME        writes a file: the lines behind "| " that follow, each with CR LF behind it
-///     @bytes NAME       writes a file: the same, with nothing behind the lines
+///     @fresh            restores the folder to its beginning
+///     @file NAME        writes a file: the lines after "| " that follow, each ended by CR LF
+///     @bytes NAME       writes a file: the same, without line ends
 ///     @folder NAME      makes a folder
 ///     @remove NAME      removes a file or a folder
-///     @show NAME        shows a file in the lines behind "| " that follow
+///     @show NAME        shows a file in the lines after "| " that follow
 ///     @list             shows the names in the folder in the same way
 ///
 /// and all others are the console's. `\xHH` is a byte, $FOLDER/ the program folder, $DATE the date of the day.
@@ -204,7 +204,7 @@ class Transcript : public testing::TestWithParam<std::string>
 };
 
 /// Guards every text, event and number that the transcripts show. With LEXIGROVE_RECORD in the environment a transcript
-/// that reads otherwise is written anew: read what has changed before you keep it.
+/// that reads otherwise is rewritten: read what has changed before you keep it.
 TEST_P(Transcript, ReadsAsItIsWritten)
 {
     const fs::path file = transcriptFolder / (GetParam() + ".txt");

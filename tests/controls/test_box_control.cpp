@@ -12,7 +12,7 @@ namespace
 
 using testing::ElementsAre;
 
-/// Notes each event with its arguments and whether the control was up or down by then.
+/// Records each event with its arguments and whether the control was up or down at that time.
 class RecordedEvents : public BoxControlEvents
 {
 public:
@@ -36,7 +36,7 @@ private:
     const BoxControl& box_;
 };
 
-/// The lines that the player sees, each with its number, ends and thickness; "face" for Line7, which has no place.
+/// The visible lines, each with its number, ends and thickness; "face" for Line7, which has no place.
 std::string drawn(const BoxControl& box)
 {
     std::string text;
@@ -56,8 +56,8 @@ BoxControl boxOf(int width, int height)
     return box;
 }
 
-// Guards the raised look: edges that stand elsewhere or trade places, inner lines drawn by default, a flat face that
-// keeps a line; and a held tile, recoloured meanwhile, that does not come up exactly as it went down.
+// Guards the raised look against edges in the wrong or swapped places, inner lines drawn by default, a flat face that
+// keeps a line; and against a held tile, recoloured meanwhile, that does not come up as it went down.
 TEST(BoxControl, linesStandWhereTheirLookPutsThem)
 {
     BoxControl box = boxOf(600, 450);
@@ -114,8 +114,7 @@ TEST(BoxControl, coloursCaptionAndPictureReachTheirPlaces)
     EXPECT_EQ(*box.picturePlace(), (ExactPoint{(605 - 150) / 2.0 - 24, (450 - 50.5) / 2.0 - 24}));
 }
 
-// Guards the order of look and event (a handler must find the control already down or up) and the arguments on their
-// way.
+// Guards the order of look and event (a handler must find the control already down or up) and the events' arguments.
 TEST(BoxControl, pressAndReleaseSwitchTheLookAndTell)
 {
     BoxControl box = boxOf(600, 600);
@@ -123,8 +122,8 @@ TEST(BoxControl, pressAndReleaseSwitchTheLookAndTell)
     box.setEvents(&events);
     for (const bool enabled : {false, true}) { // a disabled control takes no input
         box.Enabled(enabled);
-        box.mousePressed(rightButton, 1, 5, 6.5F);
-        box.mouseReleased(rightButton, 1, 7, 8);
+        box.mousePressed(2, 1, 5, 6.5F);
+        box.mouseReleased(2, 1, 7, 8);
         box.clicked();
         box.keyUp(66, 3);
     }

@@ -1,8 +1,6 @@
 #include "controls/colour.hpp"
-#include "controls/label.hpp"
 
 #include <gtest/gtest.h>
-#include <limits>
 
 namespace lexigrove
 {
@@ -21,12 +19,12 @@ TEST(Colour, contrastFollowsTheStandard)
     EXPECT_NEAR(contrastRatio(rgb(0, 0, 255), white), 8.59, 0.005);
     EXPECT_NEAR(contrastRatio(rgb(5, 5, 5), rgb(5, 5, 5)), 1, 1e-9);
 
-    for (unsigned step = 0; step < 256; step += 15) // the better of the two always reads
+    for (unsigned step = 0; step < 256; step += 15) // the better of the two is always readable
         EXPECT_GE(contrastRatio(readableOn(rgb(step, 255 - step, step / 2)), rgb(step, 255 - step, step / 2)), 4.5)
             << step;
 }
 
-// Guards unreadable default windows, and an index from a foreign scheme file that leads beyond the table.
+// Guards against unreadable default windows, and against an index from a foreign scheme file beyond the table.
 TEST(Colour, systemColoursResolve)
 {
     const SystemPalette palette;
@@ -37,17 +35,6 @@ TEST(Colour, systemColoursResolve)
     EXPECT_GT(contrastRatio(palette.entries[17], palette.resolve(system_colour::buttonFace)), 4.5) << "grey text";
     EXPECT_EQ(palette.resolve(0x80000000U + 25), rgb(0, 0, 0));
     EXPECT_EQ(palette.resolve(0xFFFFFFFFU), rgb(0, 0, 0));
-}
-
-// Guards the scores that are read back from labels: "NONE", a count below zero, and a number beyond the counters.
-TEST(Label, numbersAreReadFromCaptions)
-{
-    EXPECT_EQ(numberOf("NONE"), 0);
-    EXPECT_EQ(numberOf(""), 0);
-    EXPECT_EQ(numberOf("  -3"), -3);
-    EXPECT_EQ(numberOf("12 hints"), 12);
-    EXPECT_EQ(numberOf("99999999999999999999999"), std::numeric_limits<int>::max());
-    EXPECT_EQ(numberOf("-99999999999999999999999"), std::numeric_limits<int>::min());
 }
 
 } // namespace

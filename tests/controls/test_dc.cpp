@@ -30,8 +30,8 @@ int litSegments(const Dc& clock)
     return count;
 }
 
-// Guards the segment table, in which a swapped pair of segments still "works", and shows wrong figures; and a look-up
-// beyond the figures.
+// Guards the segment table, in which a swapped pair of segments still "works" but shows wrong figures; and against a
+// look-up beyond the figures.
 TEST(Dc, figuresLightTheirSegments)
 {
     Dc clock;
@@ -55,8 +55,8 @@ TEST(Dc, figuresLightTheirSegments)
         EXPECT_THROW(static_cast<void>(clock.lin2(line)), std::out_of_range);
 }
 
-// Guards the one-tick distance between 00:00 and the expiry, its repetition until the clock is stopped, and a counter
-// that wraps round.
+// Guards the one-tick distance between 00:00 and the expiry, its repetition until the clock is stopped, and against a
+// counter that wraps around.
 TEST(Dc, aCountdownExpiresOneTickAfterItShowsZero)
 {
     Dc clock;
@@ -86,6 +86,10 @@ TEST(Dc, aCountdownExpiresOneTickAfterItShowsZero)
     clock.ClockIncrement(0);
     EXPECT_FALSE(clock.tick(0)) << "a still clock never expires";
     EXPECT_TRUE(clock.gotFocus());
+    clock.ClockStartValue(0);
+    clock.ShowTimeOnly(true);
+    EXPECT_FALSE(clock.tick(86'400)) << "the time of day never expires, nor does it pass midnight";
+    EXPECT_EQ(face(clock), "00lh00");
 }
 
 // Guards the themes' asymmetry: they change what is drawn, not the two digit properties.
@@ -138,21 +142,21 @@ TEST(Dc, linesStandInTheirPlaces)
     EXPECT_EQ(clock.Shapet().size, (Size{1650, 580}));
 }
 
-// Guards the frame's clicks: the wrap of the thickness and the round of the themes.
+// Guards the frame's clicks, which cycle through the thicknesses and the themes.
 TEST(Dc, clicksOnItsFrameChangeItsLook)
 {
     Dc clock;
     clock.DigitWidth(5);
     for (const int thickness : {6, 2}) {
-        frame10Released(clock, leftButton);
+        frame10Released(clock, MouseButton::Left);
         EXPECT_EQ(clock.DigitWidth(), thickness);
     }
     clock.DigitWidth(32767);
-    frame10Released(clock, leftButton);
+    frame10Released(clock, MouseButton::Left);
     EXPECT_EQ(clock.DigitWidth(), 2);
     clock.ClockColor("DEFAULT");
     for (const char* next : {"GREEN", "BLUE", "RED", "GREEN"}) {
-        frame10Released(clock, rightButton);
+        frame10Released(clock, MouseButton::Right);
         EXPECT_EQ(clock.ClockColor(), next);
     }
 }

@@ -30,7 +30,8 @@ WordsGrid filledGrid()
     return grid;
 }
 
-// Guards the one sort mark of all columns, numbers taken as text ("100" before "9"), and equal rows that change places.
+// Guards the one sort mark of all columns, and against numbers sorted as text ("100" before "9") and equal rows that
+// change places.
 TEST(WordsGrid, oneMarkServesAllColumns)
 {
     WordsGrid grid = filledGrid();

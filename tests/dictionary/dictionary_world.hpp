@@ -40,7 +40,7 @@ inline std::vector<std::string> countedWords(int count)
     return words;
 }
 
-/// A dictionary in a folder of its own, and the window that maintains it.
+/// A dictionary in its own folder, and the window that maintains it.
 struct DictionaryWorld {
     /// Loads a level whose file holds the text.
     void loadText(int level, const std::string& text)

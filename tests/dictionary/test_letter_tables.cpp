@@ -17,7 +17,7 @@ int sumOf(const std::array<int, 27>& counts)
     return std::accumulate(counts.begin(), counts.end(), 0);
 }
 
-/// As many of each letter as it has places: "AAAABB".
+/// Each letter as often as it has places: "AAAABB".
 std::string poolOf(const std::array<int, 27>& counts)
 {
     std::string pool;
@@ -28,8 +28,8 @@ std::string poolOf(const std::array<int, 27>& counts)
 
 } // namespace
 
-// Shares are rounded down, and rare letters get a place each. Places left over go to random letters; places too many
-// come off the earliest of the largest shares alone, and where even that is too small the tables stay as they were.
+// Shares are rounded down, and rare letters get a place each. Places left over go to random letters; excess places are
+// taken only from the first of the largest shares, and if even that is too small the tables do not change.
 TEST(LetterTables, SharesFillThePool)
 {
     const StillClock clock;
@@ -63,7 +63,7 @@ TEST(LetterTables, SharesFillThePool)
     };
     EXPECT_TRUE(rc::check([&] {
         LetterFrequencies frequencies;
-        const int rare = *rc::gen::inRange(0, 26); // so many letters stand once or twice, the others often
+        const int rare = *rc::gen::inRange(0, 26); // this many letters occur once or twice, the others often
         for (std::size_t letter = 1; letter <= 26; ++letter)
             frequencies.letters[letter] =
                 *rc::gen::inRange<std::int64_t>(0, static_cast<int>(letter) > rare ? 9000 : 3);

@@ -51,7 +51,7 @@ TEST(MaintainedFormat, SortedWordsSurvive)
     }));
 }
 
-// Damaged files: whatever the bytes, decoding ends, in words or in its own error.
+// Damaged files: whatever the bytes, decoding ends with words or with its own error.
 TEST(MaintainedFormat, AnyBytesDecodeWithoutACrash)
 {
     const auto decodes = [](const std::string& text, Coding coding) {
@@ -70,14 +70,14 @@ TEST(MaintainedFormat, AnyBytesDecodeWithoutACrash)
     for (const char* base : {"", "-5", "32768", "1e99", "nan", "inf", "99999999999999999999", "0.4", "-"})
         decodes(encipher(base, KESTR) + "\tA\r\nB\r\n", Coding::Maintained);
 
-    // Each line lengthens the word before by three letters: 750 KB that would become 90 GB.
+    // Each line lengthens the previous word by three letters: 750 KB would become 90 GB.
     std::string growing = headerLine("A", "", "") + "\r\n";
     for (int i = 1; i < 250'000; ++i)
         growing += "\x81XYZ\n";
     EXPECT_THROW((void)decodeMaintained(growing), FormatError);
 }
 
-// A marker that is no byte, or that ends its line, would lose the dictionary.
+// A marker that is not a byte, or that ends its line, would lose the dictionary.
 TEST(MaintainedFormat, RefusesWordsThatItCannotHold)
 {
     for (const std::size_t length : {116U, 119U, 130U, 300U})

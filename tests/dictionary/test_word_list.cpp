@@ -9,7 +9,7 @@ using namespace lexigrove;
 namespace
 {
 
-/// The search, step by step as it is laid down, over plain texts.
+/// The search, step by step, over plain texts.
 int stepByStep(const std::vector<std::string>& entries, int count, const std::string& word)
 {
     int low = 0;
@@ -30,8 +30,8 @@ int stepByStep(const std::vector<std::string>& entries, int count, const std::st
 
 } // namespace
 
-// In an unsorted user dictionary the very words that are found or missed depend on each middle; in a sorted one a
-// signed comparison would misplace letters above 127.
+// In an unsorted user dictionary, which words are found depends on each middle; in a sorted one, a signed comparison
+// would misplace letters above 127.
 TEST(WordList, FindsExactlyWhatTheStepsFind)
 {
     const auto word = rc::gen::container<std::string>(rc::gen::element('A', 'B', 'C', 'a', '\xC4'));
@@ -86,7 +86,7 @@ TEST(WordList, HoldsNoMoreThanItsCapacity)
     EXPECT_THROW((void)WordList().entry(-1), std::out_of_range);
 }
 
-// Overwriting reads from the very list that it changes, and a list shown elsewhere must not change under its reader.
+// Overwriting reads from the list that it changes, and a list shown elsewhere must not change under its reader.
 TEST(WordList, OverwritesOnlyTheFirstEntries)
 {
     WordList list = WordList::ofLines("A\r\nB\r\nC\r\nD\r\n");

@@ -4,9 +4,9 @@
 #include "dictionary/word_list.hpp"
 #include "dictionary/word_text.hpp"
 #include "opponent/search_board.hpp"
+#include "platform/ascii.hpp"
 
-#include <array>
-#include <cstdio>
+#include <random>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -21,141 +21,101 @@ class PlainSearch
 public:
     explicit PlainSearch(const SearchBoard& board) : board_(board) {}
 
-    /// Lists 0 to 3.
-    std::array<std::vector<std::string>, 4> fwlist;
+    std::vector<std::string> traced; ///< the paths of the word traced last
+    std::vector<std::string> found;  ///< of the last sweep
     int bestScorePosition = 0;
     int bestLengthPosition = 0;
-
-    void buildLetterIndex()
-    {
-        index_ = {};
-        for (int tile = 1; tile <= 64; ++tile) {
-            const int entry = letterCode(tile) - 64;
-            if (!trimBlanks(letter(tile)).empty() && entry >= 1 && entry <= 64)
-                index_[static_cast<std::size_t>(entry)] += std::to_string(tile) + ",";
-        }
-    }
 
     int traceWord(std::string_view given)
     {
         const std::string word = upperCase(given);
-        const std::string entry = indexEntry(word);
-        if (entry.empty())
-            return 0;
-        fwlist[0].clear();
-        fwlist[1].clear();
-        fwlist[2].clear();
-        int result = 1;
-        for (const int t : numbersIn(entry)) {
-            for (const int n : board_.neighbours[static_cast<std::size_t>(t)]) {
-                if (letter(t) + letter(n) == word.substr(0, 2)) {
-                    fwlist[0].push_back(twoDigits(t).append(twoDigits(n)).append(letter(t)).append(letter(n)));
-                    result = 2;
+        std::vector<std::string> paths; // two digits a tile
+        for (int tile = 1; tile <= 64; ++tile) {
+            const int code = static_cast<unsigned char>(letter(tile));
+            if (!word.empty() && letter(tile) == word[0] && code > 64 && code <= 128)
+                paths.push_back(digits(tile));
+        }
+        int matched = paths.empty() ? 0 : 1;
+        for (std::size_t k = 1; matched == static_cast<int>(k) && k < word.size(); ++k) {
+            std::vector<std::string> longer;
+            for (const std::string& path : paths) {
+                const auto last = static_cast<std::size_t>(std::stoi(path.substr(path.size() - 2)));
+                for (const int next : board_.neighbours[last]) {
+                    const bool fits = letter(next) == word[k] && letter(next) != 0;
+                    if (fits && path.find(digits(next)) == std::string::npos)
+                        longer.push_back(path + digits(next));
                 }
             }
+            if (longer.empty())
+                break;
+            paths = longer;
+            ++matched;
         }
-        for (std::size_t k = 3; k <= word.size(); ++k) {
-            for (const std::string& item : fwlist[0]) {
-                const std::string digits = item.substr(0, 2 * (k - 1));
-                const std::string letters = item.substr(item.size() - (k - 1));
-                const int last = std::stoi(digits.substr(digits.size() - 2));
-                for (const int m : board_.neighbours[static_cast<std::size_t>(last)]) {
-                    const std::string newLetters = letters + letter(m);
-                    if (digits.find(twoDigits(m)) == std::string::npos && newLetters == word.substr(0, k)) {
-                        fwlist[1].push_back(std::string(digits).append(twoDigits(m)).append(newLetters));
-                        result = static_cast<int>(k);
-                    }
-                }
-            }
-            if (fwlist[1].empty())
-                return result;
-            fwlist[0] = fwlist[1];
-            fwlist[1].clear();
-        }
-        return result;
+        traced.clear();
+        for (const std::string& path : paths)
+            if (matched > 1)
+                traced.push_back(path + word.substr(0, static_cast<std::size_t>(matched)));
+        return matched;
     }
 
     void sweep(const WordList& words)
     {
-        buildLetterIndex();
-        fwlist[3].clear();
+        found.clear();
         std::string previous;
-        int previousMatched = -1;
+        std::size_t shared = 1; // letters in common with the word before that make a word untraceable
         int bestScore = 0;
-        int bestLength = 0;
+        std::size_t bestLength = 0;
         bestScorePosition = 0;
         bestLengthPosition = 0;
         for (int i = 1; i <= words.count(); ++i) {
-            const std::string w(words.entry(i));
-            const int length = static_cast<int>(w.size());
-            if (length < 2)
+            const std::string word(words.entry(i));
+            if (word.size() < 2 || (word.size() >= shared && word.substr(0, shared) == previous.substr(0, shared)))
                 continue;
-            const int score = letterSum(w);
-            if (sharesDeadPrefix(w, previous, previousMatched))
+            const int matched = traceWord(word);
+            shared = static_cast<std::size_t>(matched) + 1;
+            previous = word;
+            if (matched != static_cast<int>(word.size()))
                 continue;
-            previousMatched = traceWord(w);
-            previous = w;
-            if (previousMatched != length)
-                continue;
-            fwlist[3].push_back(fourDigits(score) + " " + fwlist[0].front());
-            if (score > bestScore) {
-                bestScore = score;
-                bestScorePosition = static_cast<int>(fwlist[3].size());
-            }
-            if (length > bestLength) {
-                bestLength = length;
-                bestLengthPosition = static_cast<int>(fwlist[3].size());
-            }
+            const int score = letterSum(word);
+            found.push_back(digits(score / 100) + digits(score % 100) + " " + traced.front());
+            if (score > bestScore)
+                bestScorePosition = static_cast<int>(found.size());
+            if (word.size() > bestLength)
+                bestLengthPosition = static_cast<int>(found.size());
+            bestScore = std::max(score, bestScore);
+            bestLength = std::max(word.size(), bestLength);
         }
     }
 
 private:
-    static bool sharesDeadPrefix(const std::string& w, const std::string& previous, int previousMatched)
+    [[nodiscard]] char letter(int tile) const { return board_.letters[static_cast<std::size_t>(tile)]; }
+    static std::string digits(int number)
     {
-        for (std::size_t k = 1; k <= w.size(); ++k) {
-            if (previousMatched == static_cast<int>(k) - 1 && w.substr(0, k) == previous.substr(0, k))
-                return true;
-        }
-        return false;
+        return {static_cast<char>('0' + number / 10), static_cast<char>('0' + number % 10)};
     }
-
-    [[nodiscard]] int letterCode(int tile) const
-    {
-        return static_cast<unsigned char>(board_.letters[static_cast<std::size_t>(tile)]);
-    }
-
-    /// The letter as a text; empty where none is to be seen.
-    [[nodiscard]] std::string letter(int tile) const
-    {
-        const char letter = board_.letters[static_cast<std::size_t>(tile)];
-        return letter == 0 ? std::string() : std::string(1, letter);
-    }
-
-    [[nodiscard]] std::string indexEntry(const std::string& word) const
-    {
-        const int entry = word.empty() ? 0 : static_cast<unsigned char>(word.front()) - 64;
-        return entry >= 1 && entry <= 64 ? index_[static_cast<std::size_t>(entry)] : std::string();
-    }
-
-    static std::vector<int> numbersIn(const std::string& entry)
-    {
-        std::vector<int> numbers;
-        for (std::size_t start = 0; start < entry.size(); start = entry.find(',', start) + 1)
-            numbers.push_back(std::stoi(entry.substr(start)));
-        return numbers;
-    }
-
-    static std::string formatted(const char* format, int number)
-    {
-        std::array<char, 16> text{};
-        (void)std::snprintf(text.data(), text.size(), format, number);
-        return text.data();
-    }
-    static std::string twoDigits(int number) { return formatted("%02d", number); }
-    static std::string fourDigits(int number) { return formatted("%04d", number); }
 
     const SearchBoard& board_;
-    std::array<std::string, 65> index_;
 };
+
+/// A board of random letters in which the top `emptyCells` rows of each column, a number drawn up to the one given, are
+/// empty.
+inline SearchBoard randomBoard(std::mt19937& random, bool square, std::string_view letters, unsigned mostEmptyCells)
+{
+    SearchBoard board;
+    const NeighbourTable table = square ? squareNeighbours() : staggeredNeighbours();
+    for (unsigned col = 0; col < 8; ++col) {
+        const unsigned height = square || col % 2 == 1 ? 8 : 7;
+        const unsigned empty = mostEmptyCells == 0 ? 0 : static_cast<unsigned>(random() % (mostEmptyCells + 1));
+        for (unsigned row = empty; row < height; ++row)
+            board.letters[col * 8 + row + 1] = letters[random() % letters.size()];
+    }
+    for (std::size_t tile = 1; tile < table.size(); ++tile) {
+        for (const std::uint8_t neighbour : table[tile]) {
+            if (board.letters[tile] != 0 && board.letters[neighbour] != 0)
+                board.neighbours[tile].append(neighbour);
+        }
+    }
+    return board;
+}
 
 } // namespace lexigrove::test

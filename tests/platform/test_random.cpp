@@ -9,7 +9,7 @@ namespace lexigrove
 namespace
 {
 
-/// Guards against a generator that starts afresh within a tick of the clock, and against places beyond the last.
+/// Guards against a generator that starts over within a tick of the clock, and against places beyond the last.
 TEST(Random, DrawsDifferWhileTheClockStandsAndStayInTheirRange)
 {
     Random random(7);

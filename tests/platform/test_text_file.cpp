@@ -38,10 +38,10 @@ protected:
     }
 
     TemporaryFolder temporary_;
-    fs::path folder_ = fs::path(temporary_.path()).parent_path(); // without the closing separator
+    fs::path folder_ = fs::path(temporary_.path()).parent_path(); // without the trailing separator
 };
 
-/// The error's text; empty when nothing failed.
+/// The error's text; empty if nothing failed.
 std::string errorOf(const std::function<void()>& action)
 {
     try {
@@ -85,7 +85,8 @@ TEST_F(TextFile, anyLineEndEndsALine)
     EXPECT_FALSE(readFile("/proc/self/status").empty()) << "a file that does not tell its size";
 }
 
-// Guards the player's own arrangements: rights, links, write protection; and special files that a rename would destroy.
+// Guards what the player has set up: permissions, links, write protection; and special files that a rename would
+// destroy.
 TEST_F(TextFile, aReplacedFileKeepsItsPlaceAndRights)
 {
     replaceFile(path("real"), "old");
@@ -114,12 +115,12 @@ TEST_F(TextFile, aReplacedFileKeepsItsPlaceAndRights)
     EXPECT_EQ(std::string(FileError("Not a score file", "x", 0).what()), "Not a score file\nx");
 }
 
-// Guards the old file, and the folder from litter, when a write breaks off in its middle.
+// Guards the old file, and the folder from litter, when a write breaks off in the middle.
 TEST_F(TextFile, aFailedWriteLosesNothing)
 {
     const std::string old(3000, 'o');
     replaceFile(path("file"), old);
-    const pid_t child = inChild([&] { // a limit on the file size stands for every failure in mid-write
+    const pid_t child = inChild([&] { // a limit on the file size represents any failure in mid-write
         std::signal(SIGXFSZ, SIG_IGN);
         const rlimit limit{20000, 20000};
         ::setrlimit(RLIMIT_FSIZE, &limit);
@@ -143,7 +144,7 @@ TEST_F(TextFile, aReadOnlyDiskIsTold)
                     EndsWith(name + std::string("\nRead-only file system")));
     EXPECT_EQ(readFile(path("file")), "old");
     {
-        const FileLock lock(path("file")); // holds nothing, and says nothing
+        const FileLock lock(path("file")); // silently holds nothing
     }
     EXPECT_EQ(::umount(folder_.c_str()), 0);
 }
@@ -178,8 +179,8 @@ TEST_F(TextFile, killedAtAnyMomentItIsTheOldFileOrTheNew)
     EXPECT_THAT(names(), ElementsAre("file"));
 }
 
-// Guards two running games: no addition is lost under the lock, a lock file left behind is no hindrance, and writers
-// that use no lock never mix their bytes.
+// Guards two running games: no addition is lost under the lock, a leftover lock file does no harm, and writers without
+// a lock never mix their bytes.
 TEST_F(TextFile, twoProcessesDoNotDisturbEachOther)
 {
     replaceFile(path("count"), "0");

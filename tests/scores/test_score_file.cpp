@@ -23,8 +23,8 @@ protected:
     ScoreFile scores{folder.path(), dialogs};
 };
 
-// Guards against a damaged file that crashes the game or takes valid lines with it: bad lines strewn in, other line
-// ends, many more lines than ten; and against a recorded score that drives out a valid line for a default one.
+// Guards against a damaged file that crashes the game or takes valid lines with it: bad lines in between, other line
+// ends, many more lines than ten; and against a recorded score that replaces a valid line instead of a default one.
 TEST_F(ScoreFileTest, DamageLosesNoValidLineOfTheBestTen)
 {
     const auto cipher = [](const std::string& line) { return encipher(line, scoreFileKey); };

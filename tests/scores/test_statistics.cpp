@@ -11,7 +11,7 @@ namespace
 
 using Bar = std::tuple<int, int, Colour>;
 
-/// The place, height and colour of each upright line of the chart that is no letter's mark.
+/// The place, height and colour of each vertical line of the chart, except the letters' marks.
 std::vector<Bar> barsOf(const Chart& chart)
 {
     std::vector<Bar> bars;
@@ -23,8 +23,8 @@ std::vector<Bar> barsOf(const Chart& chart)
     return bars;
 }
 
-// Guards against a division by the empty total, percentages that are rounded up, bars out of their places, and a solo
-// game that wipes the computer's column.
+// Guards against division by an empty total, percentages that are rounded up, misplaced bars, and a solo game that
+// wipes the computer's column.
 TEST(StatisticsForm, ShowsBothColumnsAndTheChart)
 {
     Statistics statistics;
@@ -39,12 +39,12 @@ TEST(StatisticsForm, ShowsBothColumnsAndTheChart)
 
     statistics.recordWord("ABA", Statistics::computerBase);
     form.activate(true, provided);
-    EXPECT_TRUE(form.Frame2.Enabled);
+    EXPECT_TRUE(form.isComputerGame());
     EXPECT_THAT(barsOf(form.chart(120)),
                 testing::ElementsAre(Bar{600, 40 * 66, rgb(255, 0, 0)}, Bar{720, 40 * 33, rgb(255, 0, 0)}, a, z));
     statistics.reset();
     form.activate(false, provided);
-    EXPECT_FALSE(form.Frame2.Enabled);
+    EXPECT_FALSE(form.isComputerGame());
     EXPECT_EQ(form.sval[1], "");
     EXPECT_EQ(form.sval[16], "ABA ");
 }

@@ -17,18 +17,18 @@ const std::string defaultFile = "12/24/2023 12:00\r\n\r\n0\r\nGreen\r\n"
                                 "False\r\nFalse\r\nTrue\r\nFalse\r\nFalse\r\nTrue\r\nFalse\r\nFalse\r\n"
                                 "False\r\nTrue\r\nTrue\r\nFalse\r\nTrue\r\nFalse\r\n";
 
-/// The options dialog, its file and all that they reach.
+/// The options dialog, its file and everything they need.
 class OptionsTest : public testing::Test
 {
 protected:
-    /// The options kept in this text.
+    /// The options stored in this text.
     void load(const std::string& text)
     {
         folder.write("Lexigrove.cfg", text);
         configuration.load(rgb(1, 2, 3), rgb(4, 5, 6));
     }
 
-    /// A file with one line, 1 to 23, in place of its own.
+    /// A file with one line, 1 to 23, replaced.
     static std::string with(std::size_t line, const std::string& text, const std::string& file = defaultFile)
     {
         std::string changed;
@@ -51,8 +51,8 @@ protected:
     Configuration configuration{{dialogs, time, form, clock, scheme, dictionary, folder.path()}};
 };
 
-// Guards against a file that is cut off, or garbled, at any line: what came before stays, the controls take their
-// defaults, and the fresh file is whole.
+// Guards against a file that is cut off, or garbled, at any line: what came before is kept, the controls take their
+// defaults, and the new file is complete.
 TEST_F(OptionsTest, FaultAtAnyLine)
 {
     const std::string changed =
@@ -82,19 +82,19 @@ TEST_F(OptionsTest, FaultAtAnyLine)
     }
 }
 
-// Guards against sound that is neither on nor off after a file cut off between its two lines, and sound that a fault
-// behind them switches on again.
+// Guards against sound that is neither on nor off after a file cut off between its two lines, and sound that a later
+// fault switches on again.
 TEST_F(OptionsTest, SoundAfterAFault)
 {
     const std::string soundOff = with(20, "False", with(21, "True"));
     load(with(21, "garbage", soundOff));
-    EXPECT_TRUE(sounds.isOn());
+    EXPECT_TRUE(form.Option15.Value && sounds.isOn());
     load(with(22, "garbage", soundOff));
     EXPECT_FALSE(sounds.isOn());
     EXPECT_EQ(folder.read("Lexigrove.cfg"), soundOff);
 }
 
-// Guards against the clock's own colours with "DEFAULT", and against a name that is compared without its case.
+// Guards against the clock's own colours with "DEFAULT", and against a case-insensitive comparison of that name.
 TEST_F(OptionsTest, DefaultClockTakesTheWindowsColours)
 {
     load(with(4, "Default"));
@@ -104,7 +104,7 @@ TEST_F(OptionsTest, DefaultClockTakesTheWindowsColours)
     EXPECT_EQ(clock.DigitHighlight(), rgb(4, 5, 6));
 }
 
-// Guards against choices of the keyboard, which run no handler, that a game's start passes over.
+// Guards against keyboard choices, which run no handler, being ignored at a game's start.
 TEST_F(OptionsTest, StartTakesWhatTheControlsSay)
 {
     for (Choice* choice : {&form.Option16, &form.Option5, &form.Option11})
@@ -123,8 +123,8 @@ TEST_F(OptionsTest, StartTakesWhatTheControlsSay)
     EXPECT_EQ(dictionary.level(), 3);
 }
 
-// Guards against a file dialog that moves the program's working folder, and schemes in the list that are none or stand
-// in an order that changes with the disk.
+// Guards against a file dialog that changes the program's working folder, and a list with files that are not schemes or
+// in an order that depends on the disk.
 TEST_F(OptionsTest, FilesOfTheFolder)
 {
     const auto working = std::filesystem::current_path();

@@ -12,15 +12,13 @@ namespace lexigrove
 namespace
 {
 
-constexpr int multipliers[] = {1, 2, 3, 4, 9};
-
 /// Every letter of a tile and every text of a window with its background.
 void expectReadable(const ColourScheme& scheme, const WindowColours& window)
 {
-    const auto expect = [](Colour text, Colour ground, const char* what) {
-        EXPECT_GE(contrastRatio(text, ground), leastContrast) << what;
+    const auto expect = [](Colour text, Colour background, const char* what) {
+        EXPECT_GE(contrastRatio(text, background), minimumContrast) << what;
     };
-    for (const int multiplier : multipliers) {
+    for (const Colour multiplier : multiplier::all) {
         SCOPED_TRACE("multiplier " + std::to_string(multiplier));
         const Colour face = scheme.tileFace(multiplier);
         const Colour letter = scheme.tileLetter(multiplier);
@@ -29,9 +27,9 @@ void expectReadable(const ColourScheme& scheme, const WindowColours& window)
         expect(quietOn(letter, face), face, "value");
     }
     expect(scheme.selectedLetter(), scheme.selectedFace(), "selected");
-    expect(window.text, window.ground, "text");
+    expect(window.text, window.background, "text");
     expect(window.text, window.strip, "text on the strip");
-    expect(window.quietText, window.ground, "quiet text");
+    expect(window.quietText, window.background, "quiet text");
     expect(window.cardText, window.card, "card");
     expect(window.cardQuietText, window.card, "quiet on the card");
     expect(window.cardSelectionText, window.cardSelection, "chosen row");
@@ -40,19 +38,19 @@ void expectReadable(const ColourScheme& scheme, const WindowColours& window)
     expect(window.buttonText, window.buttonHover, "button under the pointer");
     expect(window.computerFore, window.computerBack, "the computer's word");
     expect(window.computerText, window.card, "the computer's score");
-    EXPECT_EQ(window.ground, scheme.plain(scheme_entry::ground)) << "the scheme's own colours stay";
+    EXPECT_EQ(window.background, scheme.plain(scheme_entry::background)) << "the scheme's own colours stay";
     EXPECT_EQ(window.card, scheme.plain(scheme_entry::wordList));
     EXPECT_EQ(window.computerBack, scheme.plain(scheme_entry::computer));
 }
 
-/// How light a colour is without its hue, 0 to 100 (CIE L*), which is what a grey picture shows.
+/// The lightness of a colour, 0 to 100 (CIE L*), which is what a grey picture shows.
 double greyLevel(Colour colour)
 {
     const double luminance = contrastRatio(colour, rgb(0, 0, 0)) * 0.05 - 0.05;
     return luminance > 0.008856 ? 116 * std::cbrt(luminance) - 16 : 903.3 * luminance;
 }
 
-// Guards against a shipped scheme that does not load, or that somebody cannot read: Clarity's tiles tell apart without
+// Guards against a shipped scheme that does not load, or that somebody cannot read: Clarity's tiles differ even without
 // hues, and Contrast's texts are the strongest. A game without scheme files looks like one with them.
 TEST(ShippedSchemes, EveryTextReadsOnItsBackground)
 {
@@ -65,20 +63,20 @@ TEST(ShippedSchemes, EveryTextReadsOnItsBackground)
         ASSERT_TRUE(scheme.load(name));
         const WindowColours window = deriveWindowColours(scheme);
         expectReadable(scheme, window);
-        EXPECT_GE(contrastRatio(window.accent, window.ground), leastContrast);
-        EXPECT_GE(contrastRatio(window.accent, window.card), leastContrast);
+        EXPECT_GE(contrastRatio(window.accent, window.background), minimumContrast);
+        EXPECT_GE(contrastRatio(window.accent, window.card), minimumContrast);
         EXPECT_GE(contrastRatio(window.link, scheme.selectedFace()), 2.5);
-        EXPECT_GT(contrastRatio(window.line, window.ground), name == "Contrast.sch" ? 3 : 1.2);
-        EXPECT_NE(window.strip, window.ground);
+        EXPECT_GT(contrastRatio(window.line, window.background), name == "Contrast.sch" ? 3 : 1.2);
+        EXPECT_NE(window.strip, window.background);
         if (name == "Default.sch") {
-            EXPECT_EQ(scheme.entries(), groveColours());
+            EXPECT_EQ(scheme.entries(), builtInColours());
         }
         std::vector<double> greys{greyLevel(scheme.selectedFace())};
-        for (const int multiplier : multipliers) {
+        for (const Colour multiplier : multiplier::all) {
             greys.push_back(greyLevel(scheme.tileFace(multiplier)));
             if (name == "Contrast.sch") {
                 EXPECT_GE(contrastRatio(scheme.tileLetter(multiplier), scheme.tileFace(multiplier)), 7);
-                EXPECT_GE(contrastRatio(window.text, window.ground), 15);
+                EXPECT_GE(contrastRatio(window.text, window.background), 15);
             }
         }
         std::sort(greys.begin(), greys.end());
@@ -87,7 +85,7 @@ TEST(ShippedSchemes, EveryTextReadsOnItsBackground)
     }
 }
 
-// Guards against schemes of the players' own, however garish, and desktop colours, that make a window unreadable.
+// Guards against players' own schemes, however garish, and desktop colours making a window unreadable.
 TEST(WindowColours, AnySchemeReads)
 {
     TemporaryFolder folder;

@@ -6,6 +6,7 @@
 #include "platform/screen.hpp"
 #include "platform/sound_device.hpp"
 
+#include <algorithm>
 #include <deque>
 #include <functional>
 #include <map>
@@ -22,22 +23,31 @@ public:
     int yields = 0;
     int timesBusy = 0;
     bool busy = false;
+    int mostLocks = 0;
+    std::function<void()> onStep = [] {};
+    std::function<void()> onWait = [] {};
 
     void yield() override { ++yields; }
-    void animationStep(int /*rounds*/) override {}
+    void animationStep(int /*rounds*/) override { onStep(); }
     void setBusyPointer(bool nowBusy) override
     {
         busy = nowBusy;
         timesBusy += nowBusy ? 1 : 0;
     }
-    void lockBoardUpdates(bool /*locked*/) override {}
-    void waitForAnyInput() override {}
+    void lockBoardUpdates(bool locked) override { mostLocks = std::max(mostLocks, locks_ += locked ? 1 : -1); }
+    void waitForAnyInput() override { onWait(); }
+    void inputEnded() override {}
+
+private:
+    int locks_ = 0;
 };
 
 class StillClock : public Clock
 {
 public:
-    [[nodiscard]] double secondsSinceMidnight() const override { return 43'200; }
+    double seconds = 43'200;
+
+    [[nodiscard]] double secondsSinceMidnight() const override { return seconds; }
     [[nodiscard]] std::string shortDate() const override { return "12/24/2023"; }
     [[nodiscard]] std::string shortTime() const override { return "12:00"; }
 };

@@ -58,8 +58,8 @@ std::string errorOf(const ProgramFolderRequest& request)
     }
 }
 
-// Guards against a game that reads one folder and writes another, and against a folder text without its closing
-// separator, to which every file name is appended as it stands.
+// Guards against a game that reads one folder and writes another, and against a folder without its trailing separator,
+// to which every file name is simply appended.
 TEST_F(ProgramFolder, TheFirstThatAppliesWins)
 {
     EXPECT_EQ(start(), user(""));
@@ -108,7 +108,7 @@ TEST_F(ProgramFolder, WhatTheUserChangedOrBroughtStays)
     EXPECT_EQ(readFile(user("LexigroveScores.txt")), "my scores");
 }
 
-// Guards against players who keep the word lists of their first version for ever.
+// Guards against players who keep the word lists of their first version forever.
 TEST_F(ProgramFolder, WhatTheUserLeftAloneFollowsTheInstalledFiles)
 {
     start();
@@ -120,7 +120,7 @@ TEST_F(ProgramFolder, WhatTheUserLeftAloneFollowsTheInstalledFiles)
     EXPECT_EQ(readFile(user("New.sch")), "new");
     EXPECT_EQ(readFile(user("Default.sch")), "first colours") << "a deleted file is put back";
 
-    // A crash between the copy and the note, and a note that somebody lost: what equals the installed file is the
+    // A crash between copying and writing the manifest, or a lost manifest: a file equal to the installed one is the
     // game's.
     fs::remove(user(".installed"));
     start();
@@ -133,7 +133,7 @@ TEST_F(ProgramFolder, WhatTheUserLeftAloneFollowsTheInstalledFiles)
     EXPECT_EQ(readFile(user("New.sch")), "newer");
 }
 
-// Guards against a stack of system errors, or silence, in place of one sentence that a player can act on.
+// Guards against a stack of system errors, or silence, instead of one sentence that a player can act on.
 TEST_F(ProgramFolder, WhatCannotBeHadIsSaidInOneSentence)
 {
     ProgramFolderRequest request = this->request();

@@ -21,7 +21,7 @@ std::uint32_t number(const std::string& bytes, std::size_t at, int size)
     return value;
 }
 
-/// The samples of a wave file, its header checked as a strict player would: PCM of one channel and 16 bits.
+/// The samples of a wave file, after checking its header as strictly as any player: PCM with one channel and 16 bits.
 std::vector<int> samplesOf(const std::string& file)
 {
     EXPECT_EQ(file.substr(0, 4) + file.substr(8, 8) + file.substr(36, 4), "RIFFWAVEfmt data");
@@ -37,7 +37,7 @@ std::vector<int> samplesOf(const std::string& file)
     return samples;
 }
 
-/// How often the sound swings through zero, per second of its audible part: a rough pitch, in half turns.
+/// How often the sound crosses zero, per second of its audible part: a rough pitch, in half cycles.
 double roughPitch(const std::vector<int>& samples)
 {
     int crossings = 0;
@@ -53,8 +53,8 @@ double roughPitch(const std::vector<int>& samples)
     return crossings * static_cast<double>(samplesPerSecond) / audible / 2;
 }
 
-// Guards against files that a player refuses, that are cut off, distorted, or too long or loud for a game, two events
-// that sound alike, and an error that is not the low one.
+// Guards against files that a player refuses, that are cut off, distorted, or too long or loud for a game; two events
+// that sound alike; and an error sound that is not the lowest.
 TEST(Sounds, AreShortSoftCleanAndTellApart)
 {
     std::map<std::string, double> pitch;
@@ -91,7 +91,7 @@ TEST(Sounds, AreShortSoftCleanAndTellApart)
     EXPECT_GT(length["cnqwon.wav"], 5 * length["beep3.wav"]) << "a flourish, not a tick";
 }
 
-// Guards against a wrap-around, the ugliest of noises, where notes add up to more than full scale.
+// Guards against wrap-around, the ugliest of noises, where notes add up to more than full scale.
 TEST(Sounds, AnOverloadIsHeldAtFullScale)
 {
     const std::vector<Note> notes(20, Note{0, 0, 1, 0.9, glass()});

@@ -43,7 +43,7 @@ protected:
     Words three = built(3);
 };
 
-// Guards against lists that the game reads without complaint and then finds no words in: its lookup compares bytes.
+// Guards against lists that the game reads without complaint but finds no words in: its lookup compares bytes.
 TEST_F(WordLists, AreSortedPlainAndOfTheirSizes)
 {
     for (int level = 1; level <= 3; ++level) {
@@ -64,7 +64,7 @@ TEST_F(WordLists, AreSortedPlainAndOfTheirSizes)
     EXPECT_TRUE(std::includes(three.begin(), three.end(), two.begin(), two.end()));
 }
 
-// Guards against counts that belong to other words (one record off is enough), lists cut by length, and names,
+// Guards against counts that belong to other words (being one record off is enough), lists cut by length, and names,
 // abbreviations, possessives and slurs that slip in with the counts.
 TEST_F(WordLists, HoldTheCommonestWordsAndWordsOnly)
 {
@@ -82,7 +82,7 @@ TEST_F(WordLists, HoldTheCommonestWordsAndWordsOnly)
         EXPECT_FALSE(holds(two, word)) << word;
 }
 
-// Guards against a licence that is broken by leaving its notice out.
+// Guards against breaking a licence by omitting its notice.
 TEST_F(WordLists, TheNoticesOfTheirSourcesAreShippedWhole)
 {
     const std::string notices = readFile(GAME_FILES "Words-Notices.txt");
@@ -91,7 +91,7 @@ TEST_F(WordLists, TheNoticesOfTheirSourcesAreShippedWhole)
         EXPECT_NE(notices.find(sentence), std::string::npos) << sentence;
 }
 
-// Guards against an obscure failure, or silently wrong lists, where a source is missing or damaged.
+// Guards against an obscure failure, or silently wrong lists, if a source is missing or damaged.
 TEST_F(WordLists, MissingOrDamagedSourcesAreNamed)
 {
     const TemporaryFolder empty;

@@ -1,26 +1,20 @@
-#include "tests/ui/dialog_script.hpp"
-#include "tests/ui/played_window.hpp"
+#include "tests/ui/window_test.hpp"
 #include "ui/pages/browser_view.hpp"
 
-#include <QPushButton>
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <QWebEngineView>
 
 #include <algorithm>
-#include <map>
 #include <memory>
-#include <optional>
 #include <vector>
 
 namespace lexigrove
 {
-
 namespace
 {
 
-/// A web server on the machine itself. It answers every path with the page set for it, else with one that names the
-/// path, and notes what was asked for.
+/// A web server on the machine itself, which answers everything with one page and notes what was asked for.
 class Server
 {
 public:
@@ -39,9 +33,8 @@ public:
         return "http://" + address + ":" + std::to_string(server_.serverPort());
     }
 
-    std::vector<std::string> asked;           ///< path and query of each request
-    std::vector<std::string> cookies;         ///< that came with each of them
-    std::map<std::string, std::string> pages; ///< by path: further header lines, an empty line and the page
+    std::vector<std::string> asked;             ///< path and query of each request, and the cookie that came with it
+    std::string page = "\r\n<p>The page</p>\n"; ///< further header lines, an empty line and the page
 
 private:
     void answer(QTcpSocket& socket)
@@ -49,246 +42,173 @@ private:
         if (!socket.canReadLine())
             return;
         const QByteArray request = socket.readAll();
-        asked.push_back(request.split(' ').at(1).toStdString());
         const qsizetype cookie = request.indexOf("\r\nCookie:");
-        cookies.push_back(cookie < 0 ? "" : request.mid(cookie + 2).split('\r').at(0).toStdString());
-        const auto page = pages.find(asked.back());
-        const std::string body = page != pages.end() ? page->second : "\r\n<p>The page of " + asked.back() + "</p>";
-        socket.write(
-            QByteArray::fromStdString("HTTP/1.1 200 OK\r\nContent-Type: text/html\r\nConnection: close\r\n" + body));
+        asked.push_back(request.split(' ').at(1).toStdString());
+        if (cookie >= 0)
+            asked.back() += " " + request.mid(cookie + 2).split('\r').at(0).toStdString();
+        socket.write("HTTP/1.1 200 OK\r\nContent-Type: text/html\r\nConnection: close\r\n");
+        socket.write(QByteArray::fromStdString(page));
         socket.disconnectFromHost();
     }
 
     QTcpServer server_;
 };
 
-/// What the page shown says, once it holds the text that is waited for.
-std::string pageText(QWidget& window, const QString& awaited)
+/// Waits until the page in a window says something.
+bool says(const QWidget& window, const QString& text)
 {
-    const auto text = std::make_shared<QString>(); // an answer may come after the wait
-    (void)QTest::qWaitFor(
-        [&] {
-            if (auto* const view = window.findChild<QWebEngineView*>(); view != nullptr)
-                view->page()->toPlainText([text](const QString& shown) { *text = shown; });
-            QTest::qWait(20);
-            return text->contains(awaited);
-        },
-        20'000);
-    return text->toStdString();
+    const auto found = std::make_shared<bool>(false); // an answer may come after the wait
+    const auto look = [&] {
+        if (const auto* const view = window.findChild<QWebEngineView*>(); view != nullptr)
+            view->page()->toPlainText([=](const QString& shown) { *found = shown.contains(text); });
+        QTest::qWait(20);
+        return *found;
+    };
+    return QTest::qWaitFor(look, 20'000);
 }
 
 bool enginePageExists()
 {
-    for (const QWidget* widget : QApplication::allWidgets())
-        if (qobject_cast<const QWebEngineView*>(widget) != nullptr)
-            return true;
-    return false;
+    const QWidgetList all = QApplication::allWidgets();
+    return std::any_of(all.begin(), all.end(), [](QWidget* widget) { return qobject_cast<QWebEngineView*>(widget); });
 }
 
-/// The game with the meaning services on the machine itself.
-class BrowserTest : public testing::Test
+/// The game with the meaning services on the machine itself, and with a help page of its own.
+class BrowserTest : public WindowTest
 {
 protected:
     BrowserTest()
     {
         const std::string host = server_.host() + "\r\n";
-        folder_.write("MeaningServices.txt", host + host + host + host);
-        game_.emplace(folder_.path());
-        game_->window.input([this] { game_->flow.startUp(); });
-        game_->window.show();
+        folder.write("MeaningServices.txt", host + host + host + host);
+        folder.write("lexigrove.htm",
+                     "<body style='margin: 0'><a href='#two' style='font-size: 60px'>Go to two</a>"
+                     "<p style='height: 2000px'><a id='two' href='#three' style='font-size: 60px'>Two, to three</a>"
+                     "<p style='height: 2000px'><a id='three' style='font-size: 60px'>Three</a>"
+                     "<p style='height: 2000px'>");
     }
 
-    GameFlow& flow() { return game_->flow; }
-
-    void showMeaning(const std::string& word)
+    /// The meaning of CAT, which is made in a new game.
+    void showMeaning()
     {
-        game_->window.input([&] { flow().asInput([&] { flow().meanings.showMeaning(word); }); });
+        start({{9, "QCATS"}});
+        enter("cat");
+        auto& words = child<WordsView>("WordsMade");
+        QTest::mouseClick(words.viewport(), Qt::LeftButton, {}, wordCell(words, 1).center());
+        server_.asked.clear();
+        press("Meaning");
+    }
+
+    QWidget& showHelp()
+    {
+        press("Helpx");
+        const QWidgetList all = QApplication::topLevelWidgets();
+        return **std::find_if(all.begin(), all.end(), [](QWidget* window) { return window->objectName() == "Form5"; });
     }
 
     Server server_;
-    ProgramFolder folder_;
-    std::optional<FrontEnd> game_;
-    Script script_;
 };
 
-// Guards the four address templates down to the wire: each service is asked for exactly its path and query, and for
-// nothing else, the page is shown, and closing the window ends it.
-TEST_F(BrowserTest, EachServiceIsAskedForItsPage)
-{
-    OptionsForm& options = flow().options;
-    const std::vector<std::pair<Choice*, std::string>> services{
-        {&options.Option6, "/cgi-bin/dict.pl?term=CAT"},
-        {&options.Option7, "/CAT"},
-        {&options.Option8, "/cgi-bin/dictionary?book=Dictionary&va=CAT"},
-        {&options.Option9, "/foldoc/foldoc.cgi?query=CAT&action=Search"},
-    };
-    for (const auto& [option, path] : services) {
-        options.select(*option);
-        flow().startGame();
-        server_.asked.clear();
-        script_.in("Form3", [&, page = path](QDialog& dialog) {
-            EXPECT_EQ(dialog.windowTitle(), "CAT");
-            EXPECT_EQ(pageText(dialog, "The page"), "The page of " + page);
-            EXPECT_EQ(dialog.findChild<BrowserView*>("WbDictionary")->size(), dialog.size());
-            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
-        });
-        showMeaning("CAT");
-        EXPECT_EQ(server_.asked, std::vector<std::string>{path});
-        EXPECT_FALSE(enginePageExists());
-    }
-}
-
-// Guards the machine against the pages: no question, no window, no other host, and nothing is remembered.
+// Guards the way of a word to its page, and the machine against the page: no question, no window, no other host is
+// reached, and nothing is remembered. Closing the window ends the page.
 TEST_F(BrowserTest, APageReachesNothingBeyondItself)
 {
     const std::string stranger = server_.host("127.0.0.2"); // this server too, but not a host that pages may have
-    server_.pages["/CAT"] = "Set-Cookie: seen=yes; Max-Age=9999\r\n\r\n<p>A page</p><img src='" + stranger +
-                            "/picture'><iframe src='" + stranger +
-                            "/frame'></iframe><script>alert(1); confirm(2);"
-                            "window.open('/popup'); setTimeout(() => { document.title = 'over'; location.href = '" +
-                            stranger + "/page'; }, 100); fetch('/script').then(() => fetch('" + stranger +
-                            "/fetched'));"
-                            "</script>";
-    flow().startGame();
+    server_.page = "Set-Cookie: seen=yes; Path=/; Max-Age=9999\r\n\r\n<p>A page</p><img src='" + stranger +
+                   "/picture'><iframe src='" + stranger +
+                   "/frame'></iframe><script>alert(1); confirm(2);"
+                   "window.open('/popup'); setTimeout(() => { document.title = 'over'; location.href = '" +
+                   stranger + "/page'; }, 100); fetch('/script').then(() => fetch('" + stranger +
+                   "/fetched'));"
+                   "</script>";
+    chooseOptions([](OptionsForm& options) { options.select(options.Option8); });
     for (int showing = 1; showing <= 2; ++showing) {
-        server_.asked.clear();
-        server_.cookies.clear();
-        script_.in("Form3", [&](QDialog& dialog) {
-            pageText(dialog, "A page");
+        script.in("Form3", [&](QDialog& dialog) {
+            EXPECT_EQ(dialog.windowTitle(), "CAT");
+            EXPECT_TRUE(says(dialog, "A page"));
             const auto* view = dialog.findChild<QWebEngineView*>();
+            EXPECT_EQ(view->size(), dialog.size());
             EXPECT_TRUE(QTest::qWaitFor([&] { return view->title() == "over"; }, 10'000));
             QTest::qWait(300);
             const QWidgetList windows = QApplication::topLevelWidgets();
             EXPECT_EQ(std::count_if(windows.begin(), windows.end(), [](QWidget* w) { return w->isVisible(); }), 2);
-            dialog.close();
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
         });
-        showMeaning("CAT");
-        EXPECT_EQ(server_.asked, (std::vector<std::string>{"/CAT", "/script"}));
-        EXPECT_EQ(server_.cookies, (std::vector<std::string>{"", "Cookie: seen=yes"})) << "showing " << showing;
+        showMeaning();
+        const std::vector<std::string> expected{"/cgi-bin/dictionary?book=Dictionary&va=CAT",
+                                                "/script Cookie: seen=yes"};
+        EXPECT_EQ(server_.asked, expected) << "showing " << showing;
+        EXPECT_FALSE(enginePageExists());
     }
 }
 
-// Guards the end: the main window closed under a page, with the help beside it, leaves no page of the engine behind.
+// Guards the help window: Back and Forward only move between the places of the page, coming to the front shows it from
+// its beginning, a modal window of the game does not block it, and Exit ends the page.
+TEST_F(BrowserTest, TheHelpIsReadBesideTheGame)
+{
+    QWidget& help = showHelp();
+    const auto press = [&](const char* button) {
+        QTest::mouseClick(help.findChild<QWidget*>(button), Qt::LeftButton);
+        QTest::qWait(150); // what must not happen has its chance
+    };
+    const auto comesTo = [&](const QString& anchor) {
+        const auto* const view = help.findChild<BrowserView*>("WebBrowser1");
+        return QTest::qWaitFor([&] { return view->address().fragment() == anchor; }, 5'000);
+    };
+    const auto clickPage = [&] { // its upper left corner, where each anchor's link comes to stand
+        QTest::qWait(300);       // a page that has scrolled takes a click when it is painted
+        QTest::mouseClick(help.findChild<QWebEngineView*>()->focusProxy(), Qt::LeftButton, {}, {40, 40});
+    };
+    ASSERT_TRUE(says(help, "Go to two"));
+    EXPECT_EQ(help.windowTitle(), "LexiGrove Help");
+    press("Command1");
+    EXPECT_TRUE(comesTo(""));
+    clickPage();
+    ASSERT_TRUE(comesTo("two"));
+    clickPage();
+    ASSERT_TRUE(comesTo("three"));
+    press("Command1");
+    EXPECT_TRUE(comesTo("two"));
+    press("Command2");
+    EXPECT_TRUE(comesTo("three"));
+    press("Command1");
+    press("Command1");
+    EXPECT_TRUE(comesTo(""));
+    press("Command2");
+    EXPECT_TRUE(comesTo("")) << "an address without an anchor leads nowhere";
+
+    clickPage();
+    ASSERT_TRUE(comesTo("two"));
+    for (QWidget* const front : {static_cast<QWidget*>(&window()), &help}) {
+        front->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(front));
+    }
+    EXPECT_TRUE(comesTo(""));
+    script.in("AboutForm", [&](QDialog& dialog) {
+        press("Command3");
+        EXPECT_FALSE(help.isVisible() || enginePageExists());
+        dialog.close();
+    });
+    WindowTest::press("Aboutx");
+    EXPECT_EQ(&showHelp(), &help);
+    EXPECT_TRUE(says(help, "Go to two"));
+}
+
+// Guards the end: the main window closed under a page, with the help beside it, leaves no page of the engine behind. A
+// help page that is missing is the engine's to tell.
 TEST_F(BrowserTest, LeavingEndsThePages)
 {
-    flow().options.settings.presetLetters = Letters().text(); // no score to offer
-    game_->window.input([this] { flow().startGame(); });
-    game_->window.input([this] { flow().showHelp(); });
-    script_.in("Form3", [&](QDialog& dialog) {
-        pageText(dialog, "The page");
-        game_->window.close();
+    std::filesystem::remove(folder.file("lexigrove.htm"));
+    EXPECT_TRUE(says(showHelp(), "ERR_FILE_NOT_FOUND"));
+    script.in("Form3", [&](QDialog& dialog) {
+        EXPECT_TRUE(says(dialog, "The page"));
+        window().close();
     });
-    showMeaning("CAT");
+    showMeaning();
     EXPECT_TRUE(flow().ended());
-    EXPECT_FALSE(dialogIsOpen());
-    game_.reset();
+    game.reset();
     EXPECT_FALSE(enginePageExists());
 }
 
-/// The help window.
-class HelpTest : public BrowserTest
-{
-protected:
-    HelpTest()
-    {
-        folder_.write("lexigrove.htm",
-                      "<body style='margin: 0'><a href='#two' style='font-size: 60px'>Go to two</a>"
-                      "<p style='height: 2000px'><a id='two' href='#three' style='font-size: 60px'>Two, to three</a>"
-                      "<p style='height: 2000px'><a id='three' style='font-size: 60px'>Three</a>"
-                      "<p style='height: 2000px'>");
-    }
-
-    QWidget* showHelp()
-    {
-        game_->window.input([this] { flow().showHelp(); });
-        for (QWidget* window : QApplication::topLevelWidgets())
-            if (window->objectName() == "Form5")
-                return window;
-        return nullptr;
-    }
-    static std::string anchor(const QWidget& help)
-    {
-        return help.findChild<BrowserView*>("WebBrowser1")->address().fragment().toStdString();
-    }
-    static bool comesTo(const QWidget& help, const std::string& wanted)
-    {
-        return QTest::qWaitFor([&] { return anchor(help) == wanted; }, 5'000);
-    }
-    static void press(QWidget& help, const char* button)
-    {
-        QTest::mouseClick(help.findChild<QPushButton*>(button), Qt::LeftButton);
-        QTest::qWait(150); // what must not happen has its chance
-    }
-    /// The upper left corner of the page, where each anchor's link comes to stand.
-    static void clickPage(QWidget& help)
-    {
-        QTest::qWait(300); // a page that has scrolled takes a click when it is painted
-        QTest::mouseClick(help.findChild<QWebEngineView*>()->focusProxy(), Qt::LeftButton, {}, {40, 40});
-    }
-};
-
-// Guards Back and Forward, which only move between the places of the page.
-TEST_F(HelpTest, BackAndForwardLeafThroughTheAnchors)
-{
-    QWidget* const help = showHelp();
-    ASSERT_NE(help, nullptr);
-    ASSERT_NE(pageText(*help, "Go to two"), "");
-    EXPECT_EQ(help->windowTitle(), "LexiGrove Help");
-    press(*help, "Command1");
-    EXPECT_EQ(anchor(*help), "");
-
-    clickPage(*help);
-    ASSERT_TRUE(comesTo(*help, "two"));
-    clickPage(*help);
-    ASSERT_TRUE(comesTo(*help, "three"));
-    press(*help, "Command1");
-    EXPECT_TRUE(comesTo(*help, "two"));
-    press(*help, "Command2");
-    EXPECT_TRUE(comesTo(*help, "three"));
-    press(*help, "Command1");
-    press(*help, "Command1");
-    EXPECT_TRUE(comesTo(*help, ""));
-    press(*help, "Command2");
-    EXPECT_EQ(anchor(*help), "") << "an address without an anchor leads nowhere";
-}
-
-// Guards the help beside the game: a modal window does not block it, coming to the front shows the page from its
-// beginning, and Exit ends the page.
-TEST_F(HelpTest, ItStaysUsableBesideTheGame)
-{
-    QWidget* const help = showHelp();
-    ASSERT_NE(help, nullptr);
-    pageText(*help, "Go to two");
-    clickPage(*help);
-    ASSERT_TRUE(comesTo(*help, "two"));
-    game_->window.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&game_->window));
-    help->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(help));
-    EXPECT_TRUE(comesTo(*help, ""));
-
-    script_.in("AboutForm", [&](QDialog& dialog) {
-        press(*help, "Command3");
-        EXPECT_FALSE(help->isVisible());
-        EXPECT_FALSE(enginePageExists());
-        EXPECT_TRUE(dialog.isVisible());
-        dialog.close();
-    });
-    game_->window.input([this] { flow().showAbout(); });
-
-    EXPECT_EQ(showHelp(), help);
-    EXPECT_NE(pageText(*help, "Go to two"), "");
-}
-
-TEST_F(HelpTest, AMissingPageIsTheEnginesToTell)
-{
-    std::filesystem::remove(folder_.file("lexigrove.htm"));
-    QWidget* const help = showHelp();
-    ASSERT_NE(help, nullptr);
-    const std::string text = pageText(*help, "ERR_FILE_NOT_FOUND");
-    EXPECT_NE(text.find("ERR_FILE_NOT_FOUND"), std::string::npos) << text;
-}
-
 } // namespace
-
 } // namespace lexigrove

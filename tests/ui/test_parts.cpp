@@ -1,20 +1,26 @@
 #include "platform/leaving.hpp"
+#include "tests/support/temporary_folder.hpp"
+#include "ui/dialogs/beside.hpp"
 #include "ui/look/text.hpp"
 #include "ui/machine/event_gate.hpp"
 #include "ui/machine/qt_sound_device.hpp"
+#include "ui/pages/browser_view.hpp"
 #include "ui/start_options.hpp"
 
 #include <QDialog>
+#include <QLabel>
 #include <QProcess>
-#include <QTimer>
+#include <QProcessEnvironment>
+#include <QPushButton>
 
 #include <algorithm>
 #include <array>
 #include <gtest/gtest.h>
+#include <string>
+#include <utility>
 
 namespace lexigrove
 {
-
 namespace
 {
 
@@ -32,39 +38,14 @@ TEST(Text, IsWindows1252)
     EXPECT_EQ(pathFromQString(pathToQString("/tmp/\xC3\xA9")), "/tmp/\xC3\xA9");
 }
 
-// Guards the way of an exception through two nested dialogs: none may cross an event loop, and the outer dialog must
-// close and hand it on.
-TEST(EventGate, CarriesLeavingThroughNestedDialogs)
-{
-    EventGate gate;
-    QDialog outer;
-    bool innerThrew = false;
-    QTimer::singleShot(0, &outer, [&] {
-        gate.run([&] {
-            QDialog inner;
-            QTimer::singleShot(0, &inner, [&] { gate.requestLeaving(); });
-            try {
-                gate.exec(inner);
-            } catch (const Leaving&) {
-                innerThrew = true;
-                throw;
-            }
-        });
-    });
-    EXPECT_THROW(gate.exec(outer), Leaving);
-    EXPECT_TRUE(innerThrew);
-    EXPECT_FALSE(outer.isVisible());
-    EXPECT_FALSE(gate.isWaiting());
-    EXPECT_NO_THROW(gate.checkpoint()) << "told once";
-}
-
+// Guards a window that is closed where nothing could tell of it: no dialog comes up afterwards.
 TEST(EventGate, ShowsNoDialogToSomebodyWhoLeaves)
 {
     EventGate gate;
     gate.requestLeaving();
     QDialog dialog;
     EXPECT_THROW(gate.exec(dialog), Leaving);
-    EXPECT_FALSE(gate.takeRequest());
+    EXPECT_FALSE(gate.takeRequest()) << "told once";
 }
 
 // Guards the game from the machine's sound: no file, no device and no module may cost time or say anything.
@@ -81,6 +62,72 @@ TEST(Sound, IsSilentAndQuickWithoutAFile)
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
 }
 
+// Guards windows at the edge of the screen and on small screens.
+TEST(Beside, AWindowStandsBesideWhatStaysInSight)
+{
+    const QRect screen(0, 0, 1000, 700);
+    EXPECT_EQ(beside({0, 50, 500, 500}, {300, 500}, screen), QRect(515, 50, 300, 500));
+    EXPECT_EQ(beside({450, 50, 500, 500}, {300, 500}, screen), QRect(134, 50, 300, 500)) << "no room at the right";
+    EXPECT_EQ(beside({100, 50, 800, 500}, {300, 500}, screen), QRect(700, 50, 300, 500)) << "nor at the left";
+    EXPECT_EQ(beside({0, 400, 500, 500}, {300, 500}, screen), QRect(515, 200, 300, 500));
+}
+
+// Guards the rules of the page views: what is not named is refused.
+TEST(BrowserRules, OnlyWhatAViewIsForIsAllowed)
+{
+    const TemporaryFolder folder;
+    for (const char* name : {"lexigrove.htm", "board.png", "Lexigrove.cfg"})
+        folder.write(name, "");
+    std::filesystem::create_symlink("/etc/passwd", folder.file("link.png"));
+    const auto local = [&](const std::string& name) {
+        return QUrl::fromLocalFile(QString::fromStdString(folder.file(name)));
+    };
+    const auto page = [](const BrowserRules& rules, const QUrl& url) { return rules.allows({url, url, true, false}); };
+    const auto part = [](const BrowserRules& rules, const QUrl& url, const QUrl& of) {
+        return rules.allows({url, of, false, true});
+    };
+    const QUrl far("https://words.example/");
+    const QUrl near("http://127.0.0.1:80/");
+
+    const BrowserRules services = BrowserRules::forServices("https://words.example");
+    EXPECT_TRUE(page(services, far));
+    EXPECT_TRUE(part(services, QUrl("https://other.example/a.png"), far));
+    EXPECT_TRUE(part(services, QUrl("data:image/png;base64,AA"), far));
+    EXPECT_TRUE(part(services, near, near));
+    for (const char* refused : {"http://words.example/", "http://localhost.example/", "ftp://words.example/",
+                                "data:text/html,x", "chrome://settings", "javascript:alert(1)", "file:///etc/passwd"})
+        EXPECT_FALSE(page(services, QUrl(refused))) << refused;
+    EXPECT_FALSE(page(services, near));
+    EXPECT_FALSE(part(services, near, far)) << "a page of the network does not reach into the machine";
+    EXPECT_FALSE(part(services, local("board.png"), far));
+    const BrowserRules servicesHere = BrowserRules::forServices("http://localhost:80");
+    EXPECT_TRUE(page(servicesHere, near) && page(servicesHere, QUrl("http://localhost/")));
+
+    const BrowserRules help = BrowserRules::forLocalPage(QString::fromStdString(folder.file("lexigrove.htm")));
+    QUrl anchor = local("lexigrove.htm");
+    anchor.setFragment("rules");
+    EXPECT_TRUE(page(help, anchor) && part(help, local("board.png"), anchor));
+    EXPECT_FALSE(page(help, far) || part(help, far, anchor));
+    EXPECT_FALSE(page(help, local("Lexigrove.cfg")) || part(help, local("Lexigrove.cfg"), anchor));
+    EXPECT_FALSE(part(help, local("link.png"), anchor)) << "a link that leads out of the folder";
+}
+
+// Guards players whose engine is not installed: the window says so and offers the system's browser.
+TEST(PageView, WithoutTheEngineTheViewSaysSo)
+{
+    const TemporaryFolder empty;
+    BrowserLoader loader({QString::fromStdString(empty.path())});
+    BrowserView view(loader, BrowserRules::forServices("https://words.example"));
+    view.navigate(QUrl("https://words.example/CAT"));
+    const QString text = view.findChild<QLabel*>("Failure")->text();
+    EXPECT_TRUE(text.contains("https://words.example/CAT") && text.contains("not installed")) << text.toStdString();
+    EXPECT_TRUE(view.findChild<QPushButton*>("SystemBrowser")->isVisibleTo(&view));
+
+    empty.write("lexigrove-browser.so", "no module at all");
+    view.navigate(QUrl("https://words.example/CAT"));
+    EXPECT_FALSE(view.findChild<QLabel*>("Failure")->text().contains("not installed"));
+}
+
 /// What the real program answers on a machine without a display.
 std::pair<int, QByteArray> answerTo(const QStringList& arguments)
 {
@@ -94,7 +141,7 @@ std::pair<int, QByteArray> answerTo(const QStringList& arguments)
     return {program.exitCode(), program.readAllStandardOutput() + program.readAllStandardError()};
 }
 
-// Guards the command line: a slip must be told, not passed over, and on a machine without a display, too.
+// Guards the command line: a slip must be reported, not ignored, even on a machine without a display.
 TEST(StartOptions, AreReadBeforeADisplayIsLookedFor)
 {
     const std::pair<int, QByteArray> version{0, "LexiGrove " LEXIGROVE_VERSION "\n"};
@@ -119,5 +166,4 @@ TEST(StartOptions, AreReadBeforeADisplayIsLookedFor)
 }
 
 } // namespace
-
 } // namespace lexigrove

@@ -1,207 +1,312 @@
-#include "settings/readable_colours.hpp"
-#include "tests/ui/played_window.hpp"
+#include "tests/ui/window_test.hpp"
 
-#include <QHeaderView>
-#include <QImage>
+#include <QFocusEvent>
+#include <QSignalSpy>
 
 namespace lexigrove
 {
-
 namespace
 {
 
-/// Playing with mouse and keys in the real window.
-class Playing : public testing::TestWithParam<Arrangement>
+/// Playing in both arrangements, with Q over CATS in the second column, which is a long one: tiles 9 to 13.
+class Playing : public WindowTest, public testing::WithParamInterface<Arrangement>
 {
 protected:
-    /// Q over CATS in the second column, which is a long one in both arrangements: tiles 9 to 13.
-    void SetUp() override { play_.start(GetParam(), Letters().put(9, "QCATS")); }
-
-    [[nodiscard]] QColor face() { return toQColor(play_.flow().scheme.tileFace(1)); }
-    [[nodiscard]] QColor selectedFace() { return toQColor(play_.flow().scheme.selectedFace()); }
-
-    PlayedWindow play_;
+    void SetUp() override
+    {
+        WindowTest::SetUp();
+        start({{9, "QCATS"}}, GetParam());
+    }
 };
+INSTANTIATE_TEST_SUITE_P(SquareAndStaggered, Playing, testing::Values(Arrangement::Square, Arrangement::Staggered));
 
-INSTANTIATE_TEST_SUITE_P(Arrangements, Playing, testing::Values(Arrangement::Square, Arrangement::Staggered),
-                         [](const auto& param) {
-                             return param.param == Arrangement::Square ? std::string("Square") : "Staggered";
-                         });
-
-// Guards the road of a word through the window: a click on the wrong tile, a look that lags behind the model, an
+// Guards a word's way through the window against a click on the wrong tile, a look that lags behind the model, an
 // animation that nobody sees, a gap that is not refilled.
 TEST_P(Playing, AWordIsClickedEnteredAndRefilled)
 {
-    play_.clickAll({10, 11, 12});
-    EXPECT_EQ(play_.shown("WordTried"), "CAT");
-    EXPECT_EQ(play_.shown("CurrScore"), "5");
-    EXPECT_EQ(play_.paintedFace(11), selectedFace());
-    EXPECT_EQ(play_.paintedFace(13), face());
+    EXPECT_TRUE(writes(child("WordTried"), colours().cardQuietText)) << "what to do";
+    for (const int tile : {10, 11, 12})
+        click(tile);
+    EXPECT_EQ(shown("WordTried"), "CAT");
+    EXPECT_EQ(shown("CurrScore"), "5");
+    EXPECT_TRUE(writes(child("CurrScore"), colours().accent));
+    EXPECT_EQ(paintedFace(11), selectedFace());
 
-    play_.animate(100);
-    bool sawSliding = false;
-    const SlidingPanel& panel = play_.theBoard().Picture2;
-    const Meanwhile sliding(
-        [&] { return panel.Visible && panel.Top > play_.theBoard().cellTop(1, 2) + layout::cellSize / 3; },
-        [&] {
-            const BoardGeometry& shape = play_.board().geometryOfBoard();
-            const QRectF tile = shape.tilePlace(panel.DummyTile[0], panel.Left, panel.Top);
-            sawSliding = play_.painted(facePoint(tile.toRect())) == face();
-        });
-    play_.press("EnterWord");
-    EXPECT_TRUE(sawSliding) << "the letters above are seen on their way";
+    animate(100);
+    const SlidingPanel& panel = view().board.Picture2;
+    script.when([&] { return panel.Visible && panel.Top > view().board.cellTop(1, 2) + layout::cellSize / 3; },
+                [&] {
+                    const BoardGeometry& shape = board().geometryOfBoard();
+                    const QRectF tile = shape.tilePlace(panel.DummyTile[0], panel.Left, panel.Top);
+                    EXPECT_EQ(paintedFace(tile.toRect()), face()) << "the letters above are seen on their way";
+                });
+    press("EnterWord");
+    EXPECT_EQ(shown("YourScore"), "5");
+    EXPECT_EQ(letter(9) + letter(10) + letter(11) + letter(12), "...Q");
+    EXPECT_EQ(paintedFace(12), face());
+    EXPECT_NE(paintedFace(10), face());
 
-    EXPECT_EQ(play_.shown("YourScore"), "5");
-    EXPECT_EQ(play_.shown("WordTried"), "");
-    EXPECT_EQ(play_.flow().game.state.WordsMade.text(1, WordsGrid::wordColumn), "CAT");
-    EXPECT_EQ(play_.letter(12), "Q");
-    EXPECT_EQ(play_.letter(9) + play_.letter(10) + play_.letter(11), "...");
-    EXPECT_EQ(play_.paintedFace(12), face());
-    EXPECT_NE(play_.paintedFace(10), face());
-
-    play_.drop(2);
-    EXPECT_EQ(play_.letter(11) + play_.letter(10) + play_.letter(9), "FBH") << "its own letter lowest, then the left";
-    EXPECT_EQ(play_.paintedFace(10), face());
-    EXPECT_EQ(play_.waiting(), "MNPKMPTY") << "the drop row is refilled from the queue";
+    drop(2);
+    EXPECT_EQ(letter(9) + letter(10) + letter(11), "HBF");
+    EXPECT_EQ(paintedFace(10), face());
+    EXPECT_EQ(view().board.waiting(2).Caption(), "N") << "the drop row is refilled from the queue";
 }
 
-// Guards the right button: one click still acts on the path, the second enters the word instead of clicking.
-TEST_P(Playing, TwoRightClicksEnterTheWord)
+// Guards what the pointer tells, a button that is released elsewhere than it was pressed (the release counts), and the
+// right button, whose second click enters the word instead of clicking.
+TEST_P(Playing, ThePointerTellsAndReleasesCount)
 {
-    play_.clickAll({10, 11});
-    play_.click(12, Qt::RightButton);
-    EXPECT_EQ(play_.shown("WordTried"), "CAT");
-    play_.click(13, Qt::RightButton);
-    EXPECT_EQ(play_.shown("YourScore"), "5");
-    EXPECT_EQ(play_.word(), "");
-    EXPECT_EQ(play_.letter(13), "S");
+    hover(9);
+    EXPECT_EQ(shown("Label1"), "Letter Q - score =10");
+    EXPECT_NE(paintedFace(9), face()) << "the tile under the pointer is lifted in tone";
+    hover(10);
+    EXPECT_EQ(paintedFace(9), face());
+
+    QTest::mousePress(&board(), Qt::LeftButton, {}, board().tileRect(12).center());
+    QTest::mouseRelease(&board(), Qt::LeftButton, {}, board().tileRect(10).center());
+    EXPECT_EQ(word(), "C");
+    QTest::mousePress(&board(), Qt::LeftButton, {}, board().tileRect(11).center());
+    QTest::mouseRelease(&board(), Qt::LeftButton, {}, {-20, -20});
+    EXPECT_EQ(word(), "C");
+
+    click(11);
+    click(12, Qt::RightButton);
+    EXPECT_EQ(shown("WordTried"), "CAT");
+    click(13, Qt::RightButton);
+    EXPECT_EQ(shown("YourScore"), "5");
+    EXPECT_EQ(word(), "");
 }
 
-// Guards the player from losing what he built with a word that is none, or with a click over a full column.
-TEST_P(Playing, RefusedActionsChangeNothing)
-{
-    play_.clickAll({12, 11, 10});
-    play_.press("EnterWord");
-    EXPECT_EQ(play_.shown("Label1"), "TAC not in dictionary");
-    EXPECT_FALSE(play_.child("Warn").isHidden());
-    EXPECT_EQ(play_.word(), "TAC");
-    EXPECT_EQ(play_.shown("YourScore"), "0");
-
-    play_.drop(2);
-    EXPECT_EQ(play_.waiting(), "BFHKMPTY");
-    EXPECT_EQ(play_.letter(9), "Q");
-}
-
-TEST_P(Playing, ThePathIsShortenedAndRestarted)
-{
-    play_.clickAll({10, 11, 12});
-    play_.click(12);
-    EXPECT_EQ(play_.shown("WordTried"), "CA");
-    EXPECT_EQ(play_.paintedFace(12), face());
-    play_.click(13);
-    EXPECT_EQ(play_.shown("WordTried"), "S") << "not next to the last tile: a new path";
-    EXPECT_EQ(play_.paintedFace(10), face());
-    play_.clickAll({12, 11, 13});
-    EXPECT_EQ(play_.shown("WordTried"), "S") << "a tile of the path that is not its last: a new path";
-    QTest::keyClick(&play_.window(), Qt::Key_Escape);
-    EXPECT_EQ(play_.shown("WordTried"), "");
-    EXPECT_EQ(play_.paintedFace(13), face());
-}
-
-// Guards what the pointer tells, and developers' description from everybody else.
-TEST_P(Playing, HoveringTellsTheLetter)
-{
-    QTest::mouseMove(&play_.board(), play_.board().tileRect(9).center());
-    EXPECT_EQ(play_.shown("Label1"), "Letter Q - score =10");
-    EXPECT_TRUE(play_.child("Label4").isHidden());
-    EXPECT_NE(play_.paintedFace(9), face()) << "the tile under the pointer is lifted in tone";
-    QTest::mouseMove(&play_.board(), play_.board().tileRect(10).center());
-    EXPECT_EQ(play_.paintedFace(9), face());
-}
-
-// Guards playing without a mouse: a typed word must not end at the first of two equal letters that turns out wrong.
+// Guards playing without a mouse, and the player from losing a word that is none.
 TEST_P(Playing, WordsAreTyped)
 {
-    play_.start(GetParam(), Letters().put(9, "QCATS").put(33, "C").put(36, "A"));
-    play_.type("cat");
-    EXPECT_EQ(play_.shown("WordTried"), "CAT");
-    EXPECT_EQ(play_.flow().game.selection.tileAt(2), 11);
-    QTest::keyClick(&play_.window(), Qt::Key_Backspace);
-    EXPECT_EQ(play_.shown("WordTried"), "CA");
-    QTest::keyClick(&play_.window(), Qt::Key_Escape);
+    enter("tac");
+    EXPECT_EQ(shown("Label1"), "TAC not in dictionary");
+    EXPECT_TRUE(child("Warn").isVisible());
+    EXPECT_EQ(shown("WordTried"), "TAC");
+    key(Qt::Key_Escape);
+    EXPECT_EQ(shown("WordTried"), "");
 
-    play_.click(33); // a C that no A touches
-    play_.type("a");
-    EXPECT_EQ(play_.shown("WordTried"), "CA") << "spelt anew along another path";
-    play_.type("x");
-    EXPECT_EQ(play_.shown("WordTried"), "CA");
-    EXPECT_EQ(play_.shown("Label1"), "CAX cannot be spelled on the board");
-    play_.type("t");
-    QTest::keyClick(&play_.window(), Qt::Key_Return);
-    EXPECT_EQ(play_.shown("YourScore"), "5");
-    play_.type("2");
-    EXPECT_EQ(play_.letter(11), "F") << "a digit drops into its column";
+    QTest::keyClicks(&window(), "cats");
+    key(Qt::Key_Backspace);
+    EXPECT_EQ(shown("WordTried"), "CAT");
+    key(Qt::Key_X);
+    key(Qt::Key_S, Qt::AltModifier);
+    EXPECT_EQ(shown("WordTried"), "CAT") << "a letter that does not touch, and one that is a menu's";
+    key(Qt::Key_Return);
+    EXPECT_EQ(shown("YourScore"), "5");
+    key(Qt::Key_2);
+    EXPECT_EQ(letter(11), "F") << "a digit drops into its column";
 }
 
 // Guards the grid's units: a click on a heading must find its column at every width of the window.
 TEST_P(Playing, HeadingsSortTheWordsAndRowsArePicked)
 {
-    WordsGrid& grid = play_.flow().game.state.WordsMade;
-    grid.insertOnTop({.score = 9, .word = "DOG", .maker = Maker::Computer});
-    grid.insertOnTop({.score = 30, .word = "ACES"});
-    grid.insertOnTop({.score = 4, .word = "BEE"});
-    play_.window().showModels();
-    auto& words = play_.child<WordsView>("WordsMade");
+    start({{9, "QCATS"}, {33, "DO"}, {49, "CATS"}}, GetParam());
+    for (const char* made : {"cat", "cats", "do"})
+        enter(made);
+    EXPECT_EQ(wordsMade(), "DO CATS CAT");
+    auto& words = child<WordsView>("WordsMade");
     for (const int width : {900, 1300}) {
-        play_.window().resize(width, 640);
-        const QHeaderView& headings = *words.horizontalHeader();
-        const auto clickHeading = [&](int column) {
-            const QPoint place(headings.sectionPosition(column) + headings.sectionSize(column) - 3, 5);
-            QTest::mouseClick(headings.viewport(), Qt::LeftButton, {}, place);
-        };
-        grid.Tag.clear();
-        clickHeading(WordsGrid::wordColumn);
-        EXPECT_EQ(grid.text(1, 3) + grid.text(2, 3), "ACESBEE");
-        clickHeading(WordsGrid::scoreColumn);
-        EXPECT_EQ(grid.text(1, 3) + grid.text(2, 3), "ACESDOG");
+        window().resize(width, 640);
+        clickHeading(words, WordsGrid::wordColumn); // one mark serves all columns: ascending, then descending
+        EXPECT_EQ(wordsMade(), "CAT CATS DO");
+        clickHeading(words, WordsGrid::scoreColumn);
+        EXPECT_EQ(wordsMade(), "CATS CAT DO");
     }
-    QTest::mouseClick(words.viewport(), Qt::LeftButton, {}, words.visualRect(words.model()->index(1, 0)).center());
-    EXPECT_EQ(grid.Row(), 2);
+    QTest::mouseClick(words.viewport(), Qt::LeftButton, {}, wordCell(words, 2).center());
+    EXPECT_EQ(view().state.WordsMade.Row(), 2);
     QTest::keyClick(&words, Qt::Key_Down);
-    EXPECT_EQ(grid.Row(), 3);
-    const auto wordCell = [&](int row) {
-        const QRect cell = words.visualRect(words.model()->index(row - 1, WordsGrid::wordColumn));
-        return words.viewport()->grab(cell).toImage().pixelColor(cell.width() - 3, 3);
-    };
-    const WindowColours& colours = play_.host().theme.colours();
-    EXPECT_EQ(wordCell(1), toQColor(colours.card));
-    EXPECT_EQ(wordCell(2), toQColor(colours.computerBack));
-    EXPECT_EQ(wordCell(3), toQColor(colours.cardSelection));
+    EXPECT_EQ(view().state.WordsMade.Row(), 3);
+    EXPECT_EQ(painted(*words.viewport(), wordCell(words, 2).topLeft()), toQColor(colours().card));
+    EXPECT_EQ(painted(*words.viewport(), wordCell(words, 3).topLeft()), toQColor(colours().cardSelection));
 }
 
 // Guards the letters' place at every size and scale: tiles within the window, square, none over another, found again
 // by a click.
 TEST_P(Playing, TheBoardFillsTheWindow)
 {
-    for (const QSize size : {play_.window().minimumSizeHint(), QSize(900, 640), QSize(1000, 1400), QSize(1900, 700)}) {
-        play_.window().resize(size);
-        const QRect room = play_.board().rect();
+    for (const QSize size : {window().minimumSizeHint(), QSize(900, 640), QSize(1000, 1400), QSize(1900, 700)}) {
+        window().resize(size);
         for (int tile = 1; tile <= Board::tileCount; ++tile) {
-            const QRect place = play_.board().tileRect(tile);
-            if (!play_.theBoard().isVisible(tile))
+            if (!view().board.isVisible(tile))
                 continue;
-            EXPECT_TRUE(room.contains(place)) << "tile " << tile;
+            const QRect place = board().tileRect(tile);
+            EXPECT_TRUE(board().rect().contains(place)) << "tile " << tile;
             EXPECT_EQ(place.width(), place.height());
             EXPECT_GE(place.width(), 36);
-            EXPECT_EQ(play_.board().tileAt(place.center()), tile);
-            EXPECT_EQ(play_.board().tileAt(place.topLeft() + QPoint(1, 1)), tile);
+            EXPECT_EQ(board().tileAt(place.center()), tile);
+            EXPECT_EQ(board().tileAt(place.topLeft() + QPoint(1, 1)), tile);
         }
-        const double unused = play_.board().parentWidget()->height() - play_.board().height();
-        const double wide = play_.board().parentWidget()->width() - play_.board().width();
-        EXPECT_TRUE(unused < 80 || wide < 500) << "neither the height nor the width is used";
+        const QSize unused = board().parentWidget()->size() - board().size();
+        EXPECT_TRUE(unused.height() < 80 || unused.width() < 500) << "neither the height nor the width is used";
+    }
+}
+
+using Course = WindowTest;
+
+// Guards the pause: nothing of the board may be seen or clicked through the cover, and it must end with a click.
+TEST_F(Course, PauseCoversAndAClickResumes)
+{
+    start({{9, "QCATS"}});
+    press("Pause");
+    auto& cover = child<PauseCover>("PauseCover");
+    ASSERT_TRUE(cover.isVisible());
+    EXPECT_EQ(cover.geometry(), board().geometry());
+    EXPECT_TRUE(child("PauseCoverOfWords").isVisible());
+    EXPECT_EQ(cover.caption(), "Paused");
+    EXPECT_FALSE(child("EnterWord").isEnabled());
+    key(Qt::Key_C);
+    EXPECT_EQ(word(), "");
+    auto& timer = child<QTimer>("PauseTimer");
+    timer.setInterval(5);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return cover.caption().isEmpty(); })) << "the caption blinks";
+
+    const QPoint overTile = board().tileRect(10).center();
+    EXPECT_EQ(cover.parentWidget()->childAt(board().pos() + overTile), &cover);
+    QTest::mouseClick(&cover, Qt::LeftButton, {}, overTile);
+    EXPECT_FALSE(cover.isVisible());
+    EXPECT_EQ(word(), "");
+    click(10);
+    EXPECT_EQ(word(), "C");
+}
+
+// Guards the swap: its mark must be seen, and the click on the drop row must not drop.
+TEST_F(Course, AShiftClickSwapsLetters)
+{
+    start({{9, "QCATS"}});
+    Study(flow()).set(&GameState::yourScore, 25);
+    click(10, Qt::LeftButton, Qt::ShiftModifier);
+    EXPECT_EQ(shown("Label1"), "Now click the waiting letter to swap it with");
+    const QPoint border = board().tileRect(10).topLeft() + QPoint(1, 1);
+    EXPECT_EQ(painted(board(), border), toQColor(colours().accent));
+    drop(3);
+    EXPECT_EQ(letter(10), "H");
+    EXPECT_EQ(view().board.waiting(3).Caption(), "C");
+    EXPECT_EQ(shown("YourScore"), "15");
+    EXPECT_NE(painted(board(), border), toQColor(colours().accent));
+}
+
+// Guards New Game, which asks, and leads through the options into a new one.
+TEST_F(Course, NewGameAsks)
+{
+    start({{9, "QCATS"}});
+    enter("cat");
+    script.box("Do you wish to reset?", QMessageBox::Yes).click("Form7", "Startx");
+    key(Qt::Key_N, Qt::ControlModifier);
+    EXPECT_TRUE(flow().inGame());
+    EXPECT_EQ(shown("YourScore"), "0");
+}
+
+// Guards an animation from what the player does meanwhile, and the player who closes the window from waiting for it.
+TEST_F(Course, ClosingInTheMiddleOfAnAnimationLeaves)
+{
+    start({{9, "QCATS"}});
+    QTest::keyClicks(&window(), "cat");
+    animate(2000); // 80 ms a step: the word would take seconds
+    const QSignalSpy ended(&window(), &MainWindow::ended);
+    script.when([&] { return view().board.Picture2.Visible; },
+                [&] {
+                    click(33);
+                    press("Hintx");
+                    hover(34);
+                    EXPECT_EQ(word(), "CAT");
+                    window().close();
+                });
+    press("EnterWord");
+    EXPECT_TRUE(flow().ended());
+    EXPECT_EQ(ended.count(), 1);
+}
+
+// Guards the computer's turn: the input that ends its wait must do nothing else, neither as a key nor as a click; and
+// whoever closes the window in its middle leaves before the word is played.
+TEST_F(Course, AnyInputEndsTheComputersTurnAndIsUsedUp)
+{
+    chooseOptions([](OptionsForm& options) { options.setValue(options.Check1, true); });
+    start({{9, "QCATS"}, {33, "DO"}, {49, "ACT"}});
+    const auto waits = [this] { // the status line alone may still tell of the turn before
+        const bool played = view().state.computerTurnInProgress && view().state.showsEnterWord();
+        return played && shown("Label1") == "Press any key to continue";
+    };
+    script.when(waits, [&] {
+        EXPECT_EQ(shown("WordTried"), "ACT");
+        EXPECT_FALSE(child("Frame3").isEnabled());
+        key(Qt::Key_N, Qt::ControlModifier); // New Game, were it not used up
+    });
+    enter("cats");
+    EXPECT_EQ(shown("WordTried"), "Your move");
+    EXPECT_EQ(shown("CompScore"), "5");
+    EXPECT_TRUE(writes(child("CompScore"), colours().computerText));
+    EXPECT_EQ(wordsMade(), "ACT CATS");
+    const auto& words = child<WordsView>("WordsMade");
+    EXPECT_EQ(painted(*words.viewport(), wordCell(words, 1).topLeft()), toQColor(colours().computerBack));
+
+    script.when(waits, [&] { click(40); });
+    press("EnterWord"); // a pass
+    EXPECT_EQ(shown("CompScore"), "8");
+    EXPECT_EQ(word(), "") << "the release is used up with the press";
+    click(40);
+    EXPECT_EQ(word(), "V");
+    key(Qt::Key_Escape);
+
+    Study(flow()).editTile(57, "D", 1);
+    Study(flow()).editTile(58, "O", 1);
+    script.when(waits, [&] { window().close(); });
+    press("EnterWord");
+    EXPECT_TRUE(flow().ended());
+    EXPECT_EQ(shown("CompScore"), "8");
+}
+
+// Guards the clock from expiring in the middle of a game: the window never gives it the focus, yet a container that
+// does so ends the game.
+TEST_F(Course, TheClockTakesClicksAndNoFocus)
+{
+    chooseOptions([](OptionsForm& options) { options.setValue(options.Check1, true); });
+    start({});
+    auto& clock = child<ClockView>("Dc1");
+    EXPECT_EQ(clock.focusPolicy(), Qt::NoFocus);
+    auto& frame = child("Frame10");
+    QTest::mouseClick(&frame, Qt::LeftButton, {}, frame.rect().center());
+    EXPECT_EQ(view().clock.DigitWidth(), 4);
+    QTest::mouseClick(&frame, Qt::RightButton, {}, frame.rect().center());
+    EXPECT_EQ(view().clock.ClockColor(), "RED");
+    EXPECT_EQ(painted(frame, frame.rect().center()), QColor(50, 0, 0));
+
+    script.box("Game over\n5 minutes have elapsed").box("Another game?", QMessageBox::No);
+    QFocusEvent focus(QEvent::FocusIn);
+    QApplication::sendEvent(&clock, &focus);
+    EXPECT_TRUE(flow().ended());
+}
+
+// Guards the hidden keys: F1 is the password, not the help, and the delay's keys act on release, in developer mode
+// only.
+TEST_F(Course, DeveloperKeys)
+{
+    start({});
+    animate(250);
+    key(Qt::Key_End);
+    EXPECT_EQ(settings().dropDelay, 250);
+    EXPECT_FALSE(child("Label4").isVisible());
+    script.answer("718kestr");
+    key(Qt::Key_F1);
+    EXPECT_TRUE(child("Label4").isVisible());
+    QTest::keyPress(&window(), Qt::Key_End);
+    EXPECT_EQ(settings().dropDelay, 250);
+    QTest::keyRelease(&window(), Qt::Key_End);
+    EXPECT_EQ(settings().dropDelay, 0);
+}
+
+// Guards typing and the password from the menus' keys: none takes a letter, a digit or F1.
+TEST(Commands, ShortcutsLeaveBareKeysAlone)
+{
+    for (const Menu& menu : mainMenus()) {
+        for (const MenuItem& item : menu.items) {
+            for (const QKeySequence& keys : item.keys)
+                EXPECT_TRUE(keys == QKeySequence(Qt::Key_Pause) || keys[0].keyboardModifiers() == Qt::ControlModifier)
+                    << keys.toString().toStdString();
+        }
     }
 }
 
 } // namespace
-
 } // namespace lexigrove

@@ -1,7 +1,8 @@
 #include "tools/word_lists/levels.hpp"
 
+#include "platform/ascii.hpp"
+
 #include <algorithm>
-#include <cctype>
 #include <cmath>
 #include <map>
 #include <stdexcept>
@@ -41,7 +42,7 @@ std::vector<Ranked> rankedWords(const Scowl& scowl, const WordCounts& counts, co
     std::vector<Ranked> ranked;
     for (const auto& [word, size] : scowl.classes) {
         const auto entry = counts.find(word);
-        if (size > level2Class || entry == counts.end() || !isWord(word) || offensive.contain(word))
+        if (size > level2Class || entry == counts.end() || !isWord(word) || offensive.contains(word))
             continue;
         const bool everyday = size <= everydayClass;
         const bool isName = !everyday && scowl.names.contains(word);
@@ -59,7 +60,7 @@ std::vector<Ranked> rankedWords(const Scowl& scowl, const WordCounts& counts, co
 
 /// SCOWL's large classes list names and abbreviations in lower case too: "texas", "gif". A rare word that is spelled
 /// like one is taken for one.
-bool isPlainWord(const Scowl& scowl, const std::string& word, int size)
+bool isPlainLevelWord(const Scowl& scowl, const std::string& word, int size)
 {
     return isWord(word) &&
            (size <= surelyPlainClass || (!scowl.names.contains(word) && !scowl.abbreviations.contains(word)));
@@ -72,7 +73,7 @@ std::vector<std::string> wordsOfLevel3(const Scowl& scowl)
     std::vector<std::string> words;
     std::map<std::size_t, std::vector<std::string>> rareByLength;
     for (const auto& [word, size] : scowl.classes) {
-        if (!isPlainWord(scowl, word, size))
+        if (!isPlainLevelWord(scowl, word, size))
             continue;
         (size <= completeClass ? words : rareByLength[word.size()]).push_back(word);
     }
@@ -89,10 +90,8 @@ std::vector<std::string> wordsOfLevel3(const Scowl& scowl)
 
 std::vector<std::string> printed(std::vector<std::string> words)
 {
-    for (std::string& word : words) {
-        for (char& c : word)
-            c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
-    }
+    for (std::string& word : words)
+        word = ascii::upperCase(std::move(word));
     std::sort(words.begin(), words.end());
     return words;
 }

@@ -161,7 +161,7 @@ bool OffensiveWords::isVerbForm(std::string_view word) const
     return false;
 }
 
-bool OffensiveWords::contain(const std::string& word) const
+bool OffensiveWords::contains(const std::string& word) const
 {
     return words_.contains(word) || isPlural(word) || isVerbForm(word);
 }

@@ -19,7 +19,7 @@ public:
     OffensiveWords(Words words, Words verbs) : words_(std::move(words)), verbs_(std::move(verbs)) {}
 
     /// Whether the word is one of them, a plural of one, or a form of a verb among them.
-    bool contain(const std::string& word) const;
+    bool contains(const std::string& word) const;
 
 private:
     bool isPlural(std::string_view word) const;

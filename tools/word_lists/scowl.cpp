@@ -1,8 +1,9 @@
 #include "tools/word_lists/scowl.hpp"
 
+#include "platform/ascii.hpp"
+
 #include <algorithm>
 #include <array>
-#include <cctype>
 #include <filesystem>
 #include <fstream>
 #include <stdexcept>
@@ -34,10 +35,9 @@ struct ListFile {
     int size = 0;
 };
 
-bool isNumber(std::string_view text)
+bool isSize(std::string_view text)
 {
-    return !text.empty() && text.size() < 4 &&
-           std::all_of(text.begin(), text.end(), [](unsigned char c) { return std::isdigit(c) != 0; });
+    return text.size() < 4 && ascii::isNumber(text);
 }
 
 ListFile listFile(const fs::path& path)
@@ -45,7 +45,7 @@ ListFile listFile(const fs::path& path)
     const std::string name = path.filename().string();
     const std::size_t dash = name.find('-');
     const std::size_t dot = name.rfind('.');
-    if (dash == std::string::npos || dot == std::string::npos || dot < dash || !isNumber(name.substr(dot + 1)))
+    if (dash == std::string::npos || dot == std::string::npos || dot < dash || !isSize(name.substr(dot + 1)))
         return {};
     return {path, name.substr(0, dash), name.substr(dash + 1, dot - dash - 1), std::stoi(name.substr(dot + 1))};
 }
@@ -60,7 +60,7 @@ std::string lettersInLowerCase(std::string_view text)
     std::string letters;
     for (const char c : text) {
         if (c != '\'')
-            letters += static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+            letters += ascii::toLower(c);
     }
     return letters;
 }
@@ -104,7 +104,7 @@ void requireLists(const std::string& folder)
 
 bool isPlainWord(std::string_view text)
 {
-    return text.size() >= 2 && std::all_of(text.begin(), text.end(), [](char c) { return c >= 'a' && c <= 'z'; });
+    return text.size() >= 2 && std::all_of(text.begin(), text.end(), ascii::isLower);
 }
 
 Scowl readScowl(const std::string& folder)

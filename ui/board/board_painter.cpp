@@ -30,7 +30,7 @@ QRectF BoardPainter::waitingPlace(int col) const
 
 void BoardPainter::paint(QPainter& painter, const BoardMarks& marks, const QRectF& dirty) const
 {
-    paintGround(painter, marks, dirty);
+    paintBackground(painter, marks, dirty);
     paintTiles(painter, marks, dirty);
     for (int col = 1; col <= Board::columns; ++col) {
         const BoxControl& waiting = board_.waiting(col);
@@ -45,7 +45,7 @@ void BoardPainter::paint(QPainter& painter, const BoardMarks& marks, const QRect
 }
 
 /// The strip of the drop row, what can drop, and the empty cells.
-void BoardPainter::paintGround(QPainter& painter, const BoardMarks& marks, const QRectF& dirty) const
+void BoardPainter::paintBackground(QPainter& painter, const BoardMarks& marks, const QRectF& dirty) const
 {
     const WindowColours& colours = theme_.colours();
     painter.setRenderHint(QPainter::Antialiasing);
@@ -62,7 +62,7 @@ void BoardPainter::paintGround(QPainter& painter, const BoardMarks& marks, const
     };
     if (marks.showsSlots) {
         for (int col = 1; col <= Board::columns; ++col) {
-            paintSlot(waitingPlace(col), mixed(colours.strip, colours.ground, 0.5));
+            paintSlot(waitingPlace(col), mixed(colours.strip, colours.background, 0.5));
             for (int row = 1; row <= board_.columnHeight(col); ++row) {
                 const BoxControl& tile = board_.tile(row, col);
                 if (!tile.Visible())

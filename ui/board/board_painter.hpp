@@ -44,7 +44,7 @@ public:
     [[nodiscard]] QRectF waitingPlace(int col) const;
 
 private:
-    void paintGround(QPainter& painter, const BoardMarks& marks, const QRectF& dirty) const;
+    void paintBackground(QPainter& painter, const BoardMarks& marks, const QRectF& dirty) const;
     void paintDropMarks(QPainter& painter, const BoardMarks& marks) const;
     void paintTiles(QPainter& painter, const BoardMarks& marks, const QRectF& dirty) const;
     void paintLinks(QPainter& painter, const std::vector<int>& path) const;

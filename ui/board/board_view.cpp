@@ -147,8 +147,8 @@ void BoardView::mousePressEvent(QMouseEvent* event)
 void BoardView::mouseMoveEvent(QMouseEvent* event)
 {
     const BoardSpot spot = spotAt(event->position());
-    const bool another = spot != under_;
-    setSpot(under_, spot);
+    const bool another = spot != hovered_;
+    setSpot(hovered_, spot);
     if (pressed_ != BoardSpot{} && event->buttons() == Qt::NoButton)
         setSpot(pressed_, {});
     if (another && spot.tile != 0)
@@ -157,7 +157,7 @@ void BoardView::mouseMoveEvent(QMouseEvent* event)
 
 void BoardView::leaveEvent(QEvent* /*event*/)
 {
-    setSpot(under_, {});
+    setSpot(hovered_, {});
 }
 
 /// What counts is where the button is released.
@@ -179,7 +179,7 @@ void BoardView::paintEvent(QPaintEvent* event)
     QPainter painter(this);
     const QRectF dirty = event->rect();
     BoardMarks marks = marks_;
-    marks.lifted = takesInput() ? under_ : BoardSpot{};
+    marks.lifted = takesInput() ? hovered_ : BoardSpot{};
     marks.pressed = pressed_;
     painter_.paint(painter, marks, dirty);
 }

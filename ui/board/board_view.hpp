@@ -69,7 +69,7 @@ private:
     std::array<Shown, Board::columns + 1> shownWaiting_;
     QRectF shownPanel_;
     BoardMarks marks_;
-    BoardSpot under_;
+    BoardSpot hovered_;
     BoardSpot pressed_;
 };
 

@@ -66,7 +66,7 @@ void BoxButton::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
     const BoxPainter box(theme_);
-    box.paintFace(painter, control_, rect(), under_ && isEnabled());
+    box.paintFace(painter, control_, rect(), hovered_ && isEnabled());
     box.paintCaption(painter, control_, rect(), Theme::quietTextSize + 1);
     if (hasFocus()) {
         painter.setPen(toQColor(theme_.colours().accent));
@@ -104,14 +104,14 @@ void BoxButton::resizeEvent(QResizeEvent* event)
 
 void BoxButton::enterEvent(QEnterEvent* event)
 {
-    under_ = true;
+    hovered_ = true;
     QAbstractButton::enterEvent(event);
     update();
 }
 
 void BoxButton::leaveEvent(QEvent* event)
 {
-    under_ = false;
+    hovered_ = false;
     QAbstractButton::leaveEvent(event);
     update();
 }

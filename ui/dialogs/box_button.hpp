@@ -35,7 +35,7 @@ protected:
 private:
     BoxControl& control_;
     const Theme& theme_;
-    bool under_ = false; ///< the pointer is over it
+    bool hovered_ = false;
 };
 
 } // namespace lexigrove

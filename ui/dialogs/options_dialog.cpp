@@ -146,7 +146,7 @@ protected:
             show();
         Combo1_->setCurrentIndex(Combo1_->findText(pathToQString(form_.Combo1.Text)));
         showColour(*Combo1_, QPalette::Base, host.theme.colour(form_.Combo1.backColor));
-        preview_->show(form_.scheme());
+        preview_->setScheme(form_.scheme());
         showText(*UsrDictName_, form_.UsrDictName);
         GetUserDictName_->synchronise();
     }
@@ -251,12 +251,12 @@ private:
             Combo1_->addItem(SchemePreview::icon(scheme, devicePixelRatio()), pathToQString(name));
         }
         connect(Combo1_, &QComboBox::highlighted, this,
-                [this](int index) { preview_->show(listed_.at(static_cast<std::size_t>(index))); });
+                [this](int index) { preview_->setScheme(listed_.at(static_cast<std::size_t>(index))); });
         connect(Combo1_, &QComboBox::textActivated, this, [this](const QString& name) {
             input([&] { form_.chooseScheme(pathFromQString(name)); });
             host.showModels();
         });
-        Combo1_->closed = [this] { preview_->show(form_.scheme()); };
+        Combo1_->closed = [this] { preview_->setScheme(form_.scheme()); };
     }
 
     void setUpUserDictionary()

@@ -35,7 +35,7 @@ SchemePreview::SchemePreview(const Theme& theme, QWidget* parent) : QWidget(pare
     setObjectName("SchemePreview");
 }
 
-void SchemePreview::show(const ColourScheme& scheme)
+void SchemePreview::setScheme(const ColourScheme& scheme)
 {
     scheme_.emplace(scheme);
     update();
@@ -53,7 +53,7 @@ void SchemePreview::paintEvent(QPaintEvent*)
         return;
     QPainter painter(this);
     const WindowColours colours = deriveWindowColours(*scheme_);
-    theme_.paintCard(painter, rect(), colours.ground, colours.line);
+    theme_.paintCard(painter, rect(), colours.background, colours.line);
 
     const BoxPainter boxes(theme_);
     const TileLook look(*scheme_);
@@ -80,7 +80,7 @@ QIcon SchemePreview::icon(const ColourScheme& scheme, double devicePixelRatio)
 {
     QPixmap pixmap(iconSize * devicePixelRatio);
     pixmap.setDevicePixelRatio(devicePixelRatio);
-    pixmap.fill(toQColor(scheme.plain(scheme_entry::ground)));
+    pixmap.fill(toQColor(scheme.plain(scheme_entry::background)));
     QPainter painter(&pixmap);
     constexpr int margin = 3;
     constexpr int side = 10;

@@ -22,7 +22,7 @@ public:
 
     explicit SchemePreview(const Theme& theme, QWidget* parent = nullptr);
 
-    void show(const ColourScheme& scheme);
+    void setScheme(const ColourScheme& scheme);
 
     /// A scheme's background with its tiles' colours, for a list.
     static QIcon icon(const ColourScheme& scheme, double devicePixelRatio);

@@ -74,14 +74,14 @@ QString messageToQString(std::string_view text)
     return utf8.hasError() ? toQString(text) : decoded;
 }
 
-QString linesOf(std::string_view text)
+QString withNewlines(std::string_view text)
 {
     return messageToQString(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
 }
 
 QString onOneLine(std::string_view text)
 {
-    return linesOf(text).replace(u'\n', QStringLiteral(" \u2013 "));
+    return withNewlines(text).replace(u'\n', QStringLiteral(" \u2013 "));
 }
 
 } // namespace lexigrove

@@ -24,7 +24,7 @@ std::string pathFromQString(const QString& path);
 QString messageToQString(std::string_view text);
 
 /// The text with CR LF turned into the toolkit's line breaks.
-QString linesOf(std::string_view text);
+QString withNewlines(std::string_view text);
 
 /// The text on one line, with a dash between blanks for each line break.
 QString onOneLine(std::string_view text);

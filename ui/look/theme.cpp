@@ -57,12 +57,12 @@ SystemPalette desktopPalette()
 }
 
 /// The system colours as these windows show them.
-SystemPalette familyPalette(const WindowColours& colours)
+SystemPalette shownSystemColours(const WindowColours& colours)
 {
     SystemPalette family;
     family.entries.fill(colours.text);
-    for (const std::size_t ground : {0U, 1U, 4U, 12U})
-        family.entries[ground] = colours.ground;
+    for (const std::size_t background : {0U, 1U, 4U, 12U})
+        family.entries[background] = colours.background;
     for (const std::size_t line : {6U, 10U, 11U, 16U, 20U, 21U, 22U})
         family.entries[line] = colours.line;
     family.entries[2] = family.entries[13] = colours.accent;
@@ -79,7 +79,7 @@ QPalette palette(const WindowColours& colours)
 {
     QPalette result;
     const auto set = [&](QPalette::ColorRole role, Colour colour) { result.setColor(role, toQColor(colour)); };
-    set(QPalette::Window, colours.ground);
+    set(QPalette::Window, colours.background);
     set(QPalette::WindowText, colours.text);
     set(QPalette::Base, colours.card);
     set(QPalette::AlternateBase, mixed(colours.card, colours.cardSelection, 0.5));
@@ -98,7 +98,7 @@ QPalette palette(const WindowColours& colours)
     set(QPalette::Midlight, colours.strip);
     set(QPalette::Mid, colours.line);
     set(QPalette::Dark, colours.line);
-    set(QPalette::Shadow, mixed(colours.ground, colours.text, 0.5));
+    set(QPalette::Shadow, mixed(colours.background, colours.text, 0.5));
     for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         result.setColor(QPalette::Disabled, role, toQColor(colours.buttonDisabledText));
     return result;
@@ -120,7 +120,7 @@ QPushButton[primary="true"]:focus { border-color: @text; }
 QPushButton[primary="true"]:disabled { background: @strip; color: @disabled; border-color: @line; }
 QDialogButtonBox QPushButton { min-width: 64px; }
 QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }
-QMenuBar { background: @ground; color: @text; border-bottom: 1px solid @line; padding: 2px 8px; }
+QMenuBar { background: @background; color: @text; border-bottom: 1px solid @line; padding: 2px 8px; }
 QMenuBar::item { background: transparent; padding: 5px 10px; border-radius: 4px; }
 QMenuBar::item:selected { background: @selection; color: @selectionText; }
 QMenu { background: @card; color: @cardText; border: 1px solid @line; padding: 4px; }
@@ -135,7 +135,7 @@ QLabel[quiet="true"]:disabled { color: @disabled; }
 QLineEdit, QListView, QListWidget, QPlainTextEdit { background: @card; color: @cardText; border: 1px solid @line;
     border-radius: 4px; padding: 3px; selection-background-color: @accent; selection-color: @accentText; }
 QLineEdit:focus, QListView:focus, QListWidget:focus { border-color: @accent; }
-QLineEdit:disabled { color: @disabled; background: @ground; }
+QLineEdit:disabled { color: @disabled; background: @background; }
 QTableView { background: @card; border: 1px solid @line; border-radius: 6px; padding: 4px 0; }
 QTableView QHeaderView { background: @card; border: none; }
 QTableView QHeaderView::section { background: @card; border: none; border-bottom: 1px solid @line; padding: 0 7px; }
@@ -180,7 +180,7 @@ QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
         {"@accentHover", lifted(colours.accent, colours.accentText)},
         {"@accentPressed", mixed(colours.accent, rgb(0, 0, 0), 0.15)},
         {"@accent", colours.accent},
-        {"@disabled", mixed(colours.text, colours.ground, 0.55)},
+        {"@disabled", mixed(colours.text, colours.background, 0.55)},
         {"@cardDisabled", mixed(colours.cardText, colours.card, 0.55)},
         {"@cardText", colours.cardText},
         {"@card", colours.card},
@@ -190,7 +190,7 @@ QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
         {"@strip", colours.strip},
         {"@line", colours.line},
         {"@text", colours.text},
-        {"@ground", colours.ground},
+        {"@background", colours.background},
     }};
     for (const auto& [name, colour] : colourNames)
         sheet.replace(QLatin1String(name), toQColor(colour).name());
@@ -209,14 +209,14 @@ Theme::Theme() : desktop_(desktopPalette())
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
 }
 
-void Theme::follow(const ColourScheme& scheme)
+void Theme::apply(const ColourScheme& scheme)
 {
     if (scheme_ == &scheme && scheme.entries() == shown_)
         return;
     scheme_ = &scheme;
     shown_ = scheme.entries();
     colours_ = deriveWindowColours(scheme);
-    family_ = familyPalette(colours_);
+    systemColours_ = shownSystemColours(colours_);
     QApplication::setPalette(palette(colours_));
     qApp->setStyleSheet(styleSheet(colours_));
     emit changed();
@@ -224,7 +224,7 @@ void Theme::follow(const ColourScheme& scheme)
 
 QColor Theme::colour(Colour colour) const
 {
-    return toQColor(family_.resolve(colour));
+    return toQColor(systemColours_.resolve(colour));
 }
 
 QFont Theme::font(double pixelSize, bool bold)

@@ -40,7 +40,7 @@ public:
     [[nodiscard]] const SystemPalette& desktop() const { return desktop_; }
 
     /// Colours the application by the scheme; does nothing if its table has not changed.
-    void follow(const ColourScheme& scheme);
+    void apply(const ColourScheme& scheme);
 
     [[nodiscard]] const WindowColours& colours() const { return colours_; }
 
@@ -64,7 +64,7 @@ private:
     const ColourScheme* scheme_ = nullptr;
     ColourTable shown_{};
     WindowColours colours_{};
-    SystemPalette family_; ///< system colours as these windows show them
+    SystemPalette systemColours_; ///< as these windows show them
 };
 
 /// Converts a plain colour.

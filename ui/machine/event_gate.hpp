@@ -53,9 +53,6 @@ public:
         }
     }
 
-    /// True while a dialog or a wait is open.
-    [[nodiscard]] bool isWaiting() const { return !dialogs_.empty() || !loops_.empty(); }
-
 private:
     void closeAll();
 

@@ -28,7 +28,7 @@ QStringList nameFilters(const std::string& filter)
 
 void QtDialogs::message(const std::string& text)
 {
-    QMessageBox box(QMessageBox::NoIcon, QStringLiteral("LexiGrove"), linesOf(text), QMessageBox::Ok,
+    QMessageBox box(QMessageBox::NoIcon, QStringLiteral("LexiGrove"), withNewlines(text), QMessageBox::Ok,
                     host_.dialogParent());
     box.setTextFormat(Qt::PlainText);
     host_.gate.exec(box);
@@ -36,8 +36,8 @@ void QtDialogs::message(const std::string& text)
 
 bool QtDialogs::confirm(const std::string& text)
 {
-    QMessageBox box(QMessageBox::NoIcon, QStringLiteral("LexiGrove"), linesOf(text), QMessageBox::Yes | QMessageBox::No,
-                    host_.dialogParent());
+    QMessageBox box(QMessageBox::NoIcon, QStringLiteral("LexiGrove"), withNewlines(text),
+                    QMessageBox::Yes | QMessageBox::No, host_.dialogParent());
     box.setTextFormat(Qt::PlainText);
     box.setDefaultButton(QMessageBox::Yes);
     box.setEscapeButton(QMessageBox::No);
@@ -48,7 +48,7 @@ std::string QtDialogs::input(const std::string& title, const std::string& prompt
 {
     QInputDialog box(host_.dialogParent());
     box.setWindowTitle(toQString(title));
-    box.setLabelText(linesOf(prompt));
+    box.setLabelText(withNewlines(prompt));
     box.setTextValue(toQString(defaultAnswer));
     return host_.gate.exec(box) == QDialog::Accepted ? fromQString(box.textValue()) : std::string();
 }

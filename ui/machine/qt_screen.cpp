@@ -97,45 +97,45 @@ std::string QtScreen::copiedText() const
 
 bool QtScreen::eventFilter(QObject* receiver, QEvent* event)
 {
-    return useUp(event) || QObject::eventFilter(receiver, event);
+    return consume(event) || QObject::eventFilter(receiver, event);
 }
 
 /// Returns true if nobody else may see the event.
-bool QtScreen::useUp(QEvent* event)
+bool QtScreen::consume(QEvent* event)
 {
     switch (event->type()) {
     case QEvent::ShortcutOverride:
     case QEvent::KeyPress: {
         auto* key = static_cast<QKeyEvent*>(event);
         if (waiting_ != nullptr && !key->isAutoRepeat()) {
-            usedKey_ = key->key();
+            consumedKey_ = key->key();
             waiting_->quit();
         }
-        const bool used = waiting_ != nullptr || (usedKey_ != 0 && key->key() == usedKey_);
+        const bool used = waiting_ != nullptr || (consumedKey_ != 0 && key->key() == consumedKey_);
         if (used)
             event->accept(); // an accepted override keeps the key from being a shortcut
         return used;
     }
     case QEvent::KeyRelease: {
         const auto* key = static_cast<QKeyEvent*>(event);
-        if (usedKey_ == 0 || key->key() != usedKey_)
+        if (consumedKey_ == 0 || key->key() != consumedKey_)
             return false;
         if (!key->isAutoRepeat())
-            usedKey_ = 0;
+            consumedKey_ = 0;
         return true;
     }
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
-        usedButton_ = Qt::NoButton; // its release went elsewhere
+        consumedButton_ = Qt::NoButton; // its release went elsewhere
         if (waiting_ == nullptr)
             return false;
-        usedButton_ = static_cast<QMouseEvent*>(event)->button();
+        consumedButton_ = static_cast<QMouseEvent*>(event)->button();
         waiting_->quit();
         return true;
     case QEvent::MouseButtonRelease:
-        if (usedButton_ == Qt::NoButton || static_cast<QMouseEvent*>(event)->button() != usedButton_)
+        if (consumedButton_ == Qt::NoButton || static_cast<QMouseEvent*>(event)->button() != consumedButton_)
             return false;
-        usedButton_ = Qt::NoButton;
+        consumedButton_ = Qt::NoButton;
         return true;
     default:
         return false;

@@ -47,7 +47,7 @@ private:
     using SteadyClock = std::chrono::steady_clock;
 
     void showAndRunEvents();
-    [[nodiscard]] bool useUp(QEvent* event);
+    [[nodiscard]] bool consume(QEvent* event);
 
     Host& host_;
     bool locked_ = false;
@@ -57,8 +57,8 @@ private:
 
     // The input that ends a wait is consumed together with its release.
     QEventLoop* waiting_ = nullptr;
-    int usedKey_ = 0;
-    Qt::MouseButton usedButton_ = Qt::NoButton;
+    int consumedKey_ = 0;
+    Qt::MouseButton consumedButton_ = Qt::NoButton;
 };
 
 } // namespace lexigrove

@@ -20,8 +20,8 @@ namespace
 
 constexpr std::string_view playCommand = "play ";
 constexpr auto soundThread = "sound";
-constexpr int longestSound = 2200; ///< milliseconds that the program's end waits for a sound
-constexpr int lookAgainAfter = 25; ///< milliseconds
+constexpr int maxSoundWait = 2200; ///< milliseconds that the program's end waits for a sound
+constexpr int pollInterval = 25;   ///< milliseconds
 constexpr int threadEndsWithin = 3500;
 
 /// The toolkit prints complaints if a machine has no sound. Those of the sound thread are suppressed.
@@ -71,7 +71,7 @@ public:
     void finish(QDeadlineTimer deadline)
     {
         if (player_ && player_->isPlaying() && !deadline.hasExpired()) {
-            QTimer::singleShot(lookAgainAfter, this, [this, deadline] { finish(deadline); });
+            QTimer::singleShot(pollInterval, this, [this, deadline] { finish(deadline); });
             return;
         }
         player_.reset();
@@ -95,7 +95,7 @@ QtSoundDevice::~QtSoundDevice()
     if (!worker_)
         return;
     QMetaObject::invokeMethod(worker_.get(),
-                              [worker = worker_.get()] { worker->finish(QDeadlineTimer(longestSound)); });
+                              [worker = worker_.get()] { worker->finish(QDeadlineTimer(maxSoundWait)); });
     if (!thread_.wait(threadEndsWithin)) { // the machine's sound hangs: the program ends anyway
         thread_.terminate();
         thread_.wait();

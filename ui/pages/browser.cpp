@@ -14,13 +14,13 @@ namespace
 {
 
 /// Suppresses known harmless start-up messages.
-class EngineStart
+class QuietEngineStart
 {
 public:
-    EngineStart() : before_(qInstallMessageHandler(passOn)) {}
-    ~EngineStart() { qInstallMessageHandler(before_); }
-    EngineStart(const EngineStart&) = delete;
-    EngineStart& operator=(const EngineStart&) = delete;
+    QuietEngineStart() : before_(qInstallMessageHandler(passOn)) {}
+    ~QuietEngineStart() { qInstallMessageHandler(before_); }
+    QuietEngineStart(const QuietEngineStart&) = delete;
+    QuietEngineStart& operator=(const QuietEngineStart&) = delete;
 
 private:
     static void passOn(QtMsgType type, const QMessageLogContext& context, const QString& text)
@@ -50,7 +50,7 @@ QStringList BrowserLoader::moduleFolders()
 
 std::unique_ptr<BrowserPage> BrowserLoader::newPage(const BrowserPageSetup& setup)
 {
-    const EngineStart start;
+    const QuietEngineStart start;
     BrowserModule* const engine = module();
     return engine != nullptr ? engine->newPage(setup) : nullptr;
 }

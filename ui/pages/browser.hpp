@@ -16,7 +16,7 @@
 namespace lexigrove
 {
 
-/// Colours by their names in a page's style sheet, such as "--ground".
+/// Colours by their names in a page's style sheet, such as "--background".
 using PageColours = std::map<QString, QColor>;
 
 /// A page of the web engine. Destroying it closes the page and forgets everything that it stored.
@@ -39,7 +39,7 @@ public:
 
 struct BrowserPageSetup {
     BrowserRules rules;
-    QColor ground;                    ///< behind a page that is not painted yet
+    QColor background;                ///< behind a page that is not painted yet
     std::function<void(bool)> loaded; ///< called with whether a page could be loaded
 };
 

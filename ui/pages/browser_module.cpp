@@ -182,7 +182,7 @@ public:
         QObject::connect(&profile_, &QWebEngineProfile::downloadRequested, &profile_,
                          [](QWebEngineDownloadRequest* download) { download->cancel(); });
         setLimits(*page_.settings());
-        page_.setBackgroundColor(setup.ground);
+        page_.setBackgroundColor(setup.background);
         if (setup.loaded)
             QObject::connect(&page_, &QWebEnginePage::loadFinished, &page_, setup.loaded);
         view_.setContextMenuPolicy(Qt::NoContextMenu);

@@ -35,7 +35,7 @@ BrowserRules BrowserRules::forLocalPage(const QString& path)
 BrowserRules BrowserRules::forServices(const QString& address)
 {
     BrowserRules rules;
-    rules.isServiceHere_ = isOnThisMachine(QUrl(address));
+    rules.isServiceLocal_ = isOnThisMachine(QUrl(address));
     return rules;
 }
 
@@ -48,7 +48,7 @@ bool BrowserRules::allows(const BrowserRequest& request) const
         return scheme == "file" && allowsFile(request);
     if (scheme == "https")
         return true;
-    const bool askedFromHere = request.isPage ? isServiceHere_ : isOnThisMachine(request.page);
+    const bool askedFromHere = request.isPage ? isServiceLocal_ : isOnThisMachine(request.page);
     return scheme == "http" && isOnThisMachine(request.url) && askedFromHere;
 }
 

@@ -33,7 +33,7 @@ private:
     [[nodiscard]] bool allowsFile(const BrowserRequest& request) const;
 
     QString localPage_;
-    bool isServiceHere_ = false; ///< on this machine
+    bool isServiceLocal_ = false; ///< on this machine
 };
 
 } // namespace lexigrove

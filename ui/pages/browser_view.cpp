@@ -71,8 +71,8 @@ void BrowserView::navigate(const QUrl& address)
 
 bool BrowserView::openPage()
 {
-    const auto tellLoaded = [this](bool success) { emit loaded(success); };
-    page_ = loader_.newPage({rules_, palette().color(QPalette::Window), tellLoaded});
+    const auto emitLoaded = [this](bool success) { emit loaded(success); };
+    page_ = loader_.newPage({rules_, palette().color(QPalette::Window), emitLoaded});
     if (!page_)
         return false;
     failure_->hide();

@@ -18,9 +18,12 @@ namespace
 PageColours pageColours(const WindowColours& colours)
 {
     return {
-        {"--ground", toQColor(colours.ground)},   {"--text", toQColor(colours.text)},
-        {"--quiet", toQColor(colours.quietText)}, {"--line", toQColor(colours.line)},
-        {"--card", toQColor(colours.card)},       {"--accent", toQColor(colours.accent)},
+        {"--background", toQColor(colours.background)},
+        {"--text", toQColor(colours.text)},
+        {"--quiet", toQColor(colours.quietText)},
+        {"--line", toQColor(colours.line)},
+        {"--card", toQColor(colours.card)},
+        {"--accent", toQColor(colours.accent)},
     };
 }
 

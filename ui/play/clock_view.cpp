@@ -93,10 +93,10 @@ QSize ClockFrame::sizeHint() const
 
 void ClockFrame::paintEvent(QPaintEvent* /*event*/)
 {
-    const ClockRectangle& ground = clock_.Shapet();
+    const ClockRectangle& background = clock_.Shapet();
     QPainter painter(this);
-    const bool themed = ground.fill != theme_.colours().ground; // otherwise the line shows where the clock is
-    Theme::paintCard(painter, rect(), ground.fill, themed ? ground.border : theme_.colours().line);
+    const bool themed = background.fill != theme_.colours().background; // otherwise the line shows where the clock is
+    Theme::paintCard(painter, rect(), background.fill, themed ? background.border : theme_.colours().line);
 }
 
 void ClockFrame::resizeEvent(QResizeEvent* /*event*/)

@@ -57,9 +57,9 @@ std::vector<PanelButton> panelButtons()
     return {
         {Command::EnterWord, "EnterWord", text("Enter Word"), text("Enter the selected word"), 0, 8},
         {Command::GetHint, "Hintx", text("Get Hint"), text("Let computer give you hints"), 0, 4},
-        {Command::CheckWord, "CheckDict", text("Check"), text("Look the word up without entering it"), 0, 4},
+        {Command::CheckWord, "CheckDict", text("Check"), text("Look up the word without entering it"), 0, 4},
         {Command::ShowMeaning, "Meaning", text("Meaning"), text("Get meaning of the word selected"), 1, 4},
-        {Command::AddWord, "AddWord", text("Add Word"), text("Add or remove words of the dictionary"), 1, 4},
+        {Command::AddWord, "AddWord", text("Add Word"), text("Add words to the dictionary or remove them"), 1, 4},
         {Command::Pause, "Pause", text("Pause"), text("Stop the clock and cover the board"), 1, 4},
         {Command::Sound, "SoundOnOff", text("Sound is on"), text("Switch the sound on or off"), 1, 5},
     };

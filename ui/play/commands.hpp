@@ -16,8 +16,8 @@ struct MenuItem {
     Command command;
     QString text;
     QList<QKeySequence> keys;
-    QString keyText;        ///< a key that the window handles itself, shown beside the text
-    bool afterLine = false; ///< a line separates it from the one above
+    QString keyText;             ///< a key that the window handles itself, shown beside the text
+    bool afterSeparator = false; ///< a line separates it from the one above
 };
 
 struct Menu {

@@ -21,7 +21,7 @@ namespace lexigrove
 MainWindow::MainWindow(Host& host, GameFlow& flow, const StatusLine& status) : host_(host), flow_(flow)
 {
     setObjectName("MainWindow");
-    host_.theme.follow(flow_.view().scheme); // before the widgets, so that each is styled only once
+    host_.theme.apply(flow_.view().scheme); // before the widgets, so that each is styled only once
     auto* centre = new QWidget(this);
     area_ = new PlayArea(flow, host.theme, centre);
     status_ = new StatusLineView(status, flow, host.theme, centre);
@@ -57,7 +57,7 @@ void MainWindow::addMenus()
     for (const Menu& menu : mainMenus()) {
         QMenu* const list = menuBar()->addMenu(menu.title);
         for (const MenuItem& item : menu.items) {
-            if (item.afterLine)
+            if (item.afterSeparator)
                 list->addSeparator();
             QAction* action = list->addAction(item.keyText.isEmpty() ? item.text : item.text + '\t' + item.keyText);
             action->setObjectName(item.command == Command::Statistics ? "showstatx" : QString());
@@ -201,7 +201,7 @@ void MainWindow::closeEvent(QCloseEvent* event)
 
 void MainWindow::showModels()
 {
-    host_.theme.follow(flow_.view().scheme);
+    host_.theme.apply(flow_.view().scheme);
     const QString caption = messageToQString(flow_.view().dictionary.caption());
     if (caption != windowTitle())
         setWindowTitle(caption);

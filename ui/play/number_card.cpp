@@ -33,7 +33,7 @@ NumberCard::NumberCard(const QString& name, const QString& caption, const QStrin
     column->addWidget(number_, 1, Qt::AlignVCenter);
 }
 
-void NumberCard::show(const std::string& number)
+void NumberCard::setNumber(const std::string& number)
 {
     const QString text = toQString(number);
     if (text != number_->text())

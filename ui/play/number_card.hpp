@@ -19,9 +19,8 @@ public:
     /// `name` is the object name of the number's label, `caption` what it counts.
     NumberCard(const QString& name, const QString& caption, const QString& toolTip, QWidget* parent);
 
-    void show(const std::string& number);
+    void setNumber(const std::string& number);
     void setNumberColour(const QColor& colour);
-    using QFrame::show;
 
 private:
     QLabel* number_;

@@ -28,7 +28,7 @@ void PauseCover::paintEvent(QPaintEvent* /*event*/)
 {
     const WindowColours& colours = theme_.colours();
     QPainter painter(this);
-    painter.fillRect(rect(), toQColor(colours.ground)); // the corners beside the card
+    painter.fillRect(rect(), toQColor(colours.background)); // the corners beside the card
     Theme::paintCard(painter, rect(), colours.strip, colours.line);
 
     const double size = std::clamp(width() / 12.0, 20.0, 48.0);

@@ -27,15 +27,15 @@ PlayArea::PlayArea(GameFlow& flow, const Theme& theme, QWidget* parent)
     : QWidget(parent), board(new BoardView(flow, theme, this)), flow_(flow), theme_(theme), side_(new QWidget(this))
 {
     clock = new ClockFrame(flow.view().clock, theme, side_);
-    yourScore_ = new NumberCard("YourScore", tr("Your score"), tr("The points that you have made"), side_);
-    compScore_ = new NumberCard("CompScore", tr("Computer"), tr("The points that the computer has made"), side_);
-    tilesLeft_ = new NumberCard("TilesLeft", tr("Tiles left"), tr("Letters that are still to come"), side_);
+    yourScore_ = new NumberCard("YourScore", tr("Your score"), tr("Points that you have scored"), side_);
+    compScore_ = new NumberCard("CompScore", tr("Computer"), tr("Points that the computer has scored"), side_);
+    tilesLeft_ = new NumberCard("TilesLeft", tr("Tiles left"), tr("Letters still to come"), side_);
     word_ = new WordBox(flow, theme, side_);
     buttons = new ButtonPanel(flow, side_);
     words = new WordsView(flow.view().state.WordsMade, theme, side_);
     words->setObjectName("WordsMade");
     words->setAccessibleName(tr("Words made"));
-    words->setEmptyText(tr("Your words will be listed here.\nClick letters that touch one another, then Enter Word. "
+    words->setEmptyText(tr("Your words will be listed here.\nClick touching letters, then Enter Word. "
                            "Then click the waiting letters on top to fill the gaps."));
     words->activatesOnEnter = false; // Enter is for the word on the board
     buildSide();
@@ -50,6 +50,7 @@ PlayArea::PlayArea(GameFlow& flow, const Theme& theme, QWidget* parent)
         });
     }
     connect(&theme, &Theme::changed, this, &PlayArea::applyColours);
+    applyColours();
 }
 
 void PlayArea::buildSide()
@@ -123,9 +124,9 @@ void PlayArea::synchronise()
     const GameState& state = flow_.view().state;
     board->synchronise();
     clock->synchronise();
-    yourScore_->show(std::to_string(state.yourScore));
-    compScore_->show(std::to_string(state.compScore));
-    tilesLeft_->show(state.tilesLeftText());
+    yourScore_->setNumber(std::to_string(state.yourScore));
+    compScore_->setNumber(std::to_string(state.compScore));
+    tilesLeft_->setNumber(state.tilesLeftText());
     if (compScore_->isHidden() == state.computerGame) // a solo player needs no second score
         compScore_->setVisible(state.computerGame);
     word_->synchronise();
@@ -137,7 +138,7 @@ void PlayArea::synchronise()
 void PlayArea::showPause()
 {
     const bool paused = flow_.isPaused();
-    boardCover_->setCaption(toQString(flow_.pauseCaption()), paused ? tr("Click here to go on") : QString());
+    boardCover_->setCaption(toQString(flow_.pauseCaption()), paused ? tr("Click here to resume") : QString());
     if (boardCover_->isHidden() != paused)
         return;
     placeCovers();

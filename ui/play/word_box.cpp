@@ -39,6 +39,7 @@ WordBox::WordBox(const GameFlow& flow, const Theme& theme, QWidget* parent)
     row->addWidget(WordTried, 1);
     row->addWidget(CurrScore);
     connect(&theme, &Theme::changed, this, &WordBox::applyColours);
+    applyColours();
 }
 
 void WordBox::setLetterSize(double size)

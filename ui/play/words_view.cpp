@@ -14,7 +14,7 @@ namespace lexigrove
 namespace
 {
 
-constexpr int textSize = 13;
+constexpr int cellTextSize = 13;
 constexpr int heightOfRow = 3 * Theme::grid;
 
 /// Where a column begins, in the grid's units; that of the column after the last one is the grid's width.
@@ -57,7 +57,7 @@ public:
         painter->setPen(toQColor(computers ? colours.computerFore
                                  : current ? colours.cardSelectionText
                                            : colours.cardText));
-        painter->setFont(Theme::font(textSize, word));
+        painter->setFont(Theme::font(cellTextSize, word));
         painter->drawText(cell.adjusted(word ? Theme::grid : 0, 0, 0, 0), alignmentOf(index.column()),
                           index.data().toString());
         if (current && index.column() == 0)
@@ -193,7 +193,7 @@ void WordsView::paintEvent(QPaintEvent* event)
     if (grid_.Rows() > 1)
         return;
     QPainter painter(viewport());
-    painter.setFont(Theme::font(textSize));
+    painter.setFont(Theme::font(cellTextSize));
     painter.setPen(toQColor(theme_.colours().cardQuietText));
     painter.drawText(viewport()->rect().adjusted(Theme::gap, Theme::gap, -Theme::gap, -Theme::gap),
                      Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, emptyText_);

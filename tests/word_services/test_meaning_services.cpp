@@ -1,4 +1,4 @@
-#include "settings/meaning_services.hpp"
+#include "word_services/meaning_services.hpp"
 
 #include <gtest/gtest.h>
 
@@ -8,7 +8,7 @@ namespace
 {
 
 // Guards against an address in the player's file that sends words in the clear or elsewhere, and against a shipped file
-// that differs from the addresses built in.
+// that differs from the built-in addresses.
 TEST(MeaningServices, TakesPlainHostsOnly)
 {
     for (const char* good :
