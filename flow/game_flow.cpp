@@ -282,7 +282,7 @@ void GameFlow::clockExpired()
     parts_->Dc1.SuspendCountDown(); // told once
     parts_->game.letterSwap.cancel();
     parts_->ports.dialogs.message("Game over\r\n5 minutes have elapsed");
-    tellWinner(parts_->game.state, parts_->ports.status);
+    showWinner(parts_->game.state, parts_->ports.status);
     endOfGame(GameEnd::ClockExpired);
 }
 

@@ -119,8 +119,8 @@ void MainWindow::inputEnded()
     }
     showModels();
     saving_->start();
-    if (flow_.ended() && !toldEnd_) {
-        toldEnd_ = true;
+    if (flow_.ended() && !endReported_) {
+        endReported_ = true;
         emit ended();
     }
 }

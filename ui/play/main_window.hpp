@@ -60,7 +60,7 @@ private:
     StatusLineView* status_;
     std::vector<MenuEntry> menuEntries_;
     QTimer* saving_; ///< fires once the events of an input are done
-    bool toldEnd_ = false;
+    bool endReported_ = false;
 };
 
 } // namespace lexigrove
