@@ -1,8 +1,8 @@
 #include "console/command.hpp"
-#include "dictionary/word_text.hpp"
 #include "game/board.hpp"
 #include "game/game_state.hpp"
 #include "game/selection.hpp"
+#include "platform/ascii.hpp"
 #include "settings/sound_cues.hpp"
 
 #include <algorithm>
@@ -66,8 +66,8 @@ Lines clickTile(CommandContext& context, const Click& click)
 /// Letters in any case.
 std::string wordArgument(Arguments& arguments)
 {
-    const std::string word = upperCase(arguments.required("word"));
-    if (!std::all_of(word.begin(), word.end(), [](char c) { return c >= 'A' && c <= 'Z'; }))
+    std::string word = ascii::upperCase(arguments.required("word"));
+    if (!std::all_of(word.begin(), word.end(), ascii::isUpper))
         throw CommandError("word must be letters A to Z: " + word);
     return word;
 }

@@ -52,7 +52,7 @@ public:
     /// Sets how many entries are words, 0 to 250,000. No entry changes.
     void setCount(int count);
 
-    /// Whether one list is a copy of the other and so holds the same words. Whoever derives something from a list can
+    /// Whether one list is a copy of the other and so holds the same words. Code that derives data from a list can
     /// keep a copy to see whether the list has changed since. Never true of a rewritten list.
     [[nodiscard]] bool isCopyOf(const WordList& other) const
     {

@@ -79,15 +79,17 @@ void GameFlow::endEarly()
 {
     try {
         try {
-            try {
-                throw;
-            } catch (const std::exception& failure) {
-                parts_->ports.dialogs.message(failure.what());
-            }
+            throw;
+        } catch (const std::exception& failure) {
+            parts_->ports.dialogs.message(failure.what());
         } catch (const Leaving&) {
             leave();
         }
+    } catch (const Leaving&) { // the message was closed with the window
+        endEarly();
     } catch (const ProgramEnd&) {
+        ended_ = true;
+    } catch (const std::exception&) { // not even leaving goes through: there is nothing more to try
         ended_ = true;
     }
 }

@@ -195,6 +195,8 @@ void GameFlow::sortWordsMade(int x)
 
 void GameFlow::releaseClockFrame(MouseButton button)
 {
+    if (button == MouseButton::Middle)
+        return;
     input(When::Always, [=](GameParts& p) {
         p.game.letterSwap.cancel();
         frame10Released(p.Dc1, button);

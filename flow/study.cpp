@@ -17,7 +17,7 @@ void Study::editTile(int tile, const std::string& letter, Colour maskcolor)
     flow_.input(When::InGame, [&](GameParts& p) {
         p.game.letterSwap.cancel();
         BoxControl& control = p.game.board.tile(tile);
-        if (control.Tag() == "X")
+        if (p.game.selection.contains(tile))
             p.game.selection.clear(); // the path keeps the letter as it was clicked
         control.Caption(letter);
         control.MaskColor(maskcolor);

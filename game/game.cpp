@@ -15,14 +15,18 @@ void Game::countSpecialTiles()
     }
 }
 
+void Game::refreshLook(int tile)
+{
+    if (selection.contains(tile))
+        look.showSelected(board.tile(tile));
+    else
+        look.showNormal(board.tile(tile));
+}
+
 void Game::refreshLooks()
 {
-    for (BoxControl& tile : board.Tiles) {
-        if (tile.Tag() == "X")
-            look.showSelected(tile);
-        else
-            look.showNormal(tile);
-    }
+    for (int tile = 0; tile <= Board::tileCount; ++tile)
+        refreshLook(tile);
     for (BoxControl& waiting : board.TopDrop)
         look.showNormal(waiting);
 }

@@ -49,7 +49,9 @@ struct Game {
     /// Takes the counts of red and bonus tiles from the board.
     void countSpecialTiles();
 
-    /// Gives every tile its look in the current scheme: that of the path for a tile in it, else that of its multiplier.
+    /// Gives a tile its look in the current scheme: that of the path for a tile in it, else that of its multiplier.
+    void refreshLook(int tile);
+    /// The same for every tile, and for the waiting ones.
     void refreshLooks();
 };
 

@@ -49,7 +49,7 @@ struct GameState {
     std::vector<Turn> turns; ///< every word of the game, the first one first
     int secondsPlayed = 0;   ///< in play, pauses left out
 
-    // Counted per game, in 16 bits
+    // Counted per game; what counts up stops at 32,767
     Statistics statistics; ///< also the word-length counts
     int bonusTilesOnBoard = 0;
     int redTilesOnBoard = 0;

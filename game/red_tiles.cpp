@@ -46,13 +46,10 @@ void RedTiles::makeRedTile()
         return;
     const int k =
         placeFromDraw(game_.ports.random.reseedAndDraw(game_.ports.clock), static_cast<int>(candidates.size()));
-    BoxControl& tile = game_.board.tile(candidates[static_cast<std::size_t>(k - 1)]);
-    ++game_.state.redTilesOnBoard;
-    tile.MaskColor(multiplier::red);
-    if (tile.Tag() == "X")
-        game_.look.showSelected(tile);
-    else
-        game_.look.showNormal(tile);
+    const int tile = candidates[static_cast<std::size_t>(k - 1)];
+    countUp(game_.state.redTilesOnBoard);
+    game_.board.tile(tile).MaskColor(multiplier::red);
+    game_.refreshLook(tile);
     countUp(game_.state.redTilesMade);
     game_.dictionary.setRedThreshold(game_.dictionary.redThreshold() - 1);
 }

@@ -3,6 +3,7 @@
 #include "dictionary/letter_tables.hpp"
 #include "game/game.hpp"
 
+#include <algorithm>
 #include <numeric>
 
 namespace lexigrove
@@ -13,8 +14,7 @@ void Selection::tileClicked(int tile, MouseButton button)
     if (tile == lastTile()) {
         removeLast();
     } else {
-        const bool inPath = game_.board.tile(tile).Tag() == "X";
-        if (inPath || (!isEmpty() && !game_.board.neighbours(lastTile()).contains(tile)))
+        if (contains(tile) || (!isEmpty() && !game_.board.neighbours(lastTile()).contains(tile)))
             clearPath(); // a used tile, or one that does not touch, starts a new path
         append(tile);
     }
@@ -58,6 +58,11 @@ void Selection::updateWordDisplay(MouseButton button)
     game_.state.prompt = Prompt::None;
     game_.state.currScore = wordScore(*this, game_.board);
     entryPending = button == MouseButton::Right;
+}
+
+bool Selection::contains(int tile) const
+{
+    return std::find(tiles_.begin(), tiles_.end(), tile) != tiles_.end();
 }
 
 std::string Selection::word() const

@@ -36,6 +36,7 @@ public:
     [[nodiscard]] const std::vector<int>& tiles() const { return tiles_; }
     [[nodiscard]] int lastTile() const { return tiles_.empty() ? 0 : tiles_.back(); }
     [[nodiscard]] bool isEmpty() const { return tiles_.empty(); }
+    [[nodiscard]] bool contains(int tile) const;
 
     /// The path's letters joined, as they were when their tiles were clicked.
     [[nodiscard]] std::string word() const;

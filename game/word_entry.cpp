@@ -63,7 +63,7 @@ void WordEntry::defuseRedTiles()
             continue;
         --game_.state.redTilesOnBoard;
         tile.MaskColor(multiplier::plain);
-        ++game_.state.redTilesUsed;
+        countUp(game_.state.redTilesUsed);
     }
 }
 
@@ -94,7 +94,7 @@ void WordEntry::awardBonusTile(Colour multiplier)
 
     game_.board.tile(number).MaskColor(multiplier);
     game_.look.showNormal(game_.board.tile(number));
-    ++game_.state.bonusTilesOnBoard;
+    countUp(game_.state.bonusTilesOnBoard);
 }
 
 } // namespace lexigrove

@@ -93,10 +93,10 @@ bool extendWord(Game& game, char letter)
         return false;
     }
     const std::vector<int>& before = game.selection.tiles();
-    const bool goesOn = before.size() < path->size() && std::equal(before.begin(), before.end(), path->begin());
-    if (!goesOn)
+    if (before.size() >= path->size() || !std::equal(before.begin(), before.end(), path->begin()))
         game.selection.clear();
-    for (std::size_t i = before.size(); i < path->size(); ++i)
+    const std::size_t kept = before.size();
+    for (std::size_t i = kept; i < path->size(); ++i)
         game.selection.tileClicked((*path)[i], MouseButton::Left);
     return true;
 }

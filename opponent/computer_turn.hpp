@@ -6,7 +6,6 @@
 
 #include <cstdint>
 #include <span>
-#include <string>
 
 namespace lexigrove
 {

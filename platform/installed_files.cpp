@@ -3,11 +3,9 @@
 #include "platform/text_file.hpp"
 
 #include <algorithm>
-#include <charconv>
 #include <cstdint>
 #include <filesystem>
 #include <map>
-#include <string_view>
 #include <vector>
 
 namespace lexigrove

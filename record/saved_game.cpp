@@ -12,7 +12,7 @@ namespace lexigrove
 namespace
 {
 
-constexpr std::string_view firstLine = "LexiGrove game 1";
+constexpr std::string_view savedGameLine = "LexiGrove game 1";
 constexpr std::string_view drawNames[] = {"not-dealt", "going", "ended"};
 constexpr std::string_view sortNames[] = {"no", "ascending", "descending"};
 constexpr std::string_view promptNames[] = {"none", "your-move"};
@@ -124,14 +124,14 @@ std::string textOf(const SavedGame& game)
         kept.rows.push_back(grid.row(row).number);
     kept.currentRow = grid.Row();
     kept.sorted = grid.Tag == "A" ? Sorted::Ascending : grid.Tag == "D" ? Sorted::Descending : Sorted::No;
-    LineWriter writer(firstLine);
+    LineWriter writer(savedGameLine);
     visitFields(writer, game, kept);
     return writer.written();
 }
 
 SavedGame savedGameOf(std::string_view text)
 {
-    LineReader reader(text, firstLine);
+    LineReader reader(text, savedGameLine);
     SavedGame game;
     Kept kept;
     visitFields(reader, game, kept);

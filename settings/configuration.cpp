@@ -7,8 +7,6 @@
 #include <array>
 #include <charconv>
 #include <cstddef>
-#include <limits>
-#include <optional>
 #include <string_view>
 #include <vector>
 

@@ -97,7 +97,7 @@ public:
     /// Enables or disables `UsrDictName` and `GetUserDictName`.
     void enableUserDictionary(bool enabled);
 
-    /// Sets the sound flag and the caption of `SoundOnOff` from "On" and "Off"; if neither is selected they do not
+    /// Sets the sound flag from "On" and "Off"; if neither is selected they do not
     /// change.
     void setSound();
 

@@ -3,7 +3,7 @@
 #include "flow/game_flow.hpp"
 #include "platform/random.hpp"
 #include "platform/status_line.hpp"
-#include "ui/dialogs/game_windows.hpp"
+#include "ui/game_windows.hpp"
 #include "ui/machine/host.hpp"
 #include "ui/machine/qt_clock.hpp"
 #include "ui/machine/qt_dialogs.hpp"

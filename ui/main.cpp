@@ -1,7 +1,6 @@
 #include "platform/program_folder.hpp"
 #include "ui/front_end.hpp"
 #include "ui/look/game_icon.hpp"
-#include "ui/look/text.hpp"
 #include "ui/machine/one_game.hpp"
 #include "ui/start_options.hpp"
 

@@ -88,7 +88,7 @@ protected:
                      "<p style='height: 2000px'>");
     }
 
-    /// The meaning of CAT, which is made in a new game.
+    /// The meaning of CAT, which is made in a new game, by a double click.
     void showMeaning()
     {
         start({{9, "QCATS"}});
@@ -96,7 +96,7 @@ protected:
         auto& words = child<WordsView>("WordsMade");
         QTest::mouseClick(words.viewport(), Qt::LeftButton, {}, wordCell(words, 1).center());
         server_.asked.clear();
-        press("Meaning");
+        QTest::mouseDClick(words.viewport(), Qt::LeftButton, {}, wordCell(words, 1).center());
     }
 
     QWidget& showHelp()
@@ -115,12 +115,9 @@ TEST_F(BrowserTest, APageReachesNothingBeyondItself)
 {
     const std::string stranger = server_.host("127.0.0.2"); // this server too, but not a host that pages may have
     server_.page = "Set-Cookie: seen=yes; Path=/; Max-Age=9999\r\n\r\n<p>A page</p><img src='" + stranger +
-                   "/picture'><iframe src='" + stranger +
-                   "/frame'></iframe><script>alert(1); confirm(2);"
-                   "window.open('/popup'); setTimeout(() => { document.title = 'over'; location.href = '" +
-                   stranger + "/page'; }, 100); fetch('/script').then(() => fetch('" + stranger +
-                   "/fetched'));"
-                   "</script>";
+                   "/picture'><iframe src='" + stranger + "/frame'></iframe><script>alert(1); confirm(2);" +
+                   "window.open('/popup'); setTimeout(() => { document.title = 'over'; location.href = '" + stranger +
+                   "/page'; }, 100); fetch('/script').then(() => fetch('" + stranger + "/fetched'));</script>";
     chooseOptions([](OptionsForm& options) { options.select(options.Option8); });
     for (int showing = 1; showing <= 2; ++showing) {
         script.in("Form3", [&](QDialog& dialog) {
@@ -148,7 +145,8 @@ TEST_F(BrowserTest, TheHelpIsReadBesideTheGame)
 {
     QWidget& help = showHelp();
     const auto press = [&](const char* button) {
-        QTest::mouseClick(help.findChild<QWidget*>(button), Qt::LeftButton);
+        QTest::mouseClick(help.windowHandle(), Qt::LeftButton, {},
+                          help.findChild<QWidget*>(button)->geometry().center());
         QTest::qWait(150); // what must not happen has its chance
     };
     const auto comesTo = [&](const QString& anchor) {
@@ -161,8 +159,6 @@ TEST_F(BrowserTest, TheHelpIsReadBesideTheGame)
     };
     ASSERT_TRUE(says(help, "Go to two"));
     EXPECT_EQ(help.windowTitle(), "LexiGrove Help");
-    press("Command1");
-    EXPECT_TRUE(comesTo(""));
     clickPage();
     ASSERT_TRUE(comesTo("two"));
     clickPage();
@@ -172,6 +168,7 @@ TEST_F(BrowserTest, TheHelpIsReadBesideTheGame)
     press("Command2");
     EXPECT_TRUE(comesTo("three"));
     press("Command1");
+    EXPECT_TRUE(comesTo("two"));
     press("Command1");
     EXPECT_TRUE(comesTo(""));
     press("Command2");
@@ -190,8 +187,7 @@ TEST_F(BrowserTest, TheHelpIsReadBesideTheGame)
         dialog.close();
     });
     WindowTest::press("Aboutx");
-    EXPECT_EQ(&showHelp(), &help);
-    EXPECT_TRUE(says(help, "Go to two"));
+    EXPECT_TRUE(says(showHelp(), "Go to two"));
 }
 
 // Guards the end: the main window closed under a page, with the help beside it, leaves no page of the engine behind. A

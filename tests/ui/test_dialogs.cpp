@@ -213,16 +213,15 @@ INSTANTIATE_TEST_SUITE_P(Windows, LeavingTest,
 // event loop, the game ends once, and what leaving saves is saved.
 TEST_P(LeavingTest, ClosingTheMainWindowClosesAll)
 {
-    const auto& [name, command] = GetParam();
     enter("cat");
     QTest::keyClicks(&window(), "do");
     std::filesystem::remove(folder.file("Lexigrove.cfg"));
     const QSignalSpy ended(&window(), &MainWindow::ended);
-    script.in(name, [&](QDialog&) {
+    script.in(GetParam().first, [&](QDialog&) {
         EXPECT_FALSE(window().close()) << "the input unwinds first";
         EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
     });
-    flow().perform(command);
+    flow().perform(GetParam().second);
     EXPECT_TRUE(flow().ended());
     EXPECT_EQ(ended.count(), 1);
     EXPECT_TRUE(std::filesystem::exists(folder.file("Lexigrove.cfg")));

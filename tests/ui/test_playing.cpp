@@ -43,7 +43,6 @@ TEST_P(Playing, AWordIsClickedEnteredAndRefilled)
     press("EnterWord");
     EXPECT_EQ(shown("YourScore"), "5");
     EXPECT_EQ(letter(9) + letter(10) + letter(11) + letter(12), "...Q");
-    EXPECT_EQ(paintedFace(12), face());
     EXPECT_NE(paintedFace(10), face());
 
     drop(2);
@@ -118,7 +117,6 @@ TEST_P(Playing, HeadingsSortTheWordsAndRowsArePicked)
     EXPECT_EQ(view().state.WordsMade.Row(), 2);
     QTest::keyClick(&words, Qt::Key_Down);
     EXPECT_EQ(view().state.WordsMade.Row(), 3);
-    EXPECT_EQ(painted(*words.viewport(), wordCell(words, 2).topLeft()), toQColor(colours().card));
     EXPECT_EQ(painted(*words.viewport(), wordCell(words, 3).topLeft()), toQColor(colours().cardSelection));
 }
 
@@ -166,12 +164,12 @@ TEST_F(Course, PauseCoversAndAClickResumes)
     EXPECT_EQ(cover.parentWidget()->childAt(board().pos() + overTile), &cover);
     QTest::mouseClick(&cover, Qt::LeftButton, {}, overTile);
     EXPECT_FALSE(cover.isVisible());
-    EXPECT_EQ(word(), "");
-    click(10);
+    click(10); // the first click on this tile
     EXPECT_EQ(word(), "C");
 }
 
-// Guards the swap: its mark must be seen, and the click on the drop row must not drop.
+// Guards the swap: its mark must be seen, and the click on the drop row must not drop. A tile that turns red by itself
+// is seen at once, too.
 TEST_F(Course, AShiftClickSwapsLetters)
 {
     start({{9, "QCATS"}});
@@ -183,8 +181,9 @@ TEST_F(Course, AShiftClickSwapsLetters)
     drop(3);
     EXPECT_EQ(letter(10), "H");
     EXPECT_EQ(view().board.waiting(3).Caption(), "C");
-    EXPECT_EQ(shown("YourScore"), "15");
     EXPECT_NE(painted(board(), border), toQColor(colours().accent));
+    Study(flow()).editTile(33, "V", multiplier::red);
+    EXPECT_EQ(paintedFace(33), toQColor(view().scheme.tileFace(multiplier::red)));
 }
 
 // Guards New Game, which asks, and leads through the options into a new one.
@@ -241,13 +240,12 @@ TEST_F(Course, AnyInputEndsTheComputersTurnAndIsUsedUp)
     const auto& words = child<WordsView>("WordsMade");
     EXPECT_EQ(painted(*words.viewport(), wordCell(words, 1).topLeft()), toQColor(colours().computerBack));
 
-    script.when(waits, [&] { click(40); });
+    const QPoint tile = board().tileRect(40).center();
+    script.when(waits, [&] { QTest::mousePress(&board(), Qt::LeftButton, {}, tile); });
     press("EnterWord"); // a pass
+    QTest::mouseRelease(&board(), Qt::LeftButton, {}, tile);
     EXPECT_EQ(shown("CompScore"), "8");
     EXPECT_EQ(word(), "") << "the release is used up with the press";
-    click(40);
-    EXPECT_EQ(word(), "V");
-    key(Qt::Key_Escape);
 
     Study(flow()).editTile(57, "D", 1);
     Study(flow()).editTile(58, "O", 1);

@@ -99,20 +99,25 @@ public:
     }
     [[nodiscard]] std::string shown(const char* label) { return child<QLabel>(label).text().toStdString(); }
 
-    /// A pixel of a widget as it is painted now.
+    /// A part of a widget as it stands on the screen, and a pixel of it.
+    [[nodiscard]] static QImage picture(QWidget& widget, const QRect& part)
+    {
+        QTest::qWait(25); // for the painting of what has changed
+        const QPoint place = widget.mapTo(widget.window(), part.topLeft());
+        const WId window = widget.window()->winId();
+        return widget.screen()->grabWindow(window, place.x(), place.y(), part.width(), part.height()).toImage();
+    }
     [[nodiscard]] static QColor painted(QWidget& widget, const QPoint& place)
     {
-        return widget.grab({place, QSize(1, 1)}).toImage().pixelColor(0, 0);
+        return picture(widget, {place, QSize(1, 1)}).pixelColor(0, 0);
     }
     /// Whether a text stands in the widget in this colour.
     [[nodiscard]] static bool writes(QWidget& widget, Colour colour)
     {
-        const QImage picture = widget.grab().toImage();
-        for (int i = 0; i < picture.width() * picture.height(); ++i) {
-            if (picture.pixelColor(i % picture.width(), i / picture.width()) == toQColor(colour))
-                return true;
-        }
-        return false;
+        const QImage text = picture(widget, widget.rect()).convertToFormat(QImage::Format_RGB32);
+        const auto* const first = reinterpret_cast<const QRgb*>(text.constBits());
+        const auto* const last = first + text.sizeInBytes() / 4;
+        return std::find(first, last, toQColor(colour).rgb()) != last;
     }
     /// A pixel of a tile that belongs to its face, whatever its letter, its marks and its links.
     [[nodiscard]] QColor paintedFace(const QRect& tile)

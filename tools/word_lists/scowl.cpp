@@ -3,7 +3,6 @@
 #include "platform/ascii.hpp"
 
 #include <algorithm>
-#include <array>
 #include <filesystem>
 #include <fstream>
 #include <stdexcept>

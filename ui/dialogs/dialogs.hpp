@@ -1,11 +1,8 @@
 #pragma once
 
-#include <string>
-
 namespace lexigrove
 {
 
-class BrowserLoader;
 class DictionaryMaintenance;
 class HintsForm;
 class Host;
@@ -15,7 +12,6 @@ class ReviewForm;
 class ScoreForm;
 class StatisticsForm;
 struct ContinueForm;
-struct MeaningForm;
 
 // The modal windows for the forms. Each call returns when its form has been hidden or its window closed.
 
@@ -31,9 +27,6 @@ void runScoreDialog(Host& host, ScoreForm& form);
 /// The hints window `Form2`. It opens to the right of the board, which stays visible, because the row picked is shown
 /// there at once. Enter and a double click on a row select it; Esc is "Close".
 void runHintsDialog(Host& host, HintsForm& form);
-
-/// The meaning window `Form3`: the browser view `WbDictionary` fills it. Esc closes it together with its page.
-void runMeaningDialog(Host& host, BrowserLoader& loader, const MeaningForm& form);
 
 /// The statistics window `Form4`, with its chart in `Picture1`.
 void runStatisticsDialog(Host& host, const StatisticsForm& form);

@@ -4,7 +4,7 @@
 #include "ui/dialogs/dialogs.hpp"
 #include "ui/dialogs/form_dialog.hpp"
 #include "ui/look/text.hpp"
-#include "ui/play/words_view.hpp"
+#include "ui/look/words_view.hpp"
 
 #include <QScreen>
 #include <QVBoxLayout>

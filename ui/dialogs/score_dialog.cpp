@@ -5,15 +5,12 @@
 
 #include <QFontDatabase>
 #include <QFontInfo>
-#include <QHBoxLayout>
 #include <QListWidget>
 #include <QPainter>
 #include <QPushButton>
 #include <QShowEvent>
 #include <QStyledItemDelegate>
 #include <QVBoxLayout>
-
-#include <algorithm>
 
 namespace lexigrove
 {

@@ -25,8 +25,6 @@ public:
     /// The player is leaving: closes every open dialog and ends every wait, so that the innermost returns first.
     void requestLeaving();
 
-    [[nodiscard]] bool isLeavingRequested() const { return leaving_; }
-
     /// Rethrows what a slot threw, else throws `Leaving` if it was requested. What is thrown is no longer pending.
     void checkpoint();
 

@@ -1,8 +1,8 @@
 #include "ui/machine/qt_sound_device.hpp"
 
 #include "ui/look/text.hpp"
+#include "ui/machine/modules.hpp"
 #include "ui/machine/sound_player.hpp"
-#include "ui/pages/browser.hpp"
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>
@@ -40,7 +40,7 @@ void handleMessage(QtMsgType type, const QMessageLogContext& context, const QStr
 
 std::unique_ptr<SoundPlayer> loadPlayer()
 {
-    for (const QString& folder : BrowserLoader::moduleFolders()) {
+    for (const QString& folder : moduleFolders()) {
         const QString file = folder + "/lexigrove-sound.so";
         if (!QFileInfo::exists(file))
             continue;

@@ -42,12 +42,6 @@ private:
 
 BrowserLoader::BrowserLoader(QStringList folders) : folders_(std::move(folders)) {}
 
-QStringList BrowserLoader::moduleFolders()
-{
-    const QString here = QCoreApplication::applicationDirPath();
-    return {here, here + "/" LEXIGROVE_MODULE_FROM_EXECUTABLE, LEXIGROVE_MODULE_FOLDER};
-}
-
 std::unique_ptr<BrowserPage> BrowserLoader::newPage(const BrowserPageSetup& setup)
 {
     const QuietEngineStart start;

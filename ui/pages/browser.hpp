@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ui/machine/modules.hpp"
 #include "ui/pages/browser_rules.hpp"
 
 #include <QColor>
@@ -63,8 +64,6 @@ public:
     /// A page, or null if the module cannot be loaded; `failure` then says why.
     [[nodiscard]] std::unique_ptr<BrowserPage> newPage(const BrowserPageSetup& setup);
     [[nodiscard]] const QString& failure() const { return failure_; }
-
-    static QStringList moduleFolders();
 
 private:
     [[nodiscard]] BrowserModule* module();

@@ -2,6 +2,8 @@
 
 #include <QDesktopServices>
 #include <QGuiApplication>
+#include <QLabel>
+#include <QPushButton>
 #include <QVBoxLayout>
 
 #include <utility>

@@ -3,7 +3,6 @@
 #include "ui/pages/browser.hpp"
 
 #include <QLabel>
-#include <QPushButton>
 #include <QWidget>
 
 #include <memory>

@@ -1,4 +1,5 @@
-#include "ui/dialogs/dialogs.hpp"
+#include "ui/pages/meaning_dialog.hpp"
+
 #include "ui/dialogs/form_dialog.hpp"
 #include "ui/look/text.hpp"
 #include "ui/pages/browser_view.hpp"

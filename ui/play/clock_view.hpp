@@ -3,7 +3,6 @@
 #include "controls/dc.hpp"
 #include "ui/look/theme.hpp"
 
-#include <QFrame>
 #include <QWidget>
 
 #include <cstdint>

@@ -2,12 +2,12 @@
 
 #include "flow/game_flow.hpp"
 #include "ui/board/board_view.hpp"
+#include "ui/look/words_view.hpp"
 #include "ui/play/button_panel.hpp"
 #include "ui/play/clock_view.hpp"
 #include "ui/play/number_card.hpp"
 #include "ui/play/pause_cover.hpp"
 #include "ui/play/word_box.hpp"
-#include "ui/play/words_view.hpp"
 
 #include <QWidget>
 

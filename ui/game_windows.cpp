@@ -1,9 +1,10 @@
-#include "ui/dialogs/game_windows.hpp"
+#include "ui/game_windows.hpp"
 
 #include "ui/dialogs/dialogs.hpp"
 #include "ui/machine/host.hpp"
 #include "ui/pages/browser.hpp"
 #include "ui/pages/help_window.hpp"
+#include "ui/pages/meaning_dialog.hpp"
 
 namespace lexigrove
 {

@@ -1,4 +1,4 @@
-#include "ui/play/words_view.hpp"
+#include "ui/look/words_view.hpp"
 
 #include "ui/look/text.hpp"
 
@@ -97,7 +97,7 @@ public:
 
     void refresh()
     {
-        if (rows_ == grid_.Rows() - 1) {
+        if (rows_ == grid_.Rows() - 1 && rows_ > 0) {
             emit dataChanged(index(0, 0), index(rows_ - 1, WordsGrid::wordColumn));
             return;
         }
@@ -207,6 +207,18 @@ void WordsView::resizeEvent(QResizeEvent* event)
     };
     for (int column = 0; column < WordsGrid::wordColumn; ++column) // the last one takes what is left
         setColumnWidth(column, place(column + 1) - place(column));
+}
+
+void WordsView::mousePressEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::LeftButton)
+        QTableView::mousePressEvent(event);
+}
+
+void WordsView::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::LeftButton)
+        QTableView::mouseDoubleClickEvent(event);
 }
 
 void WordsView::keyPressEvent(QKeyEvent* event)
