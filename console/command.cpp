@@ -10,8 +10,7 @@ namespace lexigrove
 
 CommandTable::CommandTable()
 {
-    for (auto* const theme :
-         {&setUpCommands, &positionCommands, &playCommands, &lookingCommands, &recordCommands, &wordsCommands}) {
+    for (auto* const theme : {&setUpCommands, &positionCommands, &playCommands, &lookingCommands, &wordsCommands}) {
         std::vector<ConsoleCommand> commands = theme();
         std::move(commands.begin(), commands.end(), std::back_inserter(commands_));
     }

@@ -27,8 +27,7 @@ public:
 
     /// Starts the game and carries out commands until one of them ends it or the input ends, which leaves the game as
     /// closing its window would.
-    /// With a position it begins a game with that board.
-    void run(const std::optional<BoardPosition>& position = {});
+    void run();
 
 private:
     void carryOut(const std::string& line);

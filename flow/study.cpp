@@ -7,6 +7,28 @@
 namespace lexigrove
 {
 
+namespace
+{
+
+/// Updates the counts that follow from the tiles, and the tiles' looks.
+void recount(Game& game)
+{
+    GameState& state = game.state;
+    state.redTilesOnBoard = 0;
+    state.bonusTilesOnBoard = 0;
+    for (int tile = 1; tile <= Board::tileCount; ++tile) {
+        if (!game.board.isVisible(tile))
+            continue;
+        if (game.board.maskcolor(tile) == multiplier::red)
+            ++state.redTilesOnBoard;
+        else if (multiplier::isBonus(game.board.maskcolor(tile)))
+            ++state.bonusTilesOnBoard;
+    }
+    game.refreshLooks();
+}
+
+} // namespace
+
 void Study::setDeveloperMode(bool on)
 {
     flow_.input(When::Always, [=](GameParts& p) { p.game.state.developerMode = on; });
@@ -15,25 +37,23 @@ void Study::setDeveloperMode(bool on)
 void Study::editTile(int tile, const std::string& letter, Colour maskcolor)
 {
     flow_.input(When::InGame, [&](GameParts& p) {
-        p.game.letterSwap.cancel();
+        p.letterSwap.cancel();
         BoxControl& control = p.game.board.tile(tile);
         if (p.game.selection.contains(tile))
             p.game.selection.clear(); // the path keeps the letter as it was clicked
         control.Caption(letter);
         control.MaskColor(maskcolor);
         control.Visible(!letter.empty());
-        p.game.countSpecialTiles();
-        p.game.refreshLooks();
+        recount(p.game);
     });
 }
 
 void Study::editWaiting(int col, const std::string& letter)
 {
     flow_.input(When::InGame, [&](GameParts& p) {
-        p.game.letterSwap.cancel();
+        p.letterSwap.cancel();
         p.game.supply.waitAtHome(col, letter);
-        p.game.countSpecialTiles();
-        p.game.refreshLooks();
+        recount(p.game);
     });
 }
 
@@ -100,7 +120,7 @@ const CandidateList& Study::sweep()
 void Study::computerTurn()
 {
     flow_.input(When::InPlay, [](GameParts& p) {
-        p.game.letterSwap.cancel();
+        p.letterSwap.cancel();
         p.computerTurn.take();
     });
 }

@@ -1,7 +1,5 @@
 #include "game/letter_swap.hpp"
 
-#include "game/game.hpp"
-
 namespace lexigrove
 {
 

@@ -135,13 +135,12 @@ public:
             throw FileError("Cannot write the file", target_, errno);
     }
 
-    void write(std::string_view bytes, Durability durability) const
+    void write(std::string_view bytes) const
     {
         if (::ftruncate(descriptor_.get(), 0) != 0)
             throw FileError("Cannot write the file", target_, errno);
         writeAll(descriptor_.get(), bytes, target_);
-        if (durability == Durability::Flushed)
-            flush(descriptor_.get(), target_);
+        flush(descriptor_.get(), target_);
     }
 
     void renameOverTarget()
@@ -229,7 +228,7 @@ std::vector<std::string> readLines(const std::string& path)
     return {lines.begin(), lines.end()};
 }
 
-void replaceFile(const std::string& path, std::string_view bytes, Durability durability)
+void replaceFile(const std::string& path, std::string_view bytes)
 {
     const std::string target = followLinks(path);
     struct stat old = {};
@@ -242,10 +241,8 @@ void replaceFile(const std::string& path, std::string_view bytes, Durability dur
     TemporaryFile temporary(target);
     if (exists)
         temporary.copyPermissionsOf(old);
-    temporary.write(bytes, durability);
+    temporary.write(bytes);
     temporary.renameOverTarget();
-    if (durability == Durability::Written)
-        return;
 
     // Syncing the folder is best effort.
     const Descriptor folder(::open(folderOf(target).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));

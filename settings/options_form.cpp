@@ -167,9 +167,8 @@ void OptionsForm::soundButton()
     }
 }
 
-void OptionsForm::open(LookBack lookBack)
+void OptionsForm::open()
 {
-    lookBack_ = lookBack;
     answer_ = Answer::None;
     visible_ = true;
 }

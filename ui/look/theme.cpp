@@ -211,9 +211,9 @@ Theme::Theme() : desktop_(desktopPalette())
 
 void Theme::apply(const ColourScheme& scheme)
 {
-    if (scheme_ == &scheme && scheme.entries() == shown_)
+    if (applied_ && scheme.entries() == shown_)
         return;
-    scheme_ = &scheme;
+    applied_ = true;
     shown_ = scheme.entries();
     colours_ = deriveWindowColours(scheme);
     systemColours_ = shownSystemColours(colours_);

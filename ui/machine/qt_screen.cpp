@@ -1,7 +1,6 @@
 #include "ui/machine/qt_screen.hpp"
 
 #include <QApplication>
-#include <QClipboard>
 #include <QEventLoop>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -83,16 +82,6 @@ void QtScreen::waitForAnyInput()
         QEventLoop*& place_;
     } const waiting(waiting_, loop);
     host_.gate.exec(loop);
-}
-
-void QtScreen::copyText(const std::string& text)
-{
-    QGuiApplication::clipboard()->setText(QString::fromStdString(text));
-}
-
-std::string QtScreen::copiedText() const
-{
-    return QGuiApplication::clipboard()->text().toStdString();
 }
 
 bool QtScreen::eventFilter(QObject* receiver, QEvent* event)

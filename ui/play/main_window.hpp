@@ -11,7 +11,6 @@
 #include <vector>
 
 class QHBoxLayout;
-class QTimer;
 
 namespace lexigrove
 {
@@ -59,7 +58,6 @@ private:
     PlayArea* area_;
     StatusLineView* status_;
     std::vector<MenuEntry> menuEntries_;
-    QTimer* saving_; ///< fires once the events of an input are done
     bool endReported_ = false;
 };
 
