@@ -18,132 +18,10 @@ constexpr int border = unitsPerPixel; ///< of the single-line border, on each si
 
 } // namespace
 
-template <typename T>
-void BoxControl::store(T& member, T value)
-{
-    member = std::move(value);
-    changed_ = true;
-    ++revision_;
-}
-
-template <typename T>
-void BoxControl::storeAndRedraw(T& member, T value)
-{
-    store(member, std::move(value));
-    redraw();
-}
-
-void BoxControl::ForeColor(Colour value)
-{
-    store(ForeColor_, value);
-}
-
 void BoxControl::Enabled(bool value)
 {
     store(Enabled_, value);
     ForeColor_ = value ? system_colour::buttonText : BorderRight_;
-}
-
-void BoxControl::Font(ControlFont value)
-{
-    storeAndRedraw(Font_, std::move(value));
-}
-
-void BoxControl::Refresh()
-{
-    ++revision_;
-}
-
-void BoxControl::Caption(std::string value)
-{
-    store(Caption_, std::move(value));
-}
-
-void BoxControl::BorderWidth(std::int16_t value)
-{
-    storeAndRedraw(BorderWidth_, value);
-}
-
-void BoxControl::BorderTop(Colour value)
-{
-    store(BorderTop_, value);
-}
-
-void BoxControl::BorderLeft(Colour value)
-{
-    store(BorderLeft_, value);
-}
-
-void BoxControl::BorderRight(Colour value)
-{
-    store(BorderRight_, value);
-}
-
-void BoxControl::BorderBottom(Colour value)
-{
-    store(BorderBottom_, value);
-}
-
-void BoxControl::MaskColor(Colour value)
-{
-    store(MaskColor_, value);
-}
-
-void BoxControl::Picture(PicturePtr value)
-{
-    storeAndRedraw(Picture_, std::move(value));
-}
-
-void BoxControl::DrawStyle(std::int16_t value)
-{
-    storeAndRedraw(DrawStyle_, value);
-}
-
-void BoxControl::FontSize(double value)
-{
-    storeAndRedraw(Font_.size, value);
-}
-
-void BoxControl::FontBold(bool value)
-{
-    storeAndRedraw(Font_.bold, value);
-}
-
-void BoxControl::backcolor(Colour value)
-{
-    storeAndRedraw(backcolor_, value);
-}
-
-void BoxControl::DrawFrame(std::int16_t value)
-{
-    storeAndRedraw(DrawFrame_, value);
-}
-
-void BoxControl::ToolTipText(std::string value)
-{
-    store(ToolTipText_, std::move(value));
-}
-
-void BoxControl::Left(int value)
-{
-    Left_ = value;
-    ++revision_;
-}
-
-void BoxControl::Top(int value)
-{
-    Top_ = value;
-    ++revision_;
-}
-
-void BoxControl::Width(int value)
-{
-    Move(Left_, Top_, value, Height_);
-}
-
-void BoxControl::Height(int value)
-{
-    Move(Left_, Top_, Width_, value);
 }
 
 void BoxControl::Move(int left, int top, int width, int height)
@@ -156,12 +34,6 @@ void BoxControl::Move(int left, int top, int width, int height)
     ++revision_;
     if (resized)
         redraw();
-}
-
-void BoxControl::Visible(bool value)
-{
-    Visible_ = value;
-    ++revision_;
 }
 
 Size BoxControl::innerSize() const
@@ -213,103 +85,92 @@ std::optional<ExactPoint> BoxControl::picturePlace() const
                       (inner.height - Picture_->height() / 2.0) / 2.0 - pictureShift};
 }
 
+template <typename... Parameters, typename... Arguments>
+void BoxControl::raise(void (BoxControlEvents::*event)(Parameters...), Arguments... arguments)
+{
+    if (Enabled_ && events_ != nullptr)
+        (events_->*event)(arguments...);
+}
+
 void BoxControl::mousePressed(std::int16_t Button, std::int16_t Shift, float X, float Y)
 {
-    if (!Enabled_)
-        return;
-    showDown(true);
-    if (events_ != nullptr)
-        events_->MouseDown(Button, Shift, X, Y);
+    if (Enabled_)
+        showDown(true);
+    raise(&BoxControlEvents::MouseDown, Button, Shift, X, Y);
 }
 
 void BoxControl::mouseReleased(std::int16_t Button, std::int16_t Shift, float X, float Y)
 {
-    if (!Enabled_)
-        return;
-    showDown(false);
-    if (events_ != nullptr)
-        events_->MouseUp(Button, Shift, X, Y);
+    if (Enabled_)
+        showDown(false);
+    raise(&BoxControlEvents::MouseUp, Button, Shift, X, Y);
 }
 
 void BoxControl::mouseMoved(std::int16_t Button, std::int16_t Shift, float X, float Y)
 {
-    if (Enabled_ && events_ != nullptr)
-        events_->MouseMove(Button, Shift, X, Y);
+    raise(&BoxControlEvents::MouseMove, Button, Shift, X, Y);
 }
 
 void BoxControl::clicked()
 {
-    if (Enabled_ && events_ != nullptr)
-        events_->Click();
+    raise(&BoxControlEvents::Click);
 }
 
 void BoxControl::doubleClicked()
 {
-    if (Enabled_ && events_ != nullptr)
-        events_->DblClick();
+    raise(&BoxControlEvents::DblClick);
 }
 
 void BoxControl::keyDown(std::int16_t KeyCode, std::int16_t Shift)
 {
-    if (Enabled_ && events_ != nullptr)
-        events_->KeyDown(KeyCode, Shift);
+    raise(&BoxControlEvents::KeyDown, KeyCode, Shift);
 }
 
 void BoxControl::keyPressed(std::int16_t KeyAscii)
 {
-    if (Enabled_ && events_ != nullptr)
-        events_->KeyPress(KeyAscii);
+    raise(&BoxControlEvents::KeyPress, KeyAscii);
 }
 
 void BoxControl::keyUp(std::int16_t KeyCode, std::int16_t Shift)
 {
-    if (Enabled_ && events_ != nullptr)
-        events_->KeyUp(KeyCode, Shift);
+    raise(&BoxControlEvents::KeyUp, KeyCode, Shift);
+}
+
+/// Shows every property with its name and its default value, but for `FontSize`, which is read with another default
+/// than it is written with.
+template <typename Control, typename Visit>
+void BoxControl::visitProperties(Control& control, const ControlFont& containerFont, Visit visit)
+{
+    visit("ForeColor", control.ForeColor_, system_colour::buttonText);
+    visit("Enabled", control.Enabled_, true);
+    visit("Font", control.Font_, containerFont);
+    visit("Caption", control.Caption_, "Label1");
+    visit("BorderWidth", control.BorderWidth_, 1);
+    visit("BorderTop", control.BorderTop_, system_colour::windowText);
+    visit("BorderLeft", control.BorderLeft_, system_colour::windowText);
+    visit("BorderRight", control.BorderRight_, system_colour::windowText);
+    visit("BorderBottom", control.BorderBottom_, system_colour::windowText);
+    visit("MaskColor", control.MaskColor_, 0);
+    visit("Picture", control.Picture_, nullptr);
+    visit("BorderStyle", control.BorderStyle_, 0);
+    visit("DrawStyle", control.DrawStyle_, 5);
+    visit("FontBold", control.Font_.bold, false);
+    visit("backcolor", control.backcolor_, system_colour::buttonFace);
+    visit("DrawFrame", control.DrawFrame_, 1);
+    visit("ToolTipText", control.ToolTipText_, "");
 }
 
 void BoxControl::writeProperties(PropertyBag& bag, const ControlFont& containerFont)
 {
-    bag.write("ForeColor", ForeColor_, system_colour::buttonText);
-    bag.write("Enabled", Enabled_, true);
-    bag.write("Font", Font_, containerFont);
-    bag.write<std::string>("Caption", Caption_, "Label1");
-    bag.write<std::int16_t>("BorderWidth", BorderWidth_, 1);
-    bag.write("BorderTop", BorderTop_, system_colour::windowText);
-    bag.write("BorderLeft", BorderLeft_, system_colour::windowText);
-    bag.write("BorderRight", BorderRight_, system_colour::windowText);
-    bag.write("BorderBottom", BorderBottom_, system_colour::windowText);
-    bag.write<Colour>("MaskColor", MaskColor_, 0);
-    bag.write<PicturePtr>("Picture", Picture_, nullptr);
-    bag.write<std::int16_t>("BorderStyle", BorderStyle_, 0);
-    bag.write<std::int16_t>("DrawStyle", DrawStyle_, 5);
-    bag.write<double>("FontSize", Font_.size, 0); // not 8, the default for reading, so that the size is always written
-    bag.write("FontBold", Font_.bold, false);
-    bag.write("backcolor", backcolor_, system_colour::buttonFace);
-    bag.write<std::int16_t>("DrawFrame", DrawFrame_, 1);
-    bag.write<std::string>("ToolTipText", ToolTipText_, "");
+    visitProperties(*this, containerFont, PropertyWriter{bag});
+    bag.write("FontSize", Font_.size, 0.0); // not 8, the default for reading, so that the size is always written
     changed_ = false;
 }
 
 void BoxControl::readProperties(const PropertyBag& bag, const ControlFont& containerFont)
 {
-    ForeColor_ = bag.read("ForeColor", system_colour::buttonText);
-    Enabled_ = bag.read("Enabled", true);
-    Font_ = bag.read("Font", containerFont);
-    Caption_ = bag.read<std::string>("Caption", "Label1");
-    BorderWidth_ = bag.read<std::int16_t>("BorderWidth", 1);
-    BorderTop_ = bag.read("BorderTop", system_colour::windowText);
-    BorderLeft_ = bag.read("BorderLeft", system_colour::windowText);
-    BorderRight_ = bag.read("BorderRight", system_colour::windowText);
-    BorderBottom_ = bag.read("BorderBottom", system_colour::windowText);
-    MaskColor_ = bag.read<Colour>("MaskColor", 0);
-    Picture_ = bag.read<PicturePtr>("Picture", nullptr);
-    BorderStyle_ = bag.read<std::int16_t>("BorderStyle", 0);
-    DrawStyle_ = bag.read<std::int16_t>("DrawStyle", 5);
-    Font_.size = bag.read<double>("FontSize", 8);
-    Font_.bold = bag.read("FontBold", false);
-    backcolor_ = bag.read("backcolor", system_colour::buttonFace);
-    DrawFrame_ = bag.read<std::int16_t>("DrawFrame", 1);
-    ToolTipText_ = bag.read<std::string>("ToolTipText", "");
+    visitProperties(*this, containerFont, PropertyReader{bag});
+    Font_.size = bag.read("FontSize", 8.0);
     changed_ = false;
     redraw();
 }

@@ -58,7 +58,7 @@ public:
     // The properties, in the order of the control's interface.
 
     [[nodiscard]] Colour ForeColor() const { return ForeColor_; }
-    void ForeColor(Colour value); ///< no redraw
+    void ForeColor(Colour value) { store(ForeColor_, value); } ///< no redraw
 
     /// Setting it also colours the caption: button text when enabled, `BorderRight` (the shadow) when not. A disabled
     /// control takes no input.
@@ -66,46 +66,46 @@ public:
     void Enabled(bool value); ///< no redraw
 
     [[nodiscard]] const ControlFont& Font() const { return Font_; }
-    void Font(ControlFont value);
+    void Font(ControlFont value) { storeAndRedraw(Font_, std::move(value)); }
 
     /// Repaints the surface without changing the layout.
-    void Refresh();
+    void Refresh() { ++revision_; }
 
     [[nodiscard]] const std::string& Caption() const { return Caption_; }
-    void Caption(std::string value); ///< no redraw
+    void Caption(std::string value) { store(Caption_, std::move(value)); } ///< no redraw
 
     /// Thickness of the four edge lines.
     [[nodiscard]] std::int16_t BorderWidth() const { return BorderWidth_; }
-    void BorderWidth(std::int16_t value);
+    void BorderWidth(std::int16_t value) { storeAndRedraw(BorderWidth_, value); }
 
     [[nodiscard]] Colour BorderTop() const { return BorderTop_; }
-    void BorderTop(Colour value); ///< no redraw
+    void BorderTop(Colour value) { store(BorderTop_, value); } ///< no redraw
     [[nodiscard]] Colour BorderLeft() const { return BorderLeft_; }
-    void BorderLeft(Colour value); ///< no redraw
+    void BorderLeft(Colour value) { store(BorderLeft_, value); } ///< no redraw
     [[nodiscard]] Colour BorderRight() const { return BorderRight_; }
-    void BorderRight(Colour value); ///< no redraw
+    void BorderRight(Colour value) { store(BorderRight_, value); } ///< no redraw
     [[nodiscard]] Colour BorderBottom() const { return BorderBottom_; }
-    void BorderBottom(Colour value); ///< no redraw
+    void BorderBottom(Colour value) { store(BorderBottom_, value); } ///< no redraw
 
     /// Any number; the board keeps a tile's word multiplier here.
     [[nodiscard]] Colour MaskColor() const { return MaskColor_; }
-    void MaskColor(Colour value); ///< no redraw
+    void MaskColor(Colour value) { store(MaskColor_, value); } ///< no redraw
 
     [[nodiscard]] const PicturePtr& Picture() const { return Picture_; }
-    void Picture(PicturePtr value);
+    void Picture(PicturePtr value) { storeAndRedraw(Picture_, std::move(value)); }
 
     /// 0 draws the inner lines; any other value omits them.
     [[nodiscard]] std::int16_t DrawStyle() const { return DrawStyle_; }
-    void DrawStyle(std::int16_t value);
+    void DrawStyle(std::int16_t value) { storeAndRedraw(DrawStyle_, value); }
 
     [[nodiscard]] double FontSize() const { return Font_.size; }
-    void FontSize(double value);
+    void FontSize(double value) { storeAndRedraw(Font_.size, value); }
     [[nodiscard]] bool FontBold() const { return Font_.bold; }
-    void FontBold(bool value);
+    void FontBold(bool value) { storeAndRedraw(Font_.bold, value); }
 
     /// The colour of the face, stored in `Line7`.
     [[nodiscard]] Colour backcolor() const { return backcolor_; }
-    void backcolor(Colour value);
+    void backcolor(Colour value) { storeAndRedraw(backcolor_, value); }
 
     /// Hold the control down, and release it. A redraw of a held control shows its lines again and keeps the border.
     void KeepDown() { showDown(true); }
@@ -113,10 +113,10 @@ public:
 
     /// 1 shows the frame; any other value shows a flat face.
     [[nodiscard]] std::int16_t DrawFrame() const { return DrawFrame_; }
-    void DrawFrame(std::int16_t value);
+    void DrawFrame(std::int16_t value) { storeAndRedraw(DrawFrame_, value); }
 
     [[nodiscard]] const std::string& ToolTipText() const { return ToolTipText_; }
-    void ToolTipText(std::string value); ///< no redraw
+    void ToolTipText(std::string value) { store(ToolTipText_, std::move(value)); } ///< no redraw
 
     /// 0 none, 1 a single line around the surface. Saved with the properties; only pressing and holding change it.
     [[nodiscard]] std::int16_t BorderStyle() const { return BorderStyle_; }
@@ -124,16 +124,20 @@ public:
     // What the container sets when it places the control.
 
     [[nodiscard]] int Left() const { return Left_; }
-    void Left(int value);
+    void Left(int value) { Move(value, Top_, Width_, Height_); }
     [[nodiscard]] int Top() const { return Top_; }
-    void Top(int value);
+    void Top(int value) { Move(Left_, value, Width_, Height_); }
     [[nodiscard]] int Width() const { return Width_; }
-    void Width(int value); ///< a resize: redraws
+    void Width(int value) { Move(Left_, Top_, value, Height_); } ///< a resize: redraws
     [[nodiscard]] int Height() const { return Height_; }
-    void Height(int value);                              ///< a resize: redraws
-    void Move(int left, int top, int width, int height); ///< redraws once, and only when the size changes
+    void Height(int value) { Move(Left_, Top_, Width_, value); } ///< a resize: redraws
+    void Move(int left, int top, int width, int height);         ///< redraws once, and only when the size changes
     [[nodiscard]] bool Visible() const { return Visible_; }
-    void Visible(bool value);
+    void Visible(bool value)
+    {
+        Visible_ = value;
+        ++revision_;
+    }
     [[nodiscard]] const std::string& Tag() const { return Tag_; }
     void Tag(std::string value) { Tag_ = std::move(value); }
 
@@ -182,9 +186,22 @@ public:
 
 private:
     template <typename T>
-    void store(T& member, T value);
+    void store(T& member, T value)
+    {
+        member = std::move(value);
+        changed_ = true;
+        ++revision_;
+    }
     template <typename T>
-    void storeAndRedraw(T& member, T value);
+    void storeAndRedraw(T& member, T value)
+    {
+        store(member, std::move(value));
+        redraw();
+    }
+    template <typename Control, typename Visit>
+    static void visitProperties(Control& control, const ControlFont& containerFont, Visit visit);
+    template <typename... Parameters, typename... Arguments>
+    void raise(void (BoxControlEvents::*event)(Parameters...), Arguments... arguments);
     void showDown(bool down);
     void redraw();
 

@@ -68,40 +68,29 @@ Dc::Dc() : Shapet_{{0, 0}, {Width, 580}, 0, 0}
 
 void Dc::ClockBackground(Colour value)
 {
-    ClockBackground_ = value;
-    Shapet_.fill = value;
-    Shapet_.border = value;
-    changedAndShown();
+    store(ClockBackground_, value);
+    Shapet_.fill = Shapet_.border = value;
 }
 
 void Dc::DigitHighlight(Colour value)
 {
-    DigitHighlight_ = value;
+    store(DigitHighlight_, value);
     colours_[1] = value;
     repaint();
-    changedAndShown();
 }
 
 void Dc::DigitDim(Colour value)
 {
-    DigitDim_ = value;
+    store(DigitDim_, value);
     colours_[0] = value;
     repaint();
-    changedAndShown();
 }
 
 void Dc::ClockStartValue(std::int16_t value)
 {
-    ClockStartValue_ = value;
+    store(ClockStartValue_, value);
     currentValue_ = value;
     showValue(value);
-    changedAndShown();
-}
-
-void Dc::ClockIncrement(std::int16_t value)
-{
-    ClockIncrement_ = value;
-    changed_ = true;
 }
 
 void Dc::StartCountdown()
@@ -111,24 +100,10 @@ void Dc::StartCountdown()
     ++revision_;
 }
 
-void Dc::DigitWidth(std::int16_t value)
-{
-    DigitWidth_ = value;
-    thickness_ = value;
-    changedAndShown();
-}
-
-void Dc::ShowTimeOnly(bool value)
-{
-    ShowTimeOnly_ = value;
-    changed_ = true;
-}
-
 void Dc::ClockColor(std::string name)
 {
     const std::string theme = ascii::upperCase(name);
-    ClockColor_ = std::move(name);
-    changed_ = true;
+    store(ClockColor_, std::move(name));
     if (theme == "DEFAULT")
         return;
     if (theme == "GREEN")
@@ -202,14 +177,7 @@ void Dc::repaint()
 {
     lit_.fill(false);
     lit_[upperDot] = lit_[lowerDot] = true;
-    Shapet_.fill = ClockBackground_;
-    Shapet_.border = ClockBackground_;
-    ++revision_;
-}
-
-void Dc::changedAndShown()
-{
-    changed_ = true;
+    Shapet_.fill = Shapet_.border = ClockBackground_;
     ++revision_;
 }
 
@@ -242,30 +210,28 @@ int Dc::shownDigit(int digit) const
     return found == patterns.end() ? -1 : static_cast<int>(found - patterns.begin());
 }
 
+template <typename Visit>
+void Dc::visitProperties(Visit visit)
+{
+    visit("ClockBackground", ClockBackground_, 0);
+    visit("DigitHighlight", DigitHighlight_, 0);
+    visit("DigitDim", DigitDim_, 0);
+    visit("ClockStartValue", ClockStartValue_, 0);
+    visit("ClockIncrement", ClockIncrement_, 0);
+    visit("DigitWidth", DigitWidth_, 0);
+    visit("ShowTimeOnly", ShowTimeOnly_, false);
+    visit("ClockColor", ClockColor_, "Green");
+    changed_ = false;
+}
+
 void Dc::writeProperties(PropertyBag& bag)
 {
-    bag.write<Colour>("ClockBackground", ClockBackground_, 0);
-    bag.write<Colour>("DigitHighlight", DigitHighlight_, 0);
-    bag.write<Colour>("DigitDim", DigitDim_, 0);
-    bag.write<std::int16_t>("ClockStartValue", ClockStartValue_, 0);
-    bag.write<std::int16_t>("ClockIncrement", ClockIncrement_, 0);
-    bag.write<std::int16_t>("DigitWidth", DigitWidth_, 0);
-    bag.write("ShowTimeOnly", ShowTimeOnly_, false);
-    bag.write<std::string>("ClockColor", ClockColor_, "Green");
-    changed_ = false;
+    visitProperties(PropertyWriter{bag});
 }
 
 void Dc::readProperties(const PropertyBag& bag)
 {
-    ClockBackground_ = bag.read<Colour>("ClockBackground", 0);
-    DigitHighlight_ = bag.read<Colour>("DigitHighlight", 0);
-    DigitDim_ = bag.read<Colour>("DigitDim", 0);
-    ClockStartValue_ = bag.read<std::int16_t>("ClockStartValue", 0);
-    ClockIncrement_ = bag.read<std::int16_t>("ClockIncrement", 0);
-    DigitWidth_ = bag.read<std::int16_t>("DigitWidth", 0);
-    ShowTimeOnly_ = bag.read("ShowTimeOnly", false);
-    ClockColor_ = bag.read<std::string>("ClockColor", "Green");
-    changed_ = false;
+    visitProperties(PropertyReader{bag});
 }
 
 void frame10Released(Dc& clock, MouseButton button)

@@ -7,6 +7,7 @@
 #include <array>
 #include <cstdint>
 #include <string>
+#include <utility>
 
 namespace lexigrove
 {
@@ -56,17 +57,21 @@ public:
     void ClockStartValue(std::int16_t value);
     /// Seconds added at each tick; -1 makes a countdown.
     [[nodiscard]] std::int16_t ClockIncrement() const { return ClockIncrement_; }
-    void ClockIncrement(std::int16_t value);
+    void ClockIncrement(std::int16_t value) { store(ClockIncrement_, value); }
 
     /// Starts the timer and shows both dots. The current value does not change.
     void StartCountdown();
 
     /// Thickness of every segment and both dots in pixels.
     [[nodiscard]] std::int16_t DigitWidth() const { return DigitWidth_; }
-    void DigitWidth(std::int16_t value);
+    void DigitWidth(std::int16_t value)
+    {
+        store(DigitWidth_, value);
+        thickness_ = value;
+    }
     /// Shows the time of day instead of the countdown, from the next tick on.
     [[nodiscard]] bool ShowTimeOnly() const { return ShowTimeOnly_; }
-    void ShowTimeOnly(bool value);
+    void ShowTimeOnly(bool value) { store(ShowTimeOnly_, value); }
 
     void ResumeCountDown() { running_ = true; }
     void SuspendCountDown() { running_ = false; }
@@ -125,7 +130,15 @@ private:
     void showDigit(int digit, int figure);
     void repaint();
     void applyTheme(Colour background, Colour dim, Colour highlight);
-    void changedAndShown();
+    template <typename T>
+    void store(T& member, T value)
+    {
+        member = std::move(value);
+        changed_ = true;
+        ++revision_;
+    }
+    template <typename Visit>
+    void visitProperties(Visit visit);
 
     Colour ClockBackground_ = 0;
     Colour DigitHighlight_ = 0;

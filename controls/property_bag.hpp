@@ -6,6 +6,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <type_traits>
 #include <utility>
 #include <variant>
 
@@ -70,6 +71,28 @@ public:
     }
 
     std::map<std::string, PropertyValue> values;
+};
+
+// What a control shows its properties to, one by one, to have them saved or restored.
+
+struct PropertyWriter {
+    PropertyBag& bag;
+
+    template <typename T>
+    void operator()(const char* name, const T& value, const std::type_identity_t<T>& defaultValue)
+    {
+        bag.write(name, value, defaultValue);
+    }
+};
+
+struct PropertyReader {
+    const PropertyBag& bag;
+
+    template <typename T>
+    void operator()(const char* name, T& value, const std::type_identity_t<T>& defaultValue)
+    {
+        value = bag.read(name, defaultValue);
+    }
 };
 
 } // namespace lexigrove
