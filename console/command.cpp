@@ -25,10 +25,7 @@ const ConsoleCommand* CommandTable::find(std::string_view name) const
 
 ConsoleCommand command(std::string_view name, Command input)
 {
-    return command(name, GameFlow::timeOf(input), [input](CommandContext& context) -> Lines {
-        context.flow.perform(input);
-        return {};
-    });
+    return command(name, GameFlow::timeOf(input), [input](CommandContext& context) { context.flow.perform(input); });
 }
 
 int tileArgument(Arguments& arguments)

@@ -6,6 +6,7 @@
 #include "platform/status_line.hpp"
 
 #include <functional>
+#include <string>
 #include <string_view>
 #include <type_traits>
 #include <vector>
@@ -32,13 +33,28 @@ struct ConsoleCommand {
     std::function<Lines(CommandContext&, Arguments&)> run;
 };
 
+/// What a command answers: its lines, its one line, or none if it returns nothing.
+template <typename Run, typename... Parsed>
+Lines answerOf(const Run& run, CommandContext& context, const Parsed&... parsed)
+{
+    using Answer = std::invoke_result_t<Run, CommandContext&, const Parsed&...>;
+    if constexpr (std::is_void_v<Answer>) {
+        run(context, parsed...);
+        return {};
+    } else if constexpr (std::is_convertible_v<Answer, std::string_view>) {
+        return {std::string(run(context, parsed...))};
+    } else {
+        return run(context, parsed...);
+    }
+}
+
 /// A command that takes no arguments.
 template <typename Run>
 ConsoleCommand command(std::string_view name, When when, Run run)
 {
-    return {name, when, [run](CommandContext& context, Arguments& arguments) -> Lines {
+    return {name, when, [run](CommandContext& context, Arguments& arguments) {
                 arguments.expectEnd();
-                return run(context);
+                return answerOf(run, context);
             }};
 }
 
@@ -46,10 +62,10 @@ ConsoleCommand command(std::string_view name, When when, Run run)
 template <typename Parse, typename Run>
 ConsoleCommand command(std::string_view name, When when, Parse parse, Run run)
 {
-    return {name, when, [parse, run](CommandContext& context, Arguments& arguments) -> Lines {
+    return {name, when, [parse, run](CommandContext& context, Arguments& arguments) {
                 const auto parsed = parse(arguments);
                 arguments.expectEnd();
-                return run(context, parsed);
+                return answerOf(run, context, parsed);
             }};
 }
 

@@ -44,23 +44,13 @@ Lines showBoard(CommandContext& context)
     return lines;
 }
 
-Lines describeTile(CommandContext& context, int tile)
-{
-    return {context.flow.view().board.description(tile)};
-}
-
-Lines hoverTile(CommandContext& context, int tile)
+std::string hoverTile(CommandContext& context, int tile)
 {
     const Board& board = context.flow.view().board;
     if (!board.isVisible(tile))
         throw CommandError("tile " + std::to_string(tile) + " is not on the board");
     context.flow.hoverTile(tile);
-    return {board.hoverCaption(tile)};
-}
-
-Lines neighbours(CommandContext& context, int tile)
-{
-    return {context.flow.view().board.Neibors(tile)};
+    return board.hoverCaption(tile);
 }
 
 /// A caption or a number of the game that `value` prints.
@@ -108,31 +98,26 @@ const Value* valueArgument(Arguments& arguments)
     return value;
 }
 
-Lines printValue(CommandContext& context, const Value* value)
-{
-    return {value->text(context)};
-}
-
-Lines path(CommandContext& context)
+std::string path(CommandContext& context)
 {
     std::string tiles;
     for (const int tile : context.flow.view().selection.tiles())
         tiles += (tiles.empty() ? "" : " ") + std::to_string(tile);
-    return {tiles};
+    return tiles;
 }
 
-Lines queue(CommandContext& context)
+std::string queue(CommandContext& context)
 {
     std::string letters;
     for (const std::string& letter : context.flow.view().supply.RandomLetters)
         letters += letter;
-    return {letters};
+    return letters;
 }
 
-Lines pool(CommandContext& context)
+std::string pool(CommandContext& context)
 {
     const auto& letters = context.flow.view().dictionary.letters.pool;
-    return {std::string(letters.begin() + 1, letters.end())};
+    return {letters.begin() + 1, letters.end()};
 }
 
 /// Entries 1 to 26 on one line.
@@ -142,11 +127,6 @@ std::string letterNumbers(const std::array<int, 27>& numbers)
     for (std::size_t letter = 1; letter < numbers.size(); ++letter)
         text += (letter > 1 ? " " : "") + std::to_string(numbers[letter]);
     return text;
-}
-
-Lines letterCounts(CommandContext& context)
-{
-    return {letterNumbers(context.flow.view().dictionary.letters.letterCounts)};
 }
 
 Lines wordsMade(CommandContext& context)
@@ -173,7 +153,7 @@ Lines statistics(CommandContext& context)
 }
 
 /// A digit that shows no figure is "-".
-Lines clockFace(CommandContext& context)
+std::string clockFace(CommandContext& context)
 {
     const Dc& Dc1 = context.flow.view().clock;
     const auto digit = [&](int place) {
@@ -181,20 +161,26 @@ Lines clockFace(CommandContext& context)
         return figure < 0 ? std::string("-") : std::to_string(figure);
     };
     const auto dot = [&](int line) { return !Dc1.lin2(line).visible ? 'h' : Dc1.lit(line) ? 'l' : 'd'; };
-    return {digit(0) + digit(1) + ":" + digit(2) + digit(3) + " colon=" + dot(Dc::upperDot) + dot(Dc::lowerDot) +
-            " timer=" + (Dc1.running() ? "on" : "off")};
+    return digit(0) + digit(1) + ":" + digit(2) + digit(3) + " colon=" + dot(Dc::upperDot) + dot(Dc::lowerDot) +
+           " timer=" + (Dc1.running() ? "on" : "off");
 }
 
 } // namespace
 
 std::vector<ConsoleCommand> lookingCommands()
 {
+    const auto describe = [](CommandContext& context, int tile) { return context.flow.view().board.description(tile); };
+    const auto neighbours = [](CommandContext& context, int tile) { return context.flow.view().board.Neibors(tile); };
+    const auto printed = [](CommandContext& context, const Value* value) { return value->text(context); };
+    const auto letterCounts = [](CommandContext& context) {
+        return letterNumbers(context.flow.view().dictionary.letters.letterCounts);
+    };
     return {
         command("show", When::InGame, showBoard),
-        command("tile", When::InGame, tileArgument, describeTile),
+        command("tile", When::InGame, tileArgument, describe),
         command("hover", When::InGame, tileArgument, hoverTile),
         command("neighbours", When::InGame, tileArgument, neighbours),
-        command("value", When::Always, valueArgument, printValue),
+        command("value", When::Always, valueArgument, printed),
         command("path", When::InGame, path),
         command("queue", When::InGame, queue),
         command("pool", When::Always, pool),

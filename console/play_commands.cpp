@@ -78,79 +78,62 @@ Lines typeWord(CommandContext& context, const std::string& word)
     return wordSoFar(context.flow);
 }
 
-Lines drop(CommandContext& context, int col)
+void drop(CommandContext& context, int col)
 {
     const bool waits = context.flow.view().board.waiting(col).Visible();
     context.flow.drop(col); // even over an empty place, which a letter swap refuses with a sound
     if (!waits)
         throw CommandError("no letter waits over column " + std::to_string(col));
-    return {};
 }
 
 /// The ticks of a timer, until the program ends.
 template <Timer timer>
-Lines ticks(CommandContext& context, int count)
+void ticks(CommandContext& context, int count)
 {
     for (int i = 0; i < count && !context.flow.ended(); ++i)
         context.flow.tick(timer);
-    return {};
 }
 
-Lines pushTick(CommandContext& context)
-{
-    return ticks<Timer::Push>(context, 1);
-}
-
-Lines clickClock(CommandContext& context, MouseButton button)
-{
-    context.flow.releaseClockFrame(button);
-    return {};
-}
-
-Lines pause(CommandContext& context)
+const char* pause(CommandContext& context)
 {
     context.flow.perform(Command::Pause);
-    return {context.flow.isPaused() ? "paused" : "playing"};
+    return context.flow.isPaused() ? "paused" : "playing";
 }
 
-std::string rowArgument(Arguments& arguments)
-{
-    return arguments.required("row");
-}
-
-Lines showMeaning(CommandContext& context, const std::string& typed)
+void showMeaning(CommandContext& context, const std::string& typed)
 {
     const int rows = context.flow.view().state.WordsMade.Rows();
     if (rows == 1)
         throw CommandError("no word has been made: " + typed);
     context.flow.pickWord(numberIn("row", typed, 1, rows - 1));
     context.flow.perform(Command::ShowMeaning);
-    return {};
 }
 
-Lines pressSoundButton(CommandContext& context)
+const char* pressSoundButton(CommandContext& context)
 {
     context.flow.perform(Command::Sound);
-    return {context.flow.view().sounds.caption()};
+    return context.flow.view().sounds.caption();
 }
 
 } // namespace
 
 std::vector<ConsoleCommand> playCommands()
 {
+    const auto row = [](Arguments& arguments) { return arguments.required("row"); };
     return {
         command("click", When::InPlay, clickArguments, clickTile),
         command("enter", Command::EnterWord),
         command("type", When::InPlay, wordArgument, typeWord),
         command("drop", When::InPlay, columnArgument, drop),
         command("red_tick", When::InGame, ticksArgument, ticks<Timer::Red>),
-        command("push_tick", When::InGame, pushTick),
+        command("push_tick", When::InGame, [](CommandContext& context) { context.flow.tick(Timer::Push); }),
         command("clock_tick", When::Always, ticksArgument, ticks<Timer::Clock>),
-        command("clock_click", When::Always, buttonArgument, clickClock),
+        command("clock_click", When::Always, buttonArgument,
+                [](CommandContext& context, MouseButton button) { context.flow.releaseClockFrame(button); }),
         command("pause", GameFlow::timeOf(Command::Pause), pause),
         command("hint", Command::GetHint),
         command("check", Command::CheckWord),
-        command("meaning", GameFlow::timeOf(Command::ShowMeaning), rowArgument, showMeaning),
+        command("meaning", GameFlow::timeOf(Command::ShowMeaning), row, showMeaning),
         command("sound", GameFlow::timeOf(Command::Sound), pressSoundButton),
     };
 }

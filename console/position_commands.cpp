@@ -54,24 +54,21 @@ TileEdit waitingTileEdit(Arguments& arguments)
     return edit;
 }
 
-Lines editTile(CommandContext& context, const TileEdit& edit)
+void editTile(CommandContext& context, const TileEdit& edit)
 {
     if (!context.flow.view().board.isInPlay(edit.place))
         throw CommandError("tile " + std::to_string(edit.place) + " is not in play");
     context.study.editTile(edit.place, edit.letter, edit.maskcolor);
-    return {};
 }
 
-Lines editWaitingTile(CommandContext& context, const TileEdit& edit)
+void editWaitingTile(CommandContext& context, const TileEdit& edit)
 {
     context.study.editWaiting(edit.place, edit.letter);
-    return {};
 }
 
-Lines pressPresetBoard(CommandContext& context)
+void pressPresetBoard(CommandContext& context)
 {
     context.study.chooseOptions([](OptionsForm& form) { form.presetBoard(); });
-    return {};
 }
 
 /// A number of the game that a command may set.
@@ -116,7 +113,7 @@ NewValue newValue(Arguments& arguments)
     return {setting, numberIn(name, value, setting->lowest, setting->highest)};
 }
 
-Lines setValue(CommandContext& context, const NewValue& value)
+void setValue(CommandContext& context, const NewValue& value)
 {
     if (value.setting->number != nullptr)
         context.study.set(value.setting->number, *value.number);
@@ -124,7 +121,6 @@ Lines setValue(CommandContext& context, const NewValue& value)
         context.study.setTilesLeft(value.number);
     else
         context.study.setRedThreshold(*value.number);
-    return {};
 }
 
 } // namespace

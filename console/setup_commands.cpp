@@ -18,17 +18,6 @@ Lines commandNames(CommandContext& context)
     return names;
 }
 
-Lines knownCommand(CommandContext& context, const std::string& name)
-{
-    return {context.commands.find(name) != nullptr ? "true" : "false"};
-}
-
-Lines quit(CommandContext& context)
-{
-    context.quitting = true;
-    return {};
-}
-
 Lines setOptions(CommandContext& context, const std::vector<OptionSetting>& settings)
 {
     context.study.chooseOptions([&](OptionsForm& form) {
@@ -38,36 +27,28 @@ Lines setOptions(CommandContext& context, const std::vector<OptionSetting>& sett
     return optionLines(context.flow.view().options, context.flow.view().scheme.currentName);
 }
 
-Lines newGame(CommandContext& context)
-{
-    context.flow.startGame();
-    return {};
-}
-
-Lines setDeveloperMode(CommandContext& context, std::size_t choice)
-{
-    context.study.setDeveloperMode(choice == 0);
-    return {};
-}
-
 } // namespace
 
 std::vector<ConsoleCommand> setUpCommands()
 {
     const auto name = [](Arguments& arguments) { return arguments.required("name"); };
-    const auto onOff = [](Arguments& arguments) { return arguments.choice("developer", {"on", "off"}); };
+    const auto onOff = [](Arguments& arguments) { return arguments.choice("developer", {"on", "off"}) == 0; };
+    const auto knows = [](CommandContext& context, const std::string& known) {
+        return context.commands.find(known) != nullptr ? "true" : "false";
+    };
     return {
-        command("name", When::Always, [](CommandContext&) -> Lines { return {"LexiGrove"}; }),
-        command("version", When::Always, [](CommandContext&) -> Lines { return {LEXIGROVE_VERSION}; }),
-        command("protocol_version", When::Always, [](CommandContext&) -> Lines { return {"1"}; }),
+        command("name", When::Always, [](CommandContext&) { return "LexiGrove"; }),
+        command("version", When::Always, [](CommandContext&) { return LEXIGROVE_VERSION; }),
+        command("protocol_version", When::Always, [](CommandContext&) { return "1"; }),
         command("list_commands", When::Always, commandNames),
-        command("known_command", When::Always, name, knownCommand),
-        command("quit", When::Always, quit),
+        command("known_command", When::Always, name, knows),
+        command("quit", When::Always, [](CommandContext& context) { context.quitting = true; }),
         command("options", When::Always, readOptions, setOptions),
-        command("new_game", When::Always, newGame),
+        command("new_game", When::Always, [](CommandContext& context) { context.flow.startGame(); }),
         command("menu_new_game", Command::NewGame),
         command("exit", Command::Exit),
-        command("developer", When::Always, onOff, setDeveloperMode),
+        command("developer", When::Always, onOff,
+                [](CommandContext& context, bool on) { context.study.setDeveloperMode(on); }),
     };
 }
 

@@ -11,25 +11,9 @@ namespace lexigrove
 namespace
 {
 
-Lines wordCount(CommandContext& context)
+const WordList& wordsOf(const CommandContext& context)
 {
-    return {std::to_string(context.flow.view().dictionary.words.count())};
-}
-
-int entryArgument(Arguments& arguments)
-{
-    return arguments.number("entry", 0, WordList::capacity);
-}
-
-Lines word(CommandContext& context, int entry)
-{
-    return {std::string(context.flow.view().dictionary.words.entry(entry))};
-}
-
-/// The empty word can be found: it is entry 0.
-Lines findWord(CommandContext& context, const std::string& sought)
-{
-    return {std::to_string(context.flow.view().dictionary.words.findWord(sought))};
+    return context.flow.view().dictionary.words;
 }
 
 Lines traceWord(CommandContext& context, const std::string& sought)
@@ -50,24 +34,17 @@ Lines sweep(CommandContext& context)
     return lines;
 }
 
-Lines computerTurn(CommandContext& context)
-{
-    context.study.computerTurn();
-    return {};
-}
-
 template <Study::Maintenance operation>
-Lines maintain(CommandContext& context, const std::string& text)
+void maintain(CommandContext& context, const std::string& text)
 {
     if (!context.study.maintain(operation, text))
         throw CommandError(context.status.Label1);
-    return {};
 }
 
-Lines showDictionary(CommandContext& context)
+std::string showDictionary(CommandContext& context)
 {
     maintain<Study::Maintenance::ShowDictionary>(context, "");
-    return {std::to_string(context.study.listedWords())};
+    return std::to_string(context.study.listedWords());
 }
 
 struct CipherArguments {
@@ -81,42 +58,11 @@ CipherArguments cipherArguments(Arguments& arguments)
     return {std::move(key), arguments.rest()};
 }
 
-Lines encipherText(CommandContext& /*context*/, const CipherArguments& cipher)
+/// The final score; -1, to only show the list, is nothing.
+std::optional<int> codeArgument(Arguments& arguments)
 {
-    return {encipher(cipher.text, cipher.key)};
-}
-
-Lines decipherText(CommandContext& /*context*/, const CipherArguments& cipher)
-{
-    return {decipher(cipher.text, cipher.key)};
-}
-
-Lines scores(CommandContext& context)
-{
-    return context.study.scores();
-}
-
-/// The final score, or -1 to only show the list.
-int codeArgument(Arguments& arguments)
-{
-    return arguments.number("code", -1, 1'000'000'000);
-}
-
-Lines topTen(CommandContext& context, int code)
-{
-    return {context.study.showTopTen(code < 0 ? std::nullopt : std::optional(code))};
-}
-
-Lines loadConfiguration(CommandContext& context)
-{
-    context.study.loadConfiguration();
-    return {};
-}
-
-Lines saveConfiguration(CommandContext& context)
-{
-    context.study.saveConfiguration();
-    return {};
+    const int code = arguments.number("code", -1, 1'000'000'000);
+    return code < 0 ? std::nullopt : std::optional(code);
 }
 
 /// A name may contain blanks; those around it are ignored.
@@ -140,26 +86,35 @@ Lines loadScheme(CommandContext& context, const std::string& name)
 
 std::vector<ConsoleCommand> wordsCommands()
 {
-    const auto sought = [](Arguments& arguments) { return arguments.next().value_or(""); };
+    using Context = CommandContext;
+    const auto entry = [](Arguments& arguments) { return arguments.number("entry", 0, WordList::capacity); };
+    const auto sought = [](Arguments& arguments) { return arguments.next().value_or(""); }; // the empty word is entry 0
     const auto traced = [](Arguments& arguments) { return arguments.required("word"); };
+    const auto wordAt = [](Context& context, int number) { return wordsOf(context).entry(number); };
+    const auto find = [](Context& context, const std::string& word) {
+        return std::to_string(wordsOf(context).findWord(word));
+    };
+    const auto topTen = [](Context& context, std::optional<int> score) { return context.study.showTopTen(score); };
     return {
-        command("word_count", When::Always, wordCount),
-        command("word", When::Always, entryArgument, word),
-        command("find", When::Always, sought, findWord),
+        command("word_count", When::Always, [](Context& context) { return std::to_string(wordsOf(context).count()); }),
+        command("word", When::Always, entry, wordAt),
+        command("find", When::Always, sought, find),
         command("trace", When::InGame, traced, traceWord),
         command("sweep", When::InGame, sweep),
-        command("computer_turn", When::InPlay, computerTurn),
+        command("computer_turn", When::InPlay, [](Context& context) { context.study.computerTurn(); }),
         command("spell_check", When::InGame, restArgument, maintain<Study::Maintenance::SpellCheck>),
         command("add_word", When::InGame, restArgument, maintain<Study::Maintenance::AddWord>),
         command("remove_word", When::InGame, restArgument, maintain<Study::Maintenance::RemoveWord>),
         command("show_dictionary", When::InGame, showDictionary),
         command("export", Command::ExportWords),
-        command("encipher", When::Always, cipherArguments, encipherText),
-        command("decipher", When::Always, cipherArguments, decipherText),
-        command("scores", When::Always, scores),
+        command("encipher", When::Always, cipherArguments,
+                [](Context&, const CipherArguments& cipher) { return encipher(cipher.text, cipher.key); }),
+        command("decipher", When::Always, cipherArguments,
+                [](Context&, const CipherArguments& cipher) { return decipher(cipher.text, cipher.key); }),
+        command("scores", When::Always, [](Context& context) { return context.study.scores(); }),
         command("top10", When::Always, codeArgument, topTen),
-        command("load_config", When::Always, loadConfiguration),
-        command("save_config", When::Always, saveConfiguration),
+        command("load_config", When::Always, [](Context& context) { context.study.loadConfiguration(); }),
+        command("save_config", When::Always, [](Context& context) { context.study.saveConfiguration(); }),
         command("load_scheme", When::Always, schemeArgument, loadScheme),
     };
 }
