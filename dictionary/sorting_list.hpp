@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <span>
 #include <string_view>
 #include <vector>
@@ -18,7 +19,12 @@ public:
     void Additem(std::string_view text) { items_.push_back(text); }
 
     /// Sorts in ascending order of character codes. If only the last items are out of order, they are merged in.
-    void SortAscending();
+    void SortAscending()
+    {
+        const auto unsorted = std::is_sorted_until(items_.begin(), items_.end());
+        std::sort(unsorted, items_.end());
+        std::inplace_merge(items_.begin(), unsorted, items_.end());
+    }
 
     [[nodiscard]] int ListCount() const { return static_cast<int>(items_.size()); }
 

@@ -30,7 +30,7 @@ const GameFlow::Entry& GameFlow::entryOf(Command command)
         Entry{Command::Pause, When::InGame, Ends, [](Flow& flow, Parts&) { flow.pauseOrResume(); }},
         Entry{Command::Sound, When::Always, Ends, [](Flow&, Parts& p) { p.options.soundButton(); }},
         Entry{Command::Exit, When::Always, Stays, [](Flow& flow, Parts&) { flow.leave(); }},
-        Entry{Command::EnterWord, When::InPlay, Ends, [](Flow&, Parts& p) { p.wordRound.enterWord(); }},
+        Entry{Command::EnterWord, When::InPlay, Ends, [](Flow&, Parts& p) { enterWord(p.game, p.computerTurn); }},
         Entry{Command::ClearWord, When::InPlay, Stays,
               [](Flow&, Parts& p) {
                   if (p.letterSwap.isPending())
@@ -118,7 +118,7 @@ void GameFlow::clickTile(int tile, MouseButton button, bool shift)
         p.letterSwap.cancel();
         if (button == MouseButton::Right && p.game.selection.entryPending) {
             p.game.selection.entryPending = false;
-            p.wordRound.enterWord();
+            enterWord(p.game, p.computerTurn);
         } else {
             p.game.selection.tileClicked(tile, button);
         }

@@ -7,7 +7,6 @@
 #include "opponent/board_search.hpp"
 #include "opponent/computer_turn.hpp"
 #include "opponent/hints.hpp"
-#include "opponent/word_round.hpp"
 #include "platform/ports.hpp"
 #include "scores/score_file.hpp"
 #include "scores/score_form.hpp"
@@ -44,10 +43,9 @@ struct GameParts {
     DictionaryMaintenance maintenance{dictionary, ports.dialogs, ports.screen, ports.clock};
     BoardSearch search;
     ComputerTurn computerTurn{game, search, Dc1};
-    WordRound wordRound{game, computerTurn};
     Meanings meanings{game.state, ports.status, sounds, services, ports.windows};
     HintsForm hintsForm{game, meanings};
-    Hints hints{game, search, wordRound, hintsForm};
+    Hints hints{game, search, computerTurn, hintsForm};
     Configuration configuration{{ports.dialogs, ports.clock, options, Dc1, scheme, dictionary, folder}};
 };
 

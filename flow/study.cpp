@@ -1,7 +1,6 @@
 #include "flow/study.hpp"
 
 #include "flow/game_parts.hpp"
-#include "opponent/board_snapshot.hpp"
 #include "settings/window_colours.hpp"
 
 namespace lexigrove

@@ -1,7 +1,6 @@
 #include "game/neighbours.hpp"
 
 #include <algorithm>
-#include <initializer_list>
 
 namespace lexigrove
 {
@@ -9,66 +8,57 @@ namespace lexigrove
 namespace
 {
 
+/// Offsets from a tile's number to those of its neighbours, in their order; 0 ends them.
+using Offsets = std::array<int, 8>;
+
 /// Overwrites the lists of tiles first, first + step, ... last with the neighbours at these offsets that are on the
 /// board.
-void setNeighbours(NeighbourTable& table, int first, int last, int step, std::initializer_list<int> offsets)
+void setNeighbours(NeighbourTable& table, int first, int last, int step, const Offsets& offsets)
 {
     for (int tile = first; tile <= last; tile += step) {
         NeighbourList list;
         for (const int offset : offsets) {
             const int candidate = tile + offset;
-            if (candidate >= 1 && candidate <= 64)
+            if (offset != 0 && candidate >= 1 && candidate <= 64)
                 list.append(candidate);
         }
         table[static_cast<std::size_t>(tile)] = list;
     }
 }
 
-/// Append neighbours: d1 and d2 always, the others up to the first 0.
-void appendNeighbours(int tile, int d1, int d2, int d3, int d4, int d5, int d6, NeighbourList& list)
-{
-    list.append(tile + d1);
-    list.append(tile + d2);
-    for (const int offset : {d3, d4, d5, d6}) {
-        if (offset == 0)
-            return;
-        list.append(tile + offset);
-    }
-}
-
 struct StaggeredRow {
     int first;
     int last;
-    std::array<int, 6> offsets; ///< 0 ends the list
+    Offsets offsets;
 };
 
 /// Runs of tiles with the same offsets; a later row overwrites an earlier one. The order within a row decides which of
 /// two equal words is found first, and so which path the computer plays.
 constexpr StaggeredRow staggeredRows[] = {
-    {1, 6, {+1, -1, +8, +9, 0, 0}},     // column 1, rows 1 to 6
+    {1, 6, {+1, -1, +8, +9}},           // column 1, rows 1 to 6
     {10, 15, {-1, +1, -9, -8, +7, +8}}, // inner rows of the long columns 2, 4, 6
     {26, 31, {-1, +1, -9, -8, +7, +8}}, //
     {42, 47, {-1, +1, -9, -8, +7, +8}}, //
     {18, 22, {-1, +1, -7, -8, +8, +9}}, // inner rows of the short columns 3, 5, 7
     {34, 38, {-1, +1, -7, -8, +8, +9}}, //
     {50, 54, {-1, +1, -7, -8, +8, +9}}, //
-    {58, 63, {+1, -1, -9, -8, 0, 0}},   // column 8, rows 2 to 7
-    {1, 1, {+1, +9, +8, 0, 0, 0}},      // top of column 1
-    {9, 9, {-8, +8, +1, 0, 0, 0}},      // tops of the long columns 2, 4, 6
-    {25, 25, {-8, +8, +1, 0, 0, 0}},    //
-    {41, 41, {-8, +8, +1, 0, 0, 0}},    //
-    {17, 17, {+1, -7, -8, +8, +9, 0}},  // tops of the short columns 3, 5, 7
-    {33, 33, {+1, -7, -8, +8, +9, 0}},  //
-    {49, 49, {+1, -7, -8, +8, +9, 0}},  //
-    {7, 7, {+8, +9, -1, 0, 0, 0}},      // bottom of column 1
-    {57, 57, {+1, -8, 0, 0, 0, 0}},     // top of column 8
-    {16, 16, {-1, -9, +7, 0, 0, 0}},    // bottoms of the long columns 2, 4, 6
-    {32, 32, {-1, -9, +7, 0, 0, 0}},    //
-    {48, 48, {-1, -9, +7, 0, 0, 0}},    //
-    {23, 23, {-1, -7, -8, +8, +9, 0}},  // bottoms of the short columns 3, 5, 7
-    {39, 39, {-1, -7, -8, +8, +9, 0}},  //
-    {55, 55, {-1, -7, -8, +8, +9, 0}},  //
-    {64, 64, {-1, -9, 0, 0, 0, 0}},     // bottom of column 8
+    {58, 63, {+1, -1, -9, -8}},         // column 8, rows 2 to 7
+    {1, 1, {+1, +9, +8}},               // top of column 1
+    {9, 9, {-8, +8, +1}},               // tops of the long columns 2, 4, 6
+    {25, 25, {-8, +8, +1}},             //
+    {41, 41, {-8, +8, +1}},             //
+    {17, 17, {+1, -7, -8, +8, +9}},     // tops of the short columns 3, 5, 7
+    {33, 33, {+1, -7, -8, +8, +9}},     //
+    {49, 49, {+1, -7, -8, +8, +9}},     //
+    {7, 7, {+8, +9, -1}},               // bottom of column 1
+    {57, 57, {+1, -8}},                 // top of column 8
+    {16, 16, {-1, -9, +7}},             // bottoms of the long columns 2, 4, 6
+    {32, 32, {-1, -9, +7}},             //
+    {48, 48, {-1, -9, +7}},             //
+    {23, 23, {-1, -7, -8, +8, +9}},     // bottoms of the short columns 3, 5, 7
+    {39, 39, {-1, -7, -8, +8, +9}},     //
+    {55, 55, {-1, -7, -8, +8, +9}},     //
+    {64, 64, {-1, -9}},                 // bottom of column 8
 };
 
 } // namespace
@@ -101,14 +91,8 @@ NeighbourTable squareNeighbours()
 NeighbourTable staggeredNeighbours()
 {
     NeighbourTable table;
-    for (const StaggeredRow& row : staggeredRows) {
-        const auto& d = row.offsets;
-        for (int tile = row.first; tile <= row.last; ++tile) {
-            NeighbourList list;
-            appendNeighbours(tile, d[0], d[1], d[2], d[3], d[4], d[5], list);
-            table[static_cast<std::size_t>(tile)] = list;
-        }
-    }
+    for (const StaggeredRow& row : staggeredRows)
+        setNeighbours(table, row.first, row.last, 1, row.offsets);
     return table;
 }
 

@@ -1,7 +1,5 @@
 #include "opponent/computer_turn.hpp"
 
-#include "opponent/board_snapshot.hpp"
-
 #include <algorithm>
 
 namespace lexigrove
@@ -88,6 +86,15 @@ void ComputerTurn::end()
     game_.state.prompt = Prompt::YourMove;
     Dc1_.ResumeCountDown();
     game_.state.computerTurnInProgress = false;
+}
+
+EnterResult enterWord(Game& game, ComputerTurn& computer)
+{
+    const EnterResult result = game.wordEntry.enterWord();
+    const bool turnPasses = result == EnterResult::Passed || result == EnterResult::Entered;
+    if (game.state.computerGame && turnPasses)
+        computer.take();
+    return result;
 }
 
 } // namespace lexigrove

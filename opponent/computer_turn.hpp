@@ -34,4 +34,7 @@ private:
     Dc& Dc1_;
 };
 
+/// Enter Word and what follows: the player's word and, in a game against the computer, its answer.
+EnterResult enterWord(Game& game, ComputerTurn& computer);
+
 } // namespace lexigrove

@@ -1,7 +1,5 @@
 #include "opponent/hints.hpp"
 
-#include "opponent/board_snapshot.hpp"
-
 #include <algorithm>
 
 namespace lexigrove
@@ -40,7 +38,7 @@ void Hints::getHint()
     form_.activate(candidates);
     game_.ports.windows.show(form_);
     if (!form_.result().empty())
-        round_.enterWord();
+        enterWord(game_, computer_);
     game_.refreshLooks();
     state.redTileHold = false;
 }

@@ -2,8 +2,8 @@
 
 #include "game/game.hpp"
 #include "opponent/board_search.hpp"
+#include "opponent/computer_turn.hpp"
 #include "opponent/hints_form.hpp"
-#include "opponent/word_round.hpp"
 
 namespace lexigrove
 {
@@ -15,8 +15,8 @@ int hintPrice(int level);
 class Hints
 {
 public:
-    Hints(Game& game, BoardSearch& search, WordRound& round, HintsForm& form)
-        : game_(game), search_(search), round_(round), form_(form)
+    Hints(Game& game, BoardSearch& search, ComputerTurn& computer, HintsForm& form)
+        : game_(game), search_(search), computer_(computer), form_(form)
     {
     }
 
@@ -28,7 +28,7 @@ private:
 
     Game& game_;
     BoardSearch& search_;
-    WordRound& round_;
+    ComputerTurn& computer_;
     HintsForm& form_;
 };
 

@@ -7,6 +7,8 @@
 namespace lexigrove
 {
 
+class Board;
+
 /// The board as a search sees it at one moment. Tiles are numbered 1 to 64; entry 0 is the hidden template.
 struct SearchBoard {
     static constexpr int tileCount = 64;
@@ -17,5 +19,8 @@ struct SearchBoard {
     /// The `Neibors` lists, without hidden tiles.
     NeighbourTable neighbours{};
 };
+
+/// The board of the moment: the letters of the visible tiles and their neighbour lists.
+SearchBoard snapshotOf(const Board& board);
 
 } // namespace lexigrove

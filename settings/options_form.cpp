@@ -1,6 +1,6 @@
 #include "settings/options_form.hpp"
 
-#include "settings/preset_board.hpp"
+#include "platform/ascii.hpp"
 
 #include <algorithm>
 #include <filesystem>
@@ -29,6 +29,35 @@ private:
     std::error_code failure_;
     std::filesystem::path folder_;
 };
+
+/// Asks for the letters of a preset board until they are complete; an empty answer returns an empty string. Excess
+/// letters are discarded; missing ones are asked for, keeping those typed.
+std::string askForPresetLetters(Dialogs& dialogs)
+{
+    constexpr std::size_t count = PresetLetters::count;
+    const std::string prompt = "Enter " + std::to_string(count) + " letters A to Z in any sequence";
+    std::string defaultAnswer;
+    for (;;) {
+        const std::string typed = dialogs.input("Preset Letters", prompt, defaultAnswer);
+        if (typed.empty())
+            return {};
+        if (typed.find(' ') != std::string::npos)
+            continue;
+        std::string letters = ascii::upperCase(typed);
+        if (letters.size() < count) {
+            dialogs.message("enter " + std::to_string(count - letters.size()) + " more letters");
+            defaultAnswer = typed;
+            continue;
+        }
+        if (letters.size() > count) {
+            dialogs.message("last " + std::to_string(letters.size() - count) + " too many, will be discarded");
+            letters.resize(count);
+        }
+        if (std::all_of(letters.begin(), letters.end(), ascii::isUpper))
+            return letters;
+        dialogs.message("Only A-Z allowed, please re-enter");
+    }
+}
 
 } // namespace
 
@@ -131,7 +160,7 @@ void OptionsForm::typeUserDictName(const std::string& text)
 
 bool OptionsForm::presetBoard()
 {
-    const std::string letters = askForPresetLetters(context_.dialogs, PresetLetters::count);
+    const std::string letters = askForPresetLetters(context_.dialogs);
     if (letters.empty())
         return false;
     settings.presetLetters.choose(letters);

@@ -30,11 +30,20 @@ public:
     SoundCues(SoundDevice& device, std::string folder) : device_(device), folder_(std::move(folder)) {}
 
     /// Plays a file from the program folder, unless sound is off.
-    void play(std::string_view file);
+    void play(std::string_view file)
+    {
+        if (on_)
+            device_.send("play " + folder_ + std::string(file));
+    }
 
     /// Plays a file even if sound is off, without changing the flag: what a click in the hidden file list `File1` does,
     /// for a front end that has such a list.
-    void playForced(std::string_view file);
+    void playForced(std::string_view file)
+    {
+        const bool before = std::exchange(on_, true);
+        play(file);
+        on_ = before;
+    }
 
     [[nodiscard]] bool isOn() const { return on_; }
 

@@ -1,4 +1,6 @@
-#include "opponent/board_snapshot.hpp"
+#include "opponent/search_board.hpp"
+
+#include "game/board.hpp"
 
 namespace lexigrove
 {
