@@ -34,7 +34,8 @@ const fs::path transcriptFolder = TRANSCRIPT_FOLDER;
 ///     @show NAME        shows a file in the lines after "| " that follow
 ///     @list             shows the names in the folder in the same way
 ///
-/// and all others are the console's. `\xHH` is a byte, $FOLDER/ the program folder, $DATE the date of the day.
+/// and all others are the console's. `\xHH` is a byte, $FOLDER/ the program folder, $DATE the date of the day, $VERSION
+/// the program's own.
 class Player : private std::streambuf
 {
 public:
@@ -183,6 +184,7 @@ private:
         while (bytes.find(folder_.path()) != std::string::npos)
             bytes.replace(bytes.find(folder_.path()), folder_.path().size(), "$FOLDER/");
         bytes = std::regex_replace(bytes, std::regex("[0-9]{2}/[0-9]{2}/[0-9]{2} 12:34:00"), "$$DATE 12:34:00");
+        bytes = std::regex_replace(bytes, std::regex("\n= " LEXIGROVE_VERSION "\n"), "\n= $$VERSION\n");
         std::string text;
         for (const char byte : bytes) {
             std::array<char, 5> code{};
