@@ -84,6 +84,9 @@ TEST(WholeGame, DeveloperModeHasAPasswordAndKeys)
     for (const auto key : {DeveloperKey::NumpadMinus, DeveloperKey::Home, DeveloperKey::End, DeveloperKey::NumpadPlus})
         press(key);
     EXPECT_EQ(delays, (std::vector<int>{250, 260, 250, 0, 0}));
+    for (int i = 0; i < 4'000; ++i)
+        press(DeveloperKey::NumpadMinus);
+    EXPECT_EQ(delays.back(), 32'767) << "16 bits";
     played.flow.perform(Command::AskPassword);
     EXPECT_FALSE(played.state.developerMode);
 }
