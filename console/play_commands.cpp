@@ -107,6 +107,12 @@ Lines clickClock(CommandContext& context, MouseButton button)
     return {};
 }
 
+Lines continueGame(CommandContext& context)
+{
+    context.flow.continueGame();
+    return {};
+}
+
 Lines pause(CommandContext& context)
 {
     context.flow.perform(Command::Pause);
@@ -147,6 +153,8 @@ std::vector<ConsoleCommand> playCommands()
         command("push_tick", When::InGame, pushTick),
         command("clock_tick", When::Always, ticksArgument, ticks<Timer::Clock>),
         command("clock_click", When::Always, buttonArgument, clickClock),
+        command("keep", Command::KeepForLater),
+        command("continue", When::Always, continueGame),
         command("pause", GameFlow::timeOf(Command::Pause), pause),
         command("hint", Command::GetHint),
         command("check", Command::CheckWord),

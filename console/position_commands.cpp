@@ -127,6 +127,21 @@ Lines setValue(CommandContext& context, const NewValue& value)
     return {};
 }
 
+Lines printPosition(CommandContext& context)
+{
+    return {textOf(context.flow.position().board)};
+}
+
+Lines setPosition(CommandContext& context, const std::string& text)
+{
+    try {
+        context.flow.playPosition(boardPositionOf(text));
+    } catch (const PositionError& error) {
+        throw CommandError(error.what());
+    }
+    return {};
+}
+
 } // namespace
 
 std::vector<ConsoleCommand> positionCommands()
@@ -134,6 +149,8 @@ std::vector<ConsoleCommand> positionCommands()
     return {
         command("edit", When::InGame, tileEdit, editTile),
         command("edit_top", When::InGame, waitingTileEdit, editWaitingTile),
+        command("position", When::InGame, printPosition),
+        command("set_position", When::Always, restArgument, setPosition),
         command("preset", When::Always, pressPresetBoard),
         command("set", When::InGame, newValue, setValue),
     };
