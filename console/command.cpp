@@ -10,7 +10,8 @@ namespace lexigrove
 
 CommandTable::CommandTable()
 {
-    for (auto* const theme : {&setUpCommands, &positionCommands, &playCommands, &lookingCommands, &wordsCommands}) {
+    for (auto* const theme :
+         {&setUpCommands, &positionCommands, &playCommands, &lookingCommands, &recordCommands, &wordsCommands}) {
         std::vector<ConsoleCommand> commands = theme();
         std::move(commands.begin(), commands.end(), std::back_inserter(commands_));
     }

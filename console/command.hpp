@@ -92,6 +92,7 @@ std::vector<ConsoleCommand> setUpCommands();
 std::vector<ConsoleCommand> positionCommands(); ///< that set up a position to study
 std::vector<ConsoleCommand> playCommands();
 std::vector<ConsoleCommand> lookingCommands();
+std::vector<ConsoleCommand> recordCommands(); ///< past games, and boards that are shared
 std::vector<ConsoleCommand> wordsCommands();
 
 // Arguments that several commands share.

@@ -12,11 +12,13 @@ namespace lexigrove
 const char* const helpText =
     "LexiGrove without a window: commands come in line by line, answers and events go out.\n"
     "\n"
-    "usage: lexigrove-console [--folder DIR] [--time-of-day SECONDS] [--help] [--version]\n"
+    "usage: lexigrove-console [--folder DIR] [--time-of-day SECONDS] [--position TEXT]\n"
+    "                         [--help] [--version]\n"
     "\n"
     "  --folder DIR           the program folder: word lists, options, scores\n"
     "  --time-of-day SECONDS  freezes the clock at this time and fixes the random letters,\n"
     "                         so that a run can be repeated exactly\n"
+    "  --position TEXT        begins with this board, as \"position\" prints one\n"
     "\n"
     "\"list_commands\" lists the commands; a game starts with \"new_game\" and is shown by \"show\".\n";
 
@@ -35,13 +37,23 @@ double secondsOfDay(std::string_view text)
     return seconds;
 }
 
+BoardPosition positionIn(std::string_view text)
+{
+    try {
+        return boardPositionOf(text);
+    } catch (const PositionError& error) {
+        throw BadOption(std::string("--position: ") + error.what());
+    }
+}
+
 } // namespace
 
 CommandLine readCommandLine(int argc, char* const* argv)
 {
-    static constexpr std::array<option, 5> options{{
+    static constexpr std::array<option, 6> options{{
         {"folder", required_argument, nullptr, 'f'},
         {"time-of-day", required_argument, nullptr, 't'},
+        {"position", required_argument, nullptr, 'p'},
         {"help", no_argument, nullptr, 'h'},
         {"version", no_argument, nullptr, 'v'},
         {}, // the end
@@ -56,6 +68,9 @@ CommandLine readCommandLine(int argc, char* const* argv)
             break;
         case 't':
             line.timeOfDay = secondsOfDay(optarg);
+            break;
+        case 'p':
+            line.position = positionIn(optarg);
             break;
         case 'h':
             line.help = true;

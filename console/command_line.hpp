@@ -1,5 +1,7 @@
 #pragma once
 
+#include "game/board_position.hpp"
+
 #include <optional>
 #include <stdexcept>
 #include <string>
@@ -16,7 +18,8 @@ public:
 
 struct CommandLine {
     std::optional<std::string> folder;
-    std::optional<double> timeOfDay; ///< seconds since midnight, 0 up to 86,400, without the latter
+    std::optional<BoardPosition> position; ///< to begin with
+    std::optional<double> timeOfDay;       ///< seconds since midnight, 0 up to 86,400, without the latter
     bool help = false;
     bool version = false;
 };

@@ -49,9 +49,11 @@ Console::Console(const std::string& folder, std::optional<double> timeOfDay, std
 {
 }
 
-void Console::run()
+void Console::run(const std::optional<BoardPosition>& position)
 {
     flow_.startUp();
+    if (position)
+        flow_.playPosition(*position);
     while (!flow_.ended() && !context_.quitting) {
         if (const auto line = channel_.readLine()) {
             carryOut(*line);

@@ -27,7 +27,8 @@ public:
 
     /// Starts the game and carries out commands until one of them ends it or the input ends, which leaves the game as
     /// closing its window would.
-    void run();
+    /// With a position it begins a game with that board.
+    void run(const std::optional<BoardPosition>& position = {});
 
 private:
     void carryOut(const std::string& line);

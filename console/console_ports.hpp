@@ -34,6 +34,8 @@ public:
     void setBusyPointer(bool /*busy*/) override {}
     void lockBoardUpdates(bool /*locked*/) override {}
     void waitForAnyInput() override {}
+    void copyText(const std::string& /*text*/) override {}
+    [[nodiscard]] std::string copiedText() const override { return {}; }
     void inputEnded() override {}
 };
 

@@ -3,6 +3,7 @@
 #include "console/arguments.hpp"
 #include "console/option_settings.hpp"
 #include "opponent/hints_form.hpp"
+#include "record/continue_form.hpp"
 #include "scores/score_form.hpp"
 #include "word_services/meanings.hpp"
 
@@ -58,6 +59,19 @@ void answerHints(HintsForm& form, const std::string& reply)
 }
 
 } // namespace
+
+/// A Yes/No question like any other.
+void ConsoleWindows::show(ContinueForm& form)
+{
+    for (;;) {
+        channel_.writeEvent("confirm", ContinueForm::question);
+        const std::string reply = channel_.readChoice();
+        if (reply == "yes" || reply == "no") {
+            form.accepted = reply == "yes";
+            return;
+        }
+    }
+}
 
 void ConsoleWindows::show(OptionsForm& form)
 {

@@ -13,6 +13,7 @@ class ConsoleWindows : public Windows
 public:
     explicit ConsoleWindows(LineChannel& channel) : channel_(channel) {}
 
+    void show(ContinueForm& form) override;
     void show(OptionsForm& form) override;
     void show(ScoreForm& form) override;
     void show(HintsForm& form) override;
@@ -21,6 +22,8 @@ public:
     // These cause no events: commands show their content, and they are closed at once.
 
     void show(const StatisticsForm& /*form*/) override {}
+    void show(PastGamesForm& /*form*/) override {}
+    void show(ReviewForm& /*form*/) override {}
     void show(DictionaryMaintenance& /*form*/) override {}
     void showHelp(const std::string& /*address*/) override {}
     void showAbout() override {}

@@ -20,7 +20,7 @@ int play(const lexigrove::CommandLine& options)
                   << ": \"new_game\" starts a game, \"show\" shows it, \"list_commands\" lists the commands.\n";
     }
     lexigrove::Console console(folder, options.timeOfDay, std::cin, std::cout);
-    console.run();
+    console.run(options.position);
     return 0;
 }
 

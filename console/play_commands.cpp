@@ -130,6 +130,8 @@ std::vector<ConsoleCommand> playCommands()
         command("clock_tick", When::Always, ticksArgument, ticks<Timer::Clock>),
         command("clock_click", When::Always, buttonArgument,
                 [](CommandContext& context, MouseButton button) { context.flow.releaseClockFrame(button); }),
+        command("keep", Command::KeepForLater),
+        command("continue", When::Always, [](CommandContext& context) { context.flow.continueGame(); }),
         command("pause", GameFlow::timeOf(Command::Pause), pause),
         command("hint", Command::GetHint),
         command("check", Command::CheckWord),

@@ -123,6 +123,21 @@ void setValue(CommandContext& context, const NewValue& value)
         context.study.setRedThreshold(*value.number);
 }
 
+Lines printPosition(CommandContext& context)
+{
+    return {textOf(context.flow.position().board)};
+}
+
+Lines setPosition(CommandContext& context, const std::string& text)
+{
+    try {
+        context.flow.playPosition(boardPositionOf(text));
+    } catch (const PositionError& error) {
+        throw CommandError(error.what());
+    }
+    return {};
+}
+
 } // namespace
 
 std::vector<ConsoleCommand> positionCommands()
@@ -130,6 +145,8 @@ std::vector<ConsoleCommand> positionCommands()
     return {
         command("edit", When::InGame, tileEdit, editTile),
         command("edit_top", When::InGame, waitingTileEdit, editWaitingTile),
+        command("position", When::InGame, printPosition),
+        command("set_position", When::Always, restArgument, setPosition),
         command("preset", When::Always, pressPresetBoard),
         command("set", When::InGame, newValue, setValue),
     };

@@ -38,6 +38,15 @@ bool isBefore(const WordsRow& a, const WordsRow& b, int column)
 
 } // namespace
 
+WordsGrid& WordsGrid::operator=(const WordsGrid& other)
+{
+    rows_ = other.rows_;
+    row_ = other.row_;
+    Tag = other.Tag;
+    ++revision_;
+    return *this;
+}
+
 void WordsGrid::clear()
 {
     rows_.clear();
@@ -49,6 +58,12 @@ void WordsGrid::add(WordsRow row)
     row.number = Rows();
     rows_.push_back(std::move(row));
     ++revision_;
+}
+
+void WordsGrid::assign(std::vector<WordsRow> rows)
+{
+    rows_ = std::move(rows);
+    setCurrent(0);
 }
 
 void WordsGrid::insertOnTop(WordsRow row)

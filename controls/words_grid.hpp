@@ -24,7 +24,9 @@ struct WordsRow {
     int score = 0;
     std::string word = {};
     Maker maker = Maker::Player;
-    std::vector<std::uint8_t> path = {}; ///< the tile numbers of a hint, in order; empty for a word already made
+    std::vector<std::uint8_t> path = {}; ///< the tile numbers of a hint, in order; empty for a word that was made
+
+    friend bool operator==(const WordsRow&, const WordsRow&) = default;
 };
 
 /// The words grid `WordsMade` of the main window and of the hints window: a heading row, and for each word a row with
@@ -44,14 +46,22 @@ public:
         {"Word...", 1750, CellAlignment::Left},
     }};
 
-    /// Removes all words. The heading becomes the current row, and the sort mark stays.
+    WordsGrid() = default;
+    WordsGrid(const WordsGrid&) = default;
+    /// Takes the rows of another grid; the revision goes on from this one's.
+    WordsGrid& operator=(const WordsGrid& other);
+
+    /// Leaves the heading row alone and makes it the current row. The sort mark stays.
     void clear();
 
     /// Adds a row below all others, or directly below the heading.
     void add(WordsRow row);
     void insertOnTop(WordsRow row);
 
-    /// The number of rows including the heading: 1 for an empty grid.
+    /// Takes rows as they stand, with their numbers, the topmost first; the heading is the current row.
+    void assign(std::vector<WordsRow> rows);
+
+    /// The number of rows, the heading counted: 1 for an empty grid.
     [[nodiscard]] int Rows() const { return static_cast<int>(rows_.size()) + 1; }
 
     /// A word's row, 1 to Rows - 1. Throws std::out_of_range otherwise.
@@ -78,6 +88,12 @@ public:
 
     /// Increases with every visible change: a front end refills its table when it differs.
     [[nodiscard]] std::uint32_t revision() const { return revision_; }
+
+    /// The same rows in the same order, the same current one and the same sort mark.
+    friend bool operator==(const WordsGrid& a, const WordsGrid& b)
+    {
+        return a.rows_ == b.rows_ && a.row_ == b.row_ && a.Tag == b.Tag;
+    }
 
 private:
     std::vector<WordsRow> rows_; ///< without the heading

@@ -90,6 +90,23 @@ void Dictionary::replaceCodedLines(WordList decoded)
     holdsCodedLines_ = false;
 }
 
+/// 64-bit FNV-1a over the words, a line feed behind each. Of 200,000 words it takes a few milliseconds, so it is kept
+/// until they change.
+std::uint64_t Dictionary::fingerprint() const
+{
+    if (fingerprint_ != 0 && fingerprinted_.isCopyOf(words))
+        return fingerprint_;
+    std::uint64_t hash = 14'695'981'039'346'656'037U;
+    const auto add = [&hash](char c) { hash = (hash ^ static_cast<unsigned char>(c)) * 1'099'511'628'211U; };
+    for (int i = 1; i <= words.count(); ++i) {
+        for (const char c : words.entry(i))
+            add(c);
+        add('\n');
+    }
+    fingerprinted_ = words;
+    return fingerprint_ = hash;
+}
+
 bool Dictionary::exportWords(Dialogs& dialogs, Random& random, const Clock& clock)
 {
     try {

@@ -8,6 +8,7 @@
 #include "platform/status_line.hpp"
 
 #include <array>
+#include <cstdint>
 #include <string>
 
 namespace lexigrove
@@ -64,7 +65,10 @@ public:
     /// Replaces the coded lines of the loaded level's file with its words.
     void replaceCodedLines(WordList decoded);
 
-    /// The dictionary file table: 0 the user dictionary, 1 to 3 the levels. Names without a folder are in the program
+    /// A number for the loaded words, the same for the same words on every machine.
+    [[nodiscard]] std::uint64_t fingerprint() const;
+
+    /// The dictionary file table: 0 the user dictionary, 1 to 3 the levels. Names without a folder lie in the program
     /// folder.
     std::array<std::string, 4> fileTable;
 
@@ -88,6 +92,8 @@ private:
     int redThreshold_ = 500;
     std::string caption_;
     bool holdsCodedLines_ = false;
+    mutable WordList fingerprinted_; ///< the words that `fingerprint_` is of
+    mutable std::uint64_t fingerprint_ = 0;
 };
 
 } // namespace lexigrove

@@ -13,23 +13,29 @@ enum class When {
 
 /// The inputs without arguments, which menus, buttons, keys and console commands offer.
 enum class Command {
-    NewGame,     ///< from the menu, with its questions
-    Pause,       ///< pauses or resumes
-    Sound,       ///< switches the sound on or off
-    Exit,        ///< offers the score, saves the configuration and ends the program; closing the window does the same
-    EnterWord,   ///< `EnterWord`
-    ClearWord,   ///< Esc: cancels a letter swap, else clears the path
-    TakeBack,    ///< removes the last tile from the path
-    GetHint,     ///< `Hintx`
-    CheckWord,   ///< `CheckDict`
-    ShowMeaning, ///< of the current word of `WordsMade`
-    AddWord,     ///< opens the maintenance window with the selected word
-    TopTen,      ///< shows the top ten
-    Statistics,  ///< `showstatx`
-    Help,        ///< `Helpx`
-    About,       ///< shows the about box
-    AskPassword, ///< F1: the developer's password
-    ExportWords, ///< see `Dictionary::exportWords`
+    NewGame,      ///< from the menu, with its questions
+    Daily,        ///< the board of the day, with the questions of a new game
+    CopyBoard,    ///< the board that the game began with, as a line of text on the clipboard
+    SharedBoard,  ///< asks for such a line and plays its board, with the questions of a new game
+    PastGames,    ///< shows the games that are over
+    LookBack,     ///< shows the last game that is over
+    KeepForLater, ///< leaves the program and keeps the game for the next start
+    Pause,        ///< pauses and resumes
+    Sound,        ///< switches the sound on or off
+    Exit,         ///< offers the score, saves the configuration and ends the program; closing the window does the same
+    EnterWord,    ///< `EnterWord`
+    ClearWord,    ///< Esc: cancels a letter swap, else clears the path
+    TakeBack,     ///< takes the last tile off the path
+    GetHint,      ///< `Hintx`
+    CheckWord,    ///< `CheckDict`
+    ShowMeaning,  ///< of the current word of `WordsMade`
+    AddWord,      ///< opens the maintenance window with the selected word
+    TopTen,       ///< shows the top ten
+    Statistics,   ///< `showstatx`
+    Help,         ///< `Helpx`
+    About,        ///< shows the about box
+    AskPassword,  ///< F1: the developer's password
+    ExportWords,  ///< see `Dictionary::exportWords`
 };
 
 /// The keys that set the drop-animation delay in developer mode.

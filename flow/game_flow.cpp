@@ -14,7 +14,7 @@ namespace
 
 GameView viewOf(const GameParts& p)
 {
-    return {p.game.state, p.game.board, p.game.selection, p.game.supply, p.game.dropRow, p.letterSwap,
+    return {p.game.state, p.game.board, p.game.selection, p.game.supply, p.game.dropRow, p.game.letterSwap,
             p.hintsForm,  p.options,    p.dictionary,     p.scheme,      p.sounds,       p.Dc1};
 }
 
@@ -144,16 +144,23 @@ void GameFlow::showOptions()
 {
     inGame_ = false;
     showWallClock();
-    parts_->options.open();
-    parts_->ports.windows.show(parts_->options);
-    if (parts_->options.answer() == OptionsForm::Answer::Exit)
-        leave();
+    OptionsForm& options = parts_->options;
+    do {
+        options.open(lastRecord_.empty() ? OptionsForm::LookBack::Hidden : OptionsForm::LookBack::Offered);
+        parts_->ports.windows.show(options);
+        if (options.answer() == OptionsForm::Answer::Exit)
+            leave();
+        if (options.answer() == OptionsForm::Answer::LookBack)
+            lookBack();
+    } while (options.answer() != OptionsForm::Answer::Start);
+    parts_->configuration.saveQuietly();
 }
 
 void GameFlow::clearGame()
 {
+    forgetSavedGame();
     resume();
-    parts_->letterSwap.cancel();
+    parts_->game.letterSwap.cancel();
     parts_->game.selection.clear();
     parts_->game.board.clear();
     parts_->game.supply.RandomLetters.clear();
@@ -167,20 +174,27 @@ void GameFlow::beginGame()
     p.services.choose(p.options);
     p.game.state.resetForNewGame();
     p.game.state.computerGame = p.options.isComputerGame();
+    p.game.state.kind = p.options.settings.presetLetters.areWaiting() ? GameKind::Preset : GameKind::Normal;
     p.maintenance.reset();
     p.dictionary.read(p.ports.dialogs, p.ports.status, p.ports.random, p.ports.clock);
     p.game.board.layOut(p.options.isSquare() ? Arrangement::Square : Arrangement::Staggered);
     p.game.supply.dealLetters();
     p.game.refreshLooks();
-    if (p.game.state.computerGame) {
+    if (p.game.state.computerGame)
         p.options.settings.presetLetters.markUnrecorded();
-        p.Dc1.ShowTimeOnly(false);
-        p.Dc1.ClockStartValue(gameSeconds);
-        p.Dc1.StartCountdown();
-    } else {
+    gameBegun();
+}
+
+/// Counts down in a game against the computer; in a solo game it goes on showing the time of day.
+void GameFlow::startClock(int seconds)
+{
+    if (!parts_->game.state.computerGame) {
         showWallClock();
+        return;
     }
-    inGame_ = true;
+    parts_->Dc1.ShowTimeOnly(false);
+    parts_->Dc1.ClockStartValue(static_cast<std::int16_t>(seconds));
+    parts_->Dc1.StartCountdown();
 }
 
 /// Shows the time of day at once, as the clock does between games and in a solo game.
@@ -197,11 +211,19 @@ void GameFlow::showWallClock()
 
 void GameFlow::newGame()
 {
+    if (giveUpGame())
+        anotherGame();
+}
+
+/// The questions before a game makes room for another one. False when it goes on; else it is cleared.
+bool GameFlow::giveUpGame()
+{
     GameParts& p = *parts_;
     p.sounds.play(cue::menu);
     if (p.game.state.wordsMade > 0) {
         if (!p.ports.dialogs.confirm("Do you wish to reset?"))
-            return;
+            return false;
+        recordGame(GameEnd::NewGame);
         PresetLetters& preset = p.options.settings.presetLetters;
         if (preset.isNormalGame()) {
             preset.markUnrecorded(); // offered once: leaving does not record the score a second time
@@ -209,7 +231,9 @@ void GameFlow::newGame()
                 leave();
         }
     }
-    anotherGame();
+    p.options.settings.presetLetters.clear();
+    clearGame();
+    return true;
 }
 
 /// Clears the board and all counts of the game, lets the player choose options, and starts a game.
@@ -226,12 +250,13 @@ void GameFlow::loseGame(int col)
     parts_->game.redTiles.pushOutRedTile(col);
     parts_->ports.status.show("A red tile was pushed out. Game over.");
     parts_->ports.screen.yield();
-    endOfGame();
+    endOfGame(GameEnd::Lost);
 }
 
-void GameFlow::endOfGame()
+void GameFlow::endOfGame(GameEnd end)
 {
     GameParts& p = *parts_;
+    recordGame(end);
     p.sounds.play(cue::menu);
     PresetLetters& preset = p.options.settings.presetLetters;
     if (preset.isNormalGame()) {
@@ -256,11 +281,11 @@ void GameFlow::clockExpired()
 {
     if (!inGame_ || !parts_->game.state.computerGame)
         return;
-    parts_->Dc1.SuspendCountDown(); // reported once
-    parts_->letterSwap.cancel();
+    parts_->Dc1.SuspendCountDown(); // told once
+    parts_->game.letterSwap.cancel();
     parts_->ports.dialogs.message("Game over\r\n5 minutes have elapsed");
     showWinner(parts_->game.state, parts_->ports.status);
-    endOfGame();
+    endOfGame(GameEnd::ClockExpired);
 }
 
 /// Leaving continues whatever happens to its questions: one that is closed counts as declined.
@@ -277,6 +302,8 @@ void GameFlow::leave()
         if (parts_->options.settings.presetLetters.isNormalGame())
             offerScore(*parts_);
     });
+    recordGame(GameEnd::Left);
+    forgetSavedGame();
     despiteLeaving([this] { parts_->configuration.save(); });
     parts_->sounds.play(cue::thanks);
     throw ProgramEnd();

@@ -2,6 +2,7 @@
 
 #include "controls/mouse_button.hpp"
 #include "flow/command.hpp"
+#include "game/position.hpp"
 
 #include <memory>
 #include <optional>
@@ -11,6 +12,7 @@ namespace lexigrove
 {
 
 class Board;
+enum class GameEnd;
 class ColourScheme;
 class Dc;
 class Dictionary;
@@ -21,7 +23,6 @@ class LetterSwap;
 class OptionsForm;
 class Selection;
 class SoundCues;
-enum class Arrangement;
 struct GameParts;
 struct GameState;
 struct Ports;
@@ -66,8 +67,14 @@ public:
     void startUp(std::optional<Arrangement> arrangement = {});
     /// Shows the options dialog and starts a game with its choices.
     void openOptionsAndStart();
-    /// Starts a game with the current choices, without the options dialog.
+    /// Offers to continue the game that was kept; else as `openOptionsAndStart`.
+    void openOrContinue();
+    /// Starts a game with the choices as they stand, without the options dialog.
     void startGame();
+    /// Starts a game from a position, which is not recorded among the scores.
+    void playPosition(const BoardPosition& board);
+    /// Continues the game that was kept, after its question.
+    void continueGame();
     [[nodiscard]] bool ended() const { return ended_; }   ///< the program is over: the front end closes
     [[nodiscard]] bool inGame() const { return inGame_; } ///< once a game has started
     [[nodiscard]] bool isPaused() const { return paused_; }
@@ -87,13 +94,23 @@ public:
     void sortWordsMade(int x);                  ///< a click on its headings, in its units
     void releaseClockFrame(MouseButton button); ///< released over `Frame10`
     void releaseDeveloperKey(DeveloperKey key);
+    void playShared(const std::string& text); ///< a board that `GameState::start` of another game gave
     void tick(Timer timer);
     void clockGotFocus(); ///< which counts as its expiry
 
     // Views
 
     [[nodiscard]] const GameView& view() const { return view_; }
+    [[nodiscard]] Position position() const;
     [[nodiscard]] std::string pauseCaption() const; ///< "Paused" or empty, as it blinks
+
+    // The game is kept in a file
+
+    /// Whether games are kept; off for a second program that plays in the same folder.
+    enum class Keeping { On, Off };
+    void setKeeping(Keeping keeping) { keeping_ = keeping; }
+    /// Writes the file of the game when an input has changed it; for a front end to call when it is idle.
+    void saveIfChanged();
 
 private:
     friend class Study;
@@ -106,13 +123,26 @@ private:
     void endInput();
 
     void beginGame();
+    void beginFrom(const BoardPosition& board, GameKind kind);
+    void gameBegun();
     void clearGame();
+    bool giveUpGame();
+    void askForSharedBoard();
+    bool beginShared(const std::string& text);
+    void recordGame(GameEnd end);
+    void lookBack();
+    bool continueKept();
+    void continueFrom(const Position& position);
+    void keepForLater();
+    void forgetSavedGame();
+    void playDaily();
+    void startClock(int seconds);
     void showOptions();
     void anotherGame();
     void newGame();
     void showWallClock();
     void loseGame(int col);
-    void endOfGame();
+    void endOfGame(GameEnd end);
     void clockExpired();
     void prepareWindow();
     void pauseOrResume();
@@ -121,6 +151,9 @@ private:
 
     const std::unique_ptr<GameParts> parts_;
     const GameView view_;
+    std::optional<Position> saved_; ///< the file's, without what time alone changes
+    std::string lastRecord_;        ///< the file of the game that was over last, empty for none
+    Keeping keeping_ = Keeping::On;
     bool busy_ = false;
     bool ended_ = false;
     bool inGame_ = false;

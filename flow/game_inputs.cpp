@@ -27,14 +27,29 @@ const GameFlow::Entry& GameFlow::entryOf(Command command)
     using enum Entry::Swap;
     static constexpr std::array entries{
         Entry{Command::NewGame, When::NotPaused, Ends, [](Flow& flow, Parts&) { flow.newGame(); }},
+        Entry{Command::Daily, When::NotPaused, Ends, [](Flow& flow, Parts&) { flow.playDaily(); }},
+        Entry{Command::CopyBoard, When::InGame, Ends,
+              [](Flow&, Parts& p) {
+                  p.ports.screen.copyText(p.game.state.start);
+                  p.ports.status.show("The board that this game began with is on the clipboard");
+              }},
+        Entry{Command::SharedBoard, When::NotPaused, Ends, [](Flow& flow, Parts&) { flow.askForSharedBoard(); }},
+        Entry{Command::PastGames, When::NotPaused, Ends,
+              [](Flow& flow, Parts& p) {
+                  flow.prepareWindow();
+                  p.pastGames.activate(p.ports.clock.today());
+                  p.ports.windows.show(p.pastGames);
+              }},
+        Entry{Command::LookBack, When::NotPaused, Ends, [](Flow& flow, Parts&) { flow.lookBack(); }},
+        Entry{Command::KeepForLater, When::InGame, Ends, [](Flow& flow, Parts&) { flow.keepForLater(); }},
         Entry{Command::Pause, When::InGame, Ends, [](Flow& flow, Parts&) { flow.pauseOrResume(); }},
         Entry{Command::Sound, When::Always, Ends, [](Flow&, Parts& p) { p.options.soundButton(); }},
         Entry{Command::Exit, When::Always, Stays, [](Flow& flow, Parts&) { flow.leave(); }},
         Entry{Command::EnterWord, When::InPlay, Ends, [](Flow&, Parts& p) { enterWord(p.game, p.computerTurn); }},
         Entry{Command::ClearWord, When::InPlay, Stays,
               [](Flow&, Parts& p) {
-                  if (p.letterSwap.isPending())
-                      p.letterSwap.cancel();
+                  if (p.game.letterSwap.isPending())
+                      p.game.letterSwap.cancel();
                   else
                       p.game.selection.clear();
               }},
@@ -98,7 +113,7 @@ void GameFlow::perform(Command command)
     const Entry& entry = entryOf(command);
     input(entry.when, [&](GameParts& p) {
         if (entry.swap == Entry::Swap::Ends)
-            p.letterSwap.cancel();
+            p.game.letterSwap.cancel();
         entry.run(*this, p);
     });
 }
@@ -110,12 +125,12 @@ void GameFlow::clickTile(int tile, MouseButton button, bool shift)
     input(When::InPlay, [=](GameParts& p) {
         if (!p.game.board.isVisible(tile))
             return;
-        const bool again = p.letterSwap.isPending() && p.letterSwap.tile() == tile;
+        const bool again = p.game.letterSwap.isPending() && p.game.letterSwap.tile() == tile;
         if (shift || again) {
-            p.letterSwap.request(tile);
+            p.game.letterSwap.request(tile);
             return;
         }
-        p.letterSwap.cancel();
+        p.game.letterSwap.cancel();
         if (button == MouseButton::Right && p.game.selection.entryPending) {
             p.game.selection.entryPending = false;
             enterWord(p.game, p.computerTurn);
@@ -139,8 +154,8 @@ void GameFlow::hoverTile(int tile)
 void GameFlow::drop(int col)
 {
     input(When::InPlay, [=](GameParts& p) {
-        if (p.letterSwap.isPending())
-            p.letterSwap.exchange(col);
+        if (p.game.letterSwap.isPending())
+            p.game.letterSwap.exchange(col);
         else if (p.game.board.waiting(col).Visible())
             p.game.dropRow.dropIntoColumn(col);
     });
@@ -149,7 +164,7 @@ void GameFlow::drop(int col)
 void GameFlow::typeLetter(char letter)
 {
     input(When::InPlay, [=](GameParts& p) {
-        p.letterSwap.cancel(); // typing counts as another action
+        p.game.letterSwap.cancel(); // typing is another action
         extendWord(p.game, letter);
     });
 }
@@ -157,7 +172,7 @@ void GameFlow::typeLetter(char letter)
 void GameFlow::typeWord(const std::string& word)
 {
     input(When::InPlay, [&](GameParts& p) {
-        p.letterSwap.cancel();
+        p.game.letterSwap.cancel();
         for (const char letter : word) {
             if (!extendWord(p.game, letter))
                 return;
@@ -173,7 +188,7 @@ void GameFlow::pickWord(int row)
 void GameFlow::sortWordsMade(int x)
 {
     input(When::InPlay, [=](GameParts& p) {
-        p.letterSwap.cancel();
+        p.game.letterSwap.cancel();
         p.game.state.WordsMade.headingClicked(x);
     });
 }
@@ -183,7 +198,7 @@ void GameFlow::releaseClockFrame(MouseButton button)
     if (button == MouseButton::Middle)
         return;
     input(When::Always, [=](GameParts& p) {
-        p.letterSwap.cancel();
+        p.game.letterSwap.cancel();
         frame10Released(p.Dc1, button);
     });
 }
@@ -251,7 +266,7 @@ void GameFlow::tick(Timer timer)
         input(When::InPlay, [this](GameParts& p) {
             const RedTiles::PushResult push = p.game.redTiles.pushTimerTick();
             if (push.outcome == RedTiles::Push::Pushed)
-                p.letterSwap.cancel();
+                p.game.letterSwap.cancel();
             if (push.outcome == RedTiles::Push::Lost)
                 loseGame(push.col);
         });
@@ -261,6 +276,8 @@ void GameFlow::tick(Timer timer)
         // it is raised again at every tick.
         if (parts_->Dc1.tick(parts_->ports.clock.secondsSinceMidnight()))
             input(When::Always, [this](GameParts& /*parts*/) { clockExpired(); });
+        if (inGame_ && !paused_)
+            ++parts_->game.state.secondsPlayed;
         parts_->ports.screen.inputEnded();
         break;
     case Timer::Pause:

@@ -3,11 +3,14 @@
 #include "controls/dc.hpp"
 #include "dictionary/maintenance.hpp"
 #include "game/game.hpp"
-#include "game/letter_swap.hpp"
 #include "opponent/board_search.hpp"
 #include "opponent/computer_turn.hpp"
 #include "opponent/hints.hpp"
 #include "platform/ports.hpp"
+#include "record/past_games.hpp"
+#include "record/record_folder.hpp"
+#include "record/review_lists.hpp"
+#include "record/saved_game_file.hpp"
 #include "scores/score_file.hpp"
 #include "scores/score_form.hpp"
 #include "scores/statistics_form.hpp"
@@ -35,17 +38,20 @@ struct GameParts {
     OptionsForm options{{ports.dialogs, ports.screen, dictionary, scheme, sounds, folder}};
     Dc Dc1;
     Game game{ports, dictionary, sounds, scheme, options};
-    LetterSwap letterSwap{game};
     MeaningServices services{folder};
     ScoreFile scoreFile{folder, ports.dialogs};
     ScoreForm scoreForm{scoreFile, ports.dialogs};
     StatisticsForm statisticsForm{game.state.statistics};
     DictionaryMaintenance maintenance{dictionary, ports.dialogs, ports.screen, ports.clock};
+    SavedGameFile savedGame{folder};
+    RecordFolder records{folder};
     BoardSearch search;
     ComputerTurn computerTurn{game, search, Dc1};
     Meanings meanings{game.state, ports.status, sounds, services, ports.windows};
     HintsForm hintsForm{game, meanings};
     Hints hints{game, search, computerTurn, hintsForm};
+    ReviewLists reviewLists{folder};
+    PastGamesForm pastGames{folder, reviewLists, meanings};
     Configuration configuration{{ports.dialogs, ports.clock, options, Dc1, scheme, dictionary, folder}};
 };
 

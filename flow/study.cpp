@@ -6,28 +6,6 @@
 namespace lexigrove
 {
 
-namespace
-{
-
-/// Updates the counts that follow from the tiles, and the tiles' looks.
-void recount(Game& game)
-{
-    GameState& state = game.state;
-    state.redTilesOnBoard = 0;
-    state.bonusTilesOnBoard = 0;
-    for (int tile = 1; tile <= Board::tileCount; ++tile) {
-        if (!game.board.isVisible(tile))
-            continue;
-        if (game.board.maskcolor(tile) == multiplier::red)
-            ++state.redTilesOnBoard;
-        else if (multiplier::isBonus(game.board.maskcolor(tile)))
-            ++state.bonusTilesOnBoard;
-    }
-    game.refreshLooks();
-}
-
-} // namespace
-
 void Study::setDeveloperMode(bool on)
 {
     flow_.input(When::Always, [=](GameParts& p) { p.game.state.developerMode = on; });
@@ -36,23 +14,25 @@ void Study::setDeveloperMode(bool on)
 void Study::editTile(int tile, const std::string& letter, Colour maskcolor)
 {
     flow_.input(When::InGame, [&](GameParts& p) {
-        p.letterSwap.cancel();
+        p.game.letterSwap.cancel();
         BoxControl& control = p.game.board.tile(tile);
         if (p.game.selection.contains(tile))
             p.game.selection.clear(); // the path keeps the letter as it was clicked
         control.Caption(letter);
         control.MaskColor(maskcolor);
         control.Visible(!letter.empty());
-        recount(p.game);
+        p.game.countSpecialTiles();
+        p.game.refreshLooks();
     });
 }
 
 void Study::editWaiting(int col, const std::string& letter)
 {
     flow_.input(When::InGame, [&](GameParts& p) {
-        p.letterSwap.cancel();
+        p.game.letterSwap.cancel();
         p.game.supply.waitAtHome(col, letter);
-        recount(p.game);
+        p.game.countSpecialTiles();
+        p.game.refreshLooks();
     });
 }
 
@@ -119,7 +99,7 @@ const CandidateList& Study::sweep()
 void Study::computerTurn()
 {
     flow_.input(When::InPlay, [](GameParts& p) {
-        p.letterSwap.cancel();
+        p.game.letterSwap.cancel();
         p.computerTurn.take();
     });
 }

@@ -2,6 +2,7 @@
 
 #include "controls/box_control.hpp"
 #include "controls/multiplier.hpp"
+#include "game/arrangement.hpp"
 #include "game/neighbours.hpp"
 
 #include <array>
@@ -9,8 +10,6 @@
 
 namespace lexigrove
 {
-
-enum class Arrangement { Square, Staggered };
 
 /// Waiting tiles and board share one coordinate system, in units (see controls/geometry.hpp).
 namespace layout

@@ -5,6 +5,7 @@
 #include "game/drop_row.hpp"
 #include "game/game_state.hpp"
 #include "game/letter_supply.hpp"
+#include "game/letter_swap.hpp"
 #include "game/red_tiles.hpp"
 #include "game/selection.hpp"
 #include "game/tile_look.hpp"
@@ -43,6 +44,10 @@ struct Game {
     DropRow dropRow{*this};
     WordEntry wordEntry{*this};
     RedTiles redTiles{*this};
+    LetterSwap letterSwap{*this};
+
+    /// Takes the counts of red and bonus tiles from the board.
+    void countSpecialTiles();
 
     /// Gives a tile its look in the current scheme: that of the path for a tile in it, else that of its multiplier.
     void refreshLook(int tile);

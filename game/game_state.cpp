@@ -2,30 +2,21 @@
 
 #include <cstdint>
 #include <limits>
+#include <utility>
 
 namespace lexigrove
 {
 
 void GameState::resetForNewGame()
 {
-    yourScore = 0;
-    compScore = 0;
-    prompt = Prompt::None;
-    currScore.reset();
-    letterDraw = LetterDraw::NotDealt;
-    hoveredTile = 0;
-    WordsMade.clear();
-    computerTurnInProgress = false;
-
-    statistics.reset();
-    bonusTilesOnBoard = 0;
-    redTilesOnBoard = 0;
-    redTilesUsed = 0;
-    wordsMade = 0;
-    hintsUsed = 0;
-    tickCount = 0;
-    pressure = 0;
-    lastPressure = 0;
+    GameState fresh;
+    fresh.developerMode = developerMode;
+    fresh.kind = kind;
+    fresh.computerGame = computerGame;
+    fresh.redTileHold = redTileHold;
+    fresh.WordsMade = WordsMade; // with its sort mark
+    fresh.WordsMade.clear();
+    *this = std::move(fresh);
 }
 
 std::string GameState::tilesLeftText() const

@@ -62,7 +62,7 @@ void LetterSupply::dealLetters()
 
     fillTopRow();
     game_.state.letterDraw = LetterDraw::Going;
-    game_.state.tilesLeft = staggered ? 32 : 24;
+    game_.state.tilesLeft = startCount(game_.board.arrangement());
     game_.state.bonusTilesOnBoard = 0;
     game_.state.redTilesOnBoard = 0;
 }

@@ -1,5 +1,7 @@
 #include "game/letter_swap.hpp"
 
+#include "game/game.hpp"
+
 namespace lexigrove
 {
 

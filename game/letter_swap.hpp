@@ -1,9 +1,9 @@
 #pragma once
 
-#include "game/game.hpp"
-
 namespace lexigrove
 {
+
+struct Game;
 
 /// Exchanges the letter of a board tile with a waiting one, for ten points.
 class LetterSwap
@@ -23,6 +23,9 @@ public:
 
     /// Removes the mark, at no cost.
     void cancel();
+
+    /// Marks a tile, 0 for none, without asking for its price.
+    void mark(int tile) { tile_ = tile; }
 
     [[nodiscard]] bool isPending() const { return tile_ != 0; }
     /// The marked tile, 0 for none.

@@ -50,6 +50,7 @@ void RedTiles::makeRedTile()
     countUp(game_.state.redTilesOnBoard);
     game_.board.tile(tile).MaskColor(multiplier::red);
     game_.refreshLook(tile);
+    countUp(game_.state.redTilesMade);
     game_.dictionary.setRedThreshold(game_.dictionary.redThreshold() - 1);
 }
 
@@ -87,6 +88,7 @@ void RedTiles::pushOutRedTile(int col)
 void RedTiles::pushColumn(int col)
 {
     game_.selection.clear();
+    countUp(game_.state.pushes);
     game_.removal.moveColumnDown(game_.board.columnHeight(col), col);
 }
 

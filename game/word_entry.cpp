@@ -1,6 +1,8 @@
 #include "game/word_entry.hpp"
 
 #include "game/game.hpp"
+#include "game/position.hpp"
+#include "platform/leaving.hpp"
 
 #include <algorithm>
 
@@ -21,9 +23,17 @@ EnterResult WordEntry::enterWord()
     }
 
     game_.state.redTileHold = true;
+    Turn turn = turnOf(game_, Maker::Player);
     defuseRedTiles();
     const WordScore score = wordScore(game_.selection, game_.board);
-    game_.removal.removePathTiles();
+    turn.score = score.score;
+    game_.state.turns.push_back(std::move(turn));
+    try {
+        game_.removal.removePathTiles();
+    } catch (const Leaving&) {
+        game_.state.yourScore += score.score; // the word was made, and whoever leaves now keeps its points
+        throw;
+    }
     game_.state.bonusTilesOnBoard -= score.bonusCount;
     if (word.size() > 5)
         game_.sounds.play(cue::longWord);

@@ -1,5 +1,7 @@
 #include "opponent/computer_turn.hpp"
 
+#include "game/position.hpp"
+
 #include <algorithm>
 
 namespace lexigrove
@@ -49,7 +51,7 @@ int ComputerTurn::choosePosition(const CandidateList& candidates) const
     }
     const int position =
         strategy == Strategy::LongestWord ? candidates.bestLengthPosition() : candidates.bestScorePosition();
-    return std::max(1, position); // no candidate is best if none scores: letters outside A to Z have no value
+    return std::max(1, position); // no candidate is best where none scores: letters outside A to Z have no value
 }
 
 void ComputerTurn::showSelected(std::span<const std::uint8_t> path)
@@ -63,8 +65,10 @@ void ComputerTurn::showSelected(std::span<const std::uint8_t> path)
 void ComputerTurn::play()
 {
     const std::string word = game_.selection.word();
-    game_.removal.removePathTiles();
     const int score = letterSum(word);
+    game_.state.turns.push_back(turnOf(game_, Maker::Computer));
+    game_.state.turns.back().score = score;
+    game_.removal.removePathTiles();
     game_.state.compScore += score;
     game_.state.WordsMade.insertOnTop({.score = score, .word = word, .maker = Maker::Computer});
     refillBoard();

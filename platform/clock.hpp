@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <string>
 
 namespace lexigrove
@@ -13,6 +14,9 @@ public:
 
     /// Local time of day in seconds since midnight, in [0, 86,400), with the full resolution of the machine's clock.
     [[nodiscard]] virtual double secondsSinceMidnight() const = 0;
+
+    /// The current local date.
+    [[nodiscard]] virtual std::chrono::year_month_day today() const;
 
     /// The current date and the current time in the system's short forms.
     [[nodiscard]] virtual std::string shortDate() const = 0;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 namespace lexigrove
 {
 
@@ -25,6 +27,11 @@ public:
 
     /// Processes events until a key or a mouse button is pressed; that input has no other effect.
     virtual void waitForAnyInput() = 0;
+
+    /// Must not throw. Puts a text in UTF-8 on the clipboard.
+    virtual void copyText(const std::string& text) = 0;
+    /// Must not throw. The text on the clipboard in UTF-8, empty where there is none.
+    [[nodiscard]] virtual std::string copiedText() const = 0;
 
     /// Must not throw. An input or a tick of the game has ended: the models may differ from what is shown.
     virtual void inputEnded() = 0;

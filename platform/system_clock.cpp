@@ -43,6 +43,12 @@ std::string shortTimeOf(const std::tm& time)
 
 } // namespace
 
+std::chrono::year_month_day Clock::today() const
+{
+    const std::tm local = localTime(SystemTime::now());
+    return std::chrono::year(local.tm_year + 1900) / (local.tm_mon + 1) / local.tm_mday;
+}
+
 double SystemClock::secondsSinceMidnight() const
 {
     const SystemTime::time_point now = SystemTime::now();

@@ -135,12 +135,13 @@ public:
             throw FileError("Cannot write the file", target_, errno);
     }
 
-    void write(std::string_view bytes) const
+    void write(std::string_view bytes, Durability durability) const
     {
         if (::ftruncate(descriptor_.get(), 0) != 0)
             throw FileError("Cannot write the file", target_, errno);
         writeAll(descriptor_.get(), bytes, target_);
-        flush(descriptor_.get(), target_);
+        if (durability == Durability::Flushed)
+            flush(descriptor_.get(), target_);
     }
 
     void renameOverTarget()
@@ -228,7 +229,7 @@ std::vector<std::string> readLines(const std::string& path)
     return {lines.begin(), lines.end()};
 }
 
-void replaceFile(const std::string& path, std::string_view bytes)
+void replaceFile(const std::string& path, std::string_view bytes, Durability durability)
 {
     const std::string target = followLinks(path);
     struct stat old = {};
@@ -241,8 +242,10 @@ void replaceFile(const std::string& path, std::string_view bytes)
     TemporaryFile temporary(target);
     if (exists)
         temporary.copyPermissionsOf(old);
-    temporary.write(bytes);
+    temporary.write(bytes, durability);
     temporary.renameOverTarget();
+    if (durability == Durability::Written)
+        return;
 
     // Syncing the folder is best effort.
     const Descriptor folder(::open(folderOf(target).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));

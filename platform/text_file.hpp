@@ -26,9 +26,13 @@ std::vector<std::string_view> splitLines(std::string_view text);
 /// `readFile` followed by `splitLines`, with owned lines.
 std::vector<std::string> readLines(const std::string& path);
 
+/// How safe new contents are when `replaceFile` returns. Written ones survive the end of the program, flushed ones that
+/// of the machine as well, which takes as long as the disk does.
+enum class Durability { Flushed, Written };
+
 /// Replaces the file whole or not at all: writes a temporary file beside it, flushes it to the disk and renames it over
-/// the target. After a failure (FileError) or a crash at any moment the old file is intact.
-void replaceFile(const std::string& path, std::string_view bytes);
+/// the target. After a failure (FileError) or a crash at any moment the old file stands as it was.
+void replaceFile(const std::string& path, std::string_view bytes, Durability durability = Durability::Flushed);
 
 /// `replaceFile` of the lines, each ended by CR LF.
 void replaceLines(const std::string& path, const std::vector<std::string>& lines);

@@ -157,6 +157,12 @@ void Configuration::setDefaults()
 
 void Configuration::save()
 {
+    if (!write())
+        context_.dialogs.message("Configuration file:\r\n" + path_ + "\r\ncould not be accessed, options not saved");
+}
+
+bool Configuration::write()
+{
     OptionsForm& options = context_.options;
     const auto& files = context_.dictionary.fileTable;
     std::vector<std::string> lines{context_.clock.shortDate() + " " + context_.clock.shortTime(),
@@ -175,8 +181,9 @@ void Configuration::save()
         line = oneLine(line);
     try {
         replaceLines(path_, lines);
+        return true;
     } catch (const FileError&) {
-        context_.dialogs.message("Configuration file:\r\n" + path_ + "\r\ncould not be accessed, options not saved");
+        return false;
     }
 }
 

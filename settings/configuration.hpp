@@ -38,10 +38,13 @@ public:
 
     /// Writes the whole file. A failure shows a message and leaves the old file.
     void save();
+    /// The same, without a word when it fails.
+    void saveQuietly() { (void)write(); }
 
     [[nodiscard]] const std::string& path() const { return path_; }
 
 private:
+    bool write();
     bool read(Colour windowBackground, Colour list1Background);
     void readCustomDictionary(const std::string& line);
     void setDefaults();

@@ -196,8 +196,9 @@ void OptionsForm::soundButton()
     }
 }
 
-void OptionsForm::open()
+void OptionsForm::open(LookBack lookBack)
 {
+    lookBack_ = lookBack;
     answer_ = Answer::None;
     visible_ = true;
 }

@@ -34,7 +34,9 @@ struct OptionsContext {
 class OptionsForm
 {
 public:
-    enum class Answer { None, Start, Exit };
+    enum class Answer { None, Start, Exit, LookBack };
+    /// Whether the dialog offers to look back on the game that is just over.
+    enum class LookBack { Hidden, Offered };
 
     explicit OptionsForm(const OptionsContext& context);
     OptionsForm(const OptionsForm&) = delete;
@@ -76,9 +78,12 @@ public:
     /// `Startx` and `Exitx`: hide the dialog with this answer. The flow does the saving and leaving.
     void pressStart() { hide(Answer::Start); }
     void pressExit() { hide(Answer::Exit); }
+    /// Looks back on the last game; the dialog is shown again afterwards.
+    void pressLookBack() { hide(Answer::LookBack); }
 
-    /// Called before the dialog is shown; clears the answer.
-    void open();
+    /// Called before the dialog is shown; empties the answer.
+    void open(LookBack lookBack = LookBack::Hidden);
+    [[nodiscard]] bool offersLookBack() const { return lookBack_ == LookBack::Offered; }
     [[nodiscard]] bool isVisible() const { return visible_; }
     [[nodiscard]] Answer answer() const { return answer_; }
 
@@ -160,6 +165,7 @@ private:
     OptionsContext context_;
     bool visible_ = false;
     Answer answer_ = Answer::None;
+    LookBack lookBack_ = LookBack::Hidden;
 };
 
 } // namespace lexigrove

@@ -13,6 +13,11 @@ GameWindows::GameWindows(Host& host) : host_(host), browser_(std::make_unique<Br
 
 GameWindows::~GameWindows() = default;
 
+void GameWindows::show(ContinueForm& form)
+{
+    runContinueDialog(host_, form);
+}
+
 void GameWindows::show(OptionsForm& form)
 {
     runOptionsDialog(host_, form);
@@ -36,6 +41,16 @@ void GameWindows::show(const MeaningForm& form)
 void GameWindows::show(const StatisticsForm& form)
 {
     runStatisticsDialog(host_, form);
+}
+
+void GameWindows::show(PastGamesForm& form)
+{
+    runPastGamesDialog(host_, form);
+}
+
+void GameWindows::show(ReviewForm& form)
+{
+    runReviewDialog(host_, form);
 }
 
 void GameWindows::show(DictionaryMaintenance& form)

@@ -20,11 +20,14 @@ public:
     GameWindows(const GameWindows&) = delete;
     GameWindows& operator=(const GameWindows&) = delete;
 
+    void show(ContinueForm& form) override;
     void show(OptionsForm& form) override;
     void show(ScoreForm& form) override;
     void show(HintsForm& form) override;
     void show(const MeaningForm& form) override;
     void show(const StatisticsForm& form) override;
+    void show(PastGamesForm& form) override;
+    void show(ReviewForm& form) override;
     void show(DictionaryMaintenance& form) override;
     void showHelp(const std::string& address) override;
     void showAbout() override;

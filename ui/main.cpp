@@ -1,10 +1,12 @@
 #include "platform/program_folder.hpp"
 #include "ui/front_end.hpp"
 #include "ui/look/game_icon.hpp"
+#include "ui/machine/one_game.hpp"
 #include "ui/start_options.hpp"
 
 #include <QApplication>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QTimer>
 
 #include <cstdio>
@@ -14,11 +16,37 @@ namespace
 
 using namespace lexigrove;
 
+/// Another program plays in the folder already: the player goes to its window, or plays here unkept. False when this
+/// program is to end.
+bool goesOnBeside(const OneGame& oneGame)
+{
+    QMessageBox box(QMessageBox::NoIcon, "LexiGrove",
+                    "LexiGrove is already open. The game is kept there; one that you play here is not kept.");
+    const QPushButton* const go = box.addButton("Go to its window", QMessageBox::AcceptRole);
+    box.addButton("Play here", QMessageBox::RejectRole);
+    box.exec();
+    return box.clickedButton() != go || !oneGame.showFirst();
+}
+
+void comeToFront(QWidget& window)
+{
+    window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+    window.show();
+    window.raise();
+    window.activateWindow();
+}
+
 int play(const StartOptions& options)
 {
-    FrontEnd game(programFolder(programFolderRequest(options.folder)));
+    const std::string folder = programFolder(programFolderRequest(options.folder));
+    const OneGame oneGame(folder);
+    if (!oneGame.isFirst() && !goesOnBeside(oneGame))
+        return EXIT_SUCCESS;
+    FrontEnd game(folder);
     GameFlow& flow = game.flow;
     MainWindow& window = game.window;
+    flow.setKeeping(oneGame.isFirst() ? GameFlow::Keeping::On : GameFlow::Keeping::Off);
+    QObject::connect(&oneGame, &OneGame::showRequested, &window, [&] { comeToFront(window); });
     QObject::connect(&window, &MainWindow::ended, qApp, &QApplication::quit, Qt::QueuedConnection);
 
     flow.startUp(options.arrangement);
@@ -26,10 +54,12 @@ int play(const StartOptions& options)
         return EXIT_SUCCESS;
     window.show();
     QTimer::singleShot(0, &window, [&] {
-        if (options.startAtOnce)
+        if (options.position)
+            flow.playPosition(*options.position);
+        else if (options.startAtOnce)
             flow.startGame();
         else
-            flow.openOptionsAndStart();
+            flow.openOrContinue();
     });
     return QApplication::exec();
 }

@@ -34,6 +34,15 @@ Arrangement arrangementNamed(const QString& name)
     throw StartOptionError("--arrangement must be square or staggered: " + name.toStdString());
 }
 
+BoardPosition positionOf(const QString& text)
+{
+    try {
+        return boardPositionOf(text.toStdString());
+    } catch (const PositionError& error) {
+        throw StartOptionError(std::string("--position: ") + error.what());
+    }
+}
+
 } // namespace
 
 StartOptions readStartOptions(int argc, char** argv)
@@ -45,6 +54,7 @@ StartOptions readStartOptions(int argc, char** argv)
     parser.addOptions({
         {"folder", "The folder of the game's files: word lists, sounds, colour schemes, scores, configuration.", "DIR"},
         {"arrangement", "The arrangement of the tiles, preset in the options dialog.", "square|staggered"},
+        {"position", "Begins with this board, a line that Copy Board gives or docs/position.md describes.", "TEXT"},
         {"start", "Starts a game with the stored options at once, without the options dialog."},
         {"help", "Shows this text."},
         {"version", "Shows the version."},
@@ -74,6 +84,8 @@ StartOptions readStartOptions(int argc, char** argv)
         options.folder = pathFromQString(parser.value("folder"));
     if (parser.isSet("arrangement"))
         options.arrangement = arrangementNamed(parser.value("arrangement"));
+    if (parser.isSet("position"))
+        options.position = positionOf(parser.value("position"));
     options.startAtOnce = parser.isSet("start");
     return options;
 }

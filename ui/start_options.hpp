@@ -1,6 +1,6 @@
 #pragma once
 
-#include "game/board.hpp"
+#include "game/board_position.hpp"
 
 #include <optional>
 #include <stdexcept>
@@ -14,6 +14,7 @@ struct StartOptions {
     std::optional<std::string> answer;      ///< to --help and --version: printed instead of a game
     std::optional<std::string> folder;      ///< the program folder
     std::optional<Arrangement> arrangement; ///< presets the options dialog
+    std::optional<BoardPosition> position;  ///< begins with this board, without the options dialog
     bool startAtOnce = false;               ///< a game with the stored options, without the options dialog
 };
 

@@ -2,8 +2,7 @@
 
 #include "flow/game_flow.hpp"
 #include "game/board.hpp"
-#include "ui/board/board_geometry.hpp"
-#include "ui/board/tile_painter.hpp"
+#include "ui/board/board_painter.hpp"
 
 #include <QWidget>
 
@@ -15,7 +14,8 @@ namespace lexigrove
 {
 
 /// The board panel `Picture1` with the drop row above it: the 64 `Tiles`, the waiting `TopDrop`, the links of the path,
-/// the sliding panel `Picture2` and what falls. It shows the models and passes clicks on to the flow.
+/// the sliding panel `Picture2` and what falls. It shows the models and gives the flow
+/// what was clicked.
 class BoardView : public QWidget
 {
     Q_OBJECT
@@ -53,46 +53,24 @@ private:
         QRectF place;
     };
 
-    /// A place under the pointer or pressed: a tile, or a column of the drop row.
-    struct Spot {
-        int tile = 0;
-        int col = 0;
-        bool operator==(const Spot&) const = default;
-    };
-
-    struct Marks {
-        std::vector<int> path;
-        int swapTile = 0;
-        int guideColumn = 0;
-        unsigned openColumns = 0; ///< bit c: a letter waits over column c, and there is room for it
-        bool operator==(const Marks&) const = default;
-    };
-
-    [[nodiscard]] Spot spotAt(const QPointF& place) const;
-    [[nodiscard]] QRectF placeOf(const Spot& spot) const;
-    void setSpot(Spot& spot, Spot value);
-    [[nodiscard]] Marks currentMarks() const;
+    [[nodiscard]] BoardSpot spotAt(const QPointF& place) const;
+    [[nodiscard]] QRectF placeOf(const BoardSpot& spot) const;
+    void setSpot(BoardSpot& spot, BoardSpot value);
+    [[nodiscard]] BoardMarks currentMarks() const;
     void repaintIfChanged(const BoxControl& control, Shown& shown);
     [[nodiscard]] bool takesInput() const;
-
-    void paintBackground(QPainter& painter, const QRectF& dirty) const;
-    void paintDropMarks(QPainter& painter) const;
-    void paintTiles(QPainter& painter, const QRectF& dirty) const;
-    void paintLinks(QPainter& painter) const;
-    void paintPanel(QPainter& painter) const;
-    void paintControl(QPainter& painter, const BoxControl& control, Spot spot) const;
 
     GameFlow& flow_;
     const Theme& theme_;
     const Board& board_;
-    TilePainter tiles_;
     BoardGeometry shape_;
+    BoardPainter painter_;
     std::array<Shown, Board::tileCount + 1> shownTiles_;
     std::array<Shown, Board::columns + 1> shownWaiting_;
     QRectF shownPanel_;
-    Marks marks_;
-    Spot hovered_;
-    Spot pressed_;
+    BoardMarks marks_;
+    BoardSpot hovered_;
+    BoardSpot pressed_;
 };
 
 } // namespace lexigrove

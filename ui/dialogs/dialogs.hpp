@@ -7,10 +7,16 @@ class DictionaryMaintenance;
 class HintsForm;
 class Host;
 class OptionsForm;
+class PastGamesForm;
+class ReviewForm;
 class ScoreForm;
 class StatisticsForm;
+struct ContinueForm;
 
 // The modal windows for the forms. Each call returns when its form has been hidden or its window closed.
+
+/// The question of a start, with a picture of the game that was kept. Closing it is No.
+void runContinueDialog(Host& host, ContinueForm& form);
 
 /// The options dialog `Form7`. Closing it is "Exit"; Esc does nothing, so that a slip never ends the program.
 void runOptionsDialog(Host& host, OptionsForm& form);
@@ -24,6 +30,12 @@ void runHintsDialog(Host& host, HintsForm& form);
 
 /// The statistics window `Form4`, with its chart in `Picture1`.
 void runStatisticsDialog(Host& host, const StatisticsForm& form);
+
+/// The games that are over: list, chart, bests and calendar.
+void runPastGamesDialog(Host& host, PastGamesForm& form);
+
+/// One game that is over, turn by turn.
+void runReviewDialog(Host& host, ReviewForm& form);
 
 /// The window "Dictionary Maintenance". Closing it, by its frame or with Esc, is "Exit".
 void runMaintenanceDialog(Host& host, DictionaryMaintenance& form);

@@ -279,7 +279,11 @@ private:
         connect(Startx, &QPushButton::clicked, this, [this] { input([this] { form_.pressStart(); }); });
         connect(PSBoard, &QPushButton::clicked, this, [this] { input([this] { form_.presetBoard(); }); });
         connect(Exitx, &QPushButton::clicked, this, [this] { closePressed(); });
-        return newButtonRow({Startx, PSBoard, Exitx});
+        if (!form_.offersLookBack())
+            return newButtonRow({Startx, PSBoard, Exitx});
+        auto* const LookBack = newButton("LookBack", "Look back", "Turn by turn through the game that is over");
+        connect(LookBack, &QPushButton::clicked, this, [this] { input([this] { form_.pressLookBack(); }); });
+        return newButtonRow({Startx, LookBack, PSBoard, Exitx});
     }
 
     OptionsForm& form_;

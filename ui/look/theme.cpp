@@ -211,9 +211,9 @@ Theme::Theme() : desktop_(desktopPalette())
 
 void Theme::apply(const ColourScheme& scheme)
 {
-    if (applied_ && scheme.entries() == shown_)
+    if (scheme_ == &scheme && scheme.entries() == shown_)
         return;
-    applied_ = true;
+    scheme_ = &scheme;
     shown_ = scheme.entries();
     colours_ = deriveWindowColours(scheme);
     systemColours_ = shownSystemColours(colours_);

@@ -44,7 +44,10 @@ public:
 
     [[nodiscard]] const WindowColours& colours() const { return colours_; }
 
-    /// A plain colour unchanged, or a system colour as these windows show it (the window background is the card).
+    /// The scheme that was followed last, which outlives the theme's use.
+    [[nodiscard]] const ColourScheme& scheme() const { return *scheme_; }
+
+    /// A plain colour, or a system colour as it stands in this family of windows (a window's background is the card).
     [[nodiscard]] QColor colour(Colour colour) const;
 
     /// The desktop's own font at a size in pixels, never below the smallest.
@@ -58,7 +61,7 @@ signals:
 
 private:
     SystemPalette desktop_;
-    bool applied_ = false;
+    const ColourScheme* scheme_ = nullptr;
     ColourTable shown_{};
     WindowColours colours_{};
     SystemPalette systemColours_; ///< as these windows show them

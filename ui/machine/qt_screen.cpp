@@ -1,6 +1,7 @@
 #include "ui/machine/qt_screen.hpp"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QEventLoop>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -82,6 +83,16 @@ void QtScreen::waitForAnyInput()
         QEventLoop*& place_;
     } const waiting(waiting_, loop);
     host_.gate.exec(loop);
+}
+
+void QtScreen::copyText(const std::string& text)
+{
+    QGuiApplication::clipboard()->setText(QString::fromStdString(text));
+}
+
+std::string QtScreen::copiedText() const
+{
+    return QGuiApplication::clipboard()->text().toStdString();
 }
 
 bool QtScreen::eventFilter(QObject* receiver, QEvent* event)

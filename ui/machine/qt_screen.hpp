@@ -34,6 +34,8 @@ public:
 
     void waitForAnyInput() override;
 
+    void copyText(const std::string& text) override;
+    [[nodiscard]] std::string copiedText() const override;
     void inputEnded() override { host_.inputEnded(); }
 
     /// 250 rounds, the delay that the game starts with, make a step of ten milliseconds.

@@ -21,9 +21,14 @@ std::vector<Menu> mainMenus()
         {text("&Game"),
          {
              {Command::NewGame, text("&New Game..."), {QKeySequence::New}, {}, false},
-             {Command::Pause, text("&Pause"), {Qt::CTRL | Qt::Key_P, Qt::Key_Pause}, {}, false},
-             {Command::Sound, text("&Sound"), {Qt::CTRL | Qt::Key_M}, {}, true},
-             {Command::Exit, text("E&xit"), {QKeySequence(Qt::CTRL | Qt::Key_Q)}, {}, true},
+             {Command::Daily, text("Board of the &Day"), {Qt::CTRL | Qt::Key_B}, {}, false},
+             {Command::SharedBoard, text("P&lay a Shared Board..."), {}, {}, false},
+             {Command::CopyBoard, text("&Copy Board"), {Qt::CTRL | Qt::SHIFT | Qt::Key_C}, {}, false},
+             {Command::PastGames, text("Past &Games..."), {Qt::CTRL | Qt::Key_G}, {}, true},
+             {Command::Pause, text("&Pause"), {Qt::CTRL | Qt::Key_P, Qt::Key_Pause}, {}, true},
+             {Command::Sound, text("&Sound"), {Qt::CTRL | Qt::Key_M}, {}, false},
+             {Command::KeepForLater, text("&Keep for Later"), {Qt::CTRL | Qt::SHIFT | Qt::Key_Q}, {}, true},
+             {Command::Exit, text("E&xit"), {QKeySequence(Qt::CTRL | Qt::Key_Q)}, {}, false},
          }},
         {text("&Words"),
          {

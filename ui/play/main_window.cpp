@@ -6,6 +6,7 @@
 #include "ui/machine/mouse.hpp"
 
 #include <QAction>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -39,6 +40,9 @@ MainWindow::MainWindow(Host& host, GameFlow& flow, const StatusLine& status) : h
     addTimer("PauseTimer", Timer::Pause);
     addTimer("Clock", Timer::Clock);
 
+    saving_ = new QTimer(this);
+    saving_->setSingleShot(true);
+    connect(saving_, &QTimer::timeout, this, [this] { flow_.saveIfChanged(); });
     host_.setView(this);
     showModels();
 }
@@ -114,6 +118,7 @@ void MainWindow::inputEnded()
             flow_.perform(Command::Exit);
     }
     showModels();
+    saving_->start();
     if (flow_.ended() && !endReported_) {
         endReported_ = true;
         emit ended();
@@ -178,6 +183,11 @@ void MainWindow::keyReleaseEvent(QKeyEvent* event)
 /// Closing means leaving, with the flow's questions; an input in progress unwinds first.
 void MainWindow::closeEvent(QCloseEvent* event)
 {
+    if (qApp->isSavingSession()) { // the session ends: the next start continues the game
+        flow_.saveIfChanged();
+        event->accept();
+        return;
+    }
     if (!flow_.ended()) {
         if (flow_.isBusy())
             host_.gate.requestLeaving();

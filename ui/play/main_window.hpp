@@ -11,6 +11,7 @@
 #include <vector>
 
 class QHBoxLayout;
+class QTimer;
 
 namespace lexigrove
 {
@@ -58,6 +59,7 @@ private:
     PlayArea* area_;
     StatusLineView* status_;
     std::vector<MenuEntry> menuEntries_;
+    QTimer* saving_; ///< fires once the events of an input are done
     bool endReported_ = false;
 };
 

@@ -1,0 +1,115 @@
+#include "record/game_record.hpp"
+
+#include "game/game.hpp"
+#include "game/position.hpp"
+#include "record/day.hpp"
+#include "record/line_fields.hpp"
+
+#include <algorithm>
+#include <cstdint>
+
+namespace lexigrove
+{
+
+namespace
+{
+
+constexpr std::string_view firstLine = "LexiGrove record 1";
+constexpr std::string_view endNames[] = {"lost", "clock", "new-game", "left"};
+
+/// Every field of a record in its order, for the writer and for the reader alike.
+template <typename Fields, typename Record>
+void visitFields(Fields& fields, Record& record)
+{
+    using namespace field;
+    fields.text("begun", record.begun);
+    fields.board("start", record.start);
+    fields.text("user-dictionary", record.userDictionary);
+    fields.choice("kind", record.kind, kindNames);
+    fields.choice("against-computer", record.computerGame, yesNo);
+    fields.choice("computer-plays", record.strategy, strategyNames);
+    fields.number("score", record.yourScore, -mostPoints, mostPoints);
+    fields.number("computer-score", record.compScore, -mostPoints, mostPoints);
+    fields.number("seconds-played", record.secondsPlayed, 0, mostPoints);
+    fields.choice("end", record.end, endNames);
+    fields.number("hints-used", record.hintsUsed, 0, most16);
+    fields.number("red-tiles-made", record.redTilesMade, 0, most16);
+    fields.number("pushes", record.pushes, 0, most16);
+    visitTurns(fields, record.turns);
+}
+
+/// 64-bit FNV-1a: tells a text from any that was damaged.
+std::uint64_t checkOf(std::string_view text)
+{
+    std::uint64_t hash = 14'695'981'039'346'656'037U;
+    for (const char c : text)
+        hash = (hash ^ static_cast<unsigned char>(c)) * 1'099'511'628'211U;
+    return hash;
+}
+
+bool isMoment(std::string_view text)
+{
+    if (text.size() != 16 || !dayOf(text.substr(0, 10)) || text[10] != ' ' || text[13] != ':')
+        return false;
+    const auto below = [&](std::size_t place, std::string_view most) {
+        const std::string_view part = text.substr(place, 2);
+        return std::all_of(part.begin(), part.end(), [](char c) { return c >= '0' && c <= '9'; }) && part <= most;
+    };
+    return below(11, "23") && below(14, "59");
+}
+
+/// The number of the first line in which two texts differ.
+std::size_t differingLine(std::string_view a, std::string_view b)
+{
+    const auto place = std::mismatch(a.begin(), a.end(), b.begin(), b.end()).first;
+    return static_cast<std::size_t>(std::count(a.begin(), place, '\n')) + 1;
+}
+
+} // namespace
+
+GameRecord recordOf(const Game& game, GameEnd end)
+{
+    const GameState& state = game.state;
+    const BoardPosition start = boardPositionOf(state.start);
+    return {.begun = state.begun,
+            .userDictionary = start.level == 0 ? game.dictionary.fileTable[0] : "",
+            .kind = state.kind,
+            .computerGame = state.computerGame,
+            .strategy = game.options.settings.strategy,
+            .yourScore = state.yourScore,
+            .compScore = state.compScore,
+            .secondsPlayed = state.secondsPlayed,
+            .end = end,
+            .start = start,
+            .turns = state.turns,
+            .hintsUsed = state.hintsUsed,
+            .redTilesMade = state.redTilesMade,
+            .pushes = state.pushes};
+}
+
+std::string textOf(const GameRecord& record)
+{
+    LineWriter writer(firstLine);
+    visitFields(writer, record);
+    writer.hash("check", checkOf(writer.written()));
+    return writer.written();
+}
+
+GameRecord gameRecordOf(std::string_view text)
+{
+    if (text.size() > largestRecord)
+        throw PositionError("line 1: a text of " + std::to_string(text.size()) + " bytes is no record");
+    LineReader reader(text, firstLine);
+    GameRecord record;
+    visitFields(reader, record);
+    std::uint64_t check = 0;
+    reader.hash("check", check);
+    reader.expectEnd();
+    if (!isMoment(record.begun))
+        throw PositionError("line 2: '" + record.begun + "' is no date and time");
+    if (const std::string written = textOf(record); written != text)
+        throw PositionError("line " + std::to_string(differingLine(text, written)) + ": the text was changed");
+    return record;
+}
+
+} // namespace lexigrove

@@ -1,0 +1,47 @@
+#include "record/saved_game_file.hpp"
+
+#include "platform/text_file.hpp"
+
+#include <filesystem>
+#include <system_error>
+
+namespace lexigrove
+{
+
+std::optional<std::string> SavedGameFile::read() const
+{
+    std::error_code failure;
+    if (!std::filesystem::exists(path_, failure))
+        return std::nullopt;
+    constexpr std::size_t most = std::size_t{1} << 20; // a game of 60 words takes about 20,000 bytes
+    std::string text = readFile(path_);
+    if (text.size() > most)
+        throw FileError("This is no saved game", path_, 0);
+    return text;
+}
+
+bool SavedGameFile::write(const std::string& text, Durability durability) const
+{
+    try {
+        replaceFile(path_, text, durability);
+        return true;
+    } catch (const FileError&) {
+        return false;
+    }
+}
+
+void SavedGameFile::remove() const
+{
+    std::error_code failure;
+    std::filesystem::remove(path_, failure);
+}
+
+std::string SavedGameFile::setAside() const
+{
+    const char* const name = "LexigroveGame-damaged.txt";
+    std::error_code failure;
+    std::filesystem::rename(path_, std::filesystem::path(path_).replace_filename(name), failure);
+    return name;
+}
+
+} // namespace lexigrove

@@ -1,0 +1,147 @@
+#include "ui/board/board_painter.hpp"
+
+#include "settings/readable_colours.hpp"
+
+#include <QPainter>
+
+#include <algorithm>
+
+namespace lexigrove
+{
+
+namespace
+{
+
+constexpr double slotRadius = 0.08; ///< of a cell
+
+/// A control as it looks while it is pressed.
+BoxControl heldDown(BoxControl control)
+{
+    control.KeepDown();
+    return control;
+}
+
+} // namespace
+
+QRectF BoardPainter::waitingPlace(int col) const
+{
+    return shape_.tilePlace(board_.waiting(col), Board::columnLeft(col), layout::dropRowTop);
+}
+
+void BoardPainter::paint(QPainter& painter, const BoardMarks& marks, const QRectF& dirty) const
+{
+    paintBackground(painter, marks, dirty);
+    paintTiles(painter, marks, dirty);
+    for (int col = 1; col <= Board::columns; ++col) {
+        const BoxControl& waiting = board_.waiting(col);
+        const QRectF place = shape_.tilePlace(waiting);
+        if (!waiting.Visible() || !place.intersects(dirty))
+            continue;
+        tiles_.paintFace(painter, marks.pressed.col == col ? heldDown(waiting) : waiting, place,
+                         marks.lifted.col == col);
+        tiles_.paintLetter(painter, waiting, place);
+    }
+    paintPanel(painter);
+}
+
+/// The strip of the drop row, what can drop, and the empty cells.
+void BoardPainter::paintBackground(QPainter& painter, const BoardMarks& marks, const QRectF& dirty) const
+{
+    const WindowColours& colours = theme_.colours();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(toQColor(colours.strip));
+    painter.drawRoundedRect(shape_.strip(), Theme::grid, Theme::grid);
+
+    const double radius = shape_.cell() * slotRadius;
+    const auto paintSlot = [&](const QRectF& place, Colour colour) {
+        if (!place.intersects(dirty))
+            return;
+        painter.setBrush(toQColor(colour));
+        painter.drawRoundedRect(place, radius, radius);
+    };
+    if (marks.showsSlots) {
+        for (int col = 1; col <= Board::columns; ++col) {
+            paintSlot(waitingPlace(col), mixed(colours.strip, colours.background, 0.5));
+            for (int row = 1; row <= board_.columnHeight(col); ++row) {
+                const BoxControl& tile = board_.tile(row, col);
+                if (!tile.Visible())
+                    paintSlot(shape_.tilePlace(tile, Board::columnLeft(col), board_.cellTop(row, col)), colours.strip);
+            }
+        }
+    }
+    paintDropMarks(painter, marks);
+    painter.setRenderHint(QPainter::Antialiasing, false);
+}
+
+/// A little arrow under each letter that can drop; during a drop the guide line in its place.
+void BoardPainter::paintDropMarks(QPainter& painter, const BoardMarks& marks) const
+{
+    painter.setBrush(toQColor(theme_.colours().accent));
+    const double below = shape_.strip().bottom();
+    if (marks.guideColumn != 0) {
+        const QRectF column = waitingPlace(marks.guideColumn);
+        const double height = std::max(2.0, shape_.cell() * 0.06);
+        painter.drawRoundedRect(QRectF(column.left(), below - height / 2, column.width(), height), height / 2,
+                                height / 2);
+        return;
+    }
+    const double size = shape_.cell() * 0.09;
+    for (int col = 1; col <= Board::columns; ++col) {
+        if ((marks.openColumns & (1U << col)) == 0)
+            continue;
+        const QPointF top(waitingPlace(col).center().x() + 0.5, below + size / 2);
+        painter.drawPolygon(QPolygonF{{top - QPointF(size, 0), top + QPointF(size, 0), top + QPointF(0, size)}});
+    }
+}
+
+/// Faces, then the links, then the letters: links lie behind letters.
+void BoardPainter::paintTiles(QPainter& painter, const BoardMarks& marks, const QRectF& dirty) const
+{
+    const auto forEachDirty = [&](auto paint) {
+        for (int tile = 1; tile <= Board::tileCount; ++tile) {
+            const QRectF place = shape_.tilePlace(board_.tile(tile));
+            if (board_.isVisible(tile) && place.intersects(dirty))
+                paint(tile, place);
+        }
+    };
+    forEachDirty([&](int tile, const QRectF& place) {
+        const BoxControl& control = board_.tile(tile);
+        const bool lifted = marks.lifted.tile == tile;
+        if (marks.pressed.tile == tile)
+            tiles_.paintFace(painter, heldDown(control), place, lifted);
+        else
+            tiles_.paintFace(painter, control, place, lifted);
+    });
+    paintLinks(painter, marks.path);
+    forEachDirty([&](int tile, const QRectF& place) {
+        tiles_.paintLetter(painter, board_.tile(tile), place);
+        if (tile == marks.swapTile)
+            tiles_.paintSwapMark(painter, place);
+    });
+}
+
+void BoardPainter::paintLinks(QPainter& painter, const std::vector<int>& path) const
+{
+    const auto placeOfTile = [this](int tile) { return shape_.tilePlace(board_.tile(tile)); };
+    if (path.size() > 1)
+        tiles_.paintStart(painter, placeOfTile(path.front()));
+    for (std::size_t i = 1; i < path.size(); ++i)
+        tiles_.paintLink(painter, placeOfTile(path[i - 1]), placeOfTile(path[i]));
+}
+
+void BoardPainter::paintPanel(QPainter& painter) const
+{
+    const SlidingPanel& panel = board_.Picture2;
+    if (!panel.Visible)
+        return;
+    const int count = panel.Height / layout::cellSize;
+    for (int j = 0; j < count; ++j) {
+        const BoxControl& dummy = panel.DummyTile[static_cast<std::size_t>(j)];
+        const QRectF place = shape_.tilePlace(dummy, panel.Left, panel.Top + j * layout::cellSize);
+        tiles_.paintFace(painter, dummy, place);
+        tiles_.paintLetter(painter, dummy, place);
+    }
+}
+
+} // namespace lexigrove

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "game/board.hpp"
+#include "ui/board/board_geometry.hpp"
+#include "ui/board/tile_painter.hpp"
+
+#include <vector>
+
+namespace lexigrove
+{
+
+/// A place of the board: a tile, or a column of the drop row.
+struct BoardSpot {
+    int tile = 0;
+    int col = 0;
+    bool operator==(const BoardSpot&) const = default;
+};
+
+/// What is shown of a board beside its tiles.
+struct BoardMarks {
+    std::vector<int> path; ///< joined by links
+    int swapTile = 0;
+    int guideColumn = 0;
+    unsigned openColumns = 0; ///< bit c: a letter waits over column c, and there is room for it
+    bool showsSlots = false;  ///< of empty cells
+    BoardSpot lifted;         ///< under the pointer
+    BoardSpot pressed;
+    bool operator==(const BoardMarks&) const = default;
+};
+
+/// Paints a board with its drop row: the player's own, one of a past game, or one that is kept.
+class BoardPainter
+{
+public:
+    /// All outlive the painter.
+    BoardPainter(const Board& board, const BoardGeometry& shape, const Theme& theme)
+        : board_(board), shape_(shape), theme_(theme), tiles_(theme)
+    {
+    }
+
+    void paint(QPainter& painter, const BoardMarks& marks, const QRectF& dirty) const;
+
+    /// Where the waiting tile of a column is shown while it waits.
+    [[nodiscard]] QRectF waitingPlace(int col) const;
+
+private:
+    void paintBackground(QPainter& painter, const BoardMarks& marks, const QRectF& dirty) const;
+    void paintDropMarks(QPainter& painter, const BoardMarks& marks) const;
+    void paintTiles(QPainter& painter, const BoardMarks& marks, const QRectF& dirty) const;
+    void paintLinks(QPainter& painter, const std::vector<int>& path) const;
+    void paintPanel(QPainter& painter) const;
+
+    const Board& board_;
+    const BoardGeometry& shape_;
+    const Theme& theme_;
+    TilePainter tiles_;
+};
+
+} // namespace lexigrove

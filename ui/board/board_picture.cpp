@@ -1,0 +1,45 @@
+#include "ui/board/board_picture.hpp"
+
+#include "game/position.hpp"
+#include "game/tile_look.hpp"
+
+#include <QPainter>
+
+namespace lexigrove
+{
+
+BoardPicture::BoardPicture(const ColourScheme& scheme, const Theme& theme, QWidget* parent)
+    : QWidget(parent), scheme_(scheme), painter_(board_, shape_, theme)
+{
+    setObjectName("BoardPicture");
+    marks_.showsSlots = true;
+}
+
+void BoardPicture::show(const BoardPosition& position, const std::vector<int>& path)
+{
+    const TileLook look(scheme_);
+    showOn(board_, position);
+    for (BoxControl& tile : board_.Tiles)
+        look.showNormal(tile);
+    for (BoxControl& waiting : board_.TopDrop)
+        look.showNormal(waiting);
+    for (const int tile : path)
+        look.showSelected(board_.tile(tile));
+    marks_.path = path;
+    update();
+}
+
+QSize BoardPicture::sizeHint() const
+{
+    constexpr double cell = 34;
+    return BoardGeometry::sizeFor(cell).toSize();
+}
+
+void BoardPicture::paintEvent(QPaintEvent* event)
+{
+    shape_.fit(size(), devicePixelRatioF());
+    QPainter painter(this);
+    painter_.paint(painter, marks_, event->rect());
+}
+
+} // namespace lexigrove

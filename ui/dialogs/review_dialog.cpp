@@ -1,0 +1,294 @@
+#include "record/review_form.hpp"
+#include "ui/board/board_picture.hpp"
+#include "ui/dialogs/dialogs.hpp"
+#include "ui/dialogs/form_dialog.hpp"
+#include "ui/look/text.hpp"
+
+#include <QButtonGroup>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTableWidget>
+#include <QVBoxLayout>
+
+namespace lexigrove
+{
+
+namespace
+{
+
+struct TurnColumn {
+    const char* heading;
+    Qt::Alignment alignment;
+};
+constexpr int turnColumns = 6;
+const TurnColumn columns[turnColumns] = {{"#", Qt::AlignRight},   {"Who", Qt::AlignLeft},
+                                         {"Word", Qt::AlignLeft}, {"Points", Qt::AlignRight},
+                                         {"Best", Qt::AlignLeft}, {"Points", Qt::AlignRight}};
+
+class ReviewDialog : public FormDialog
+{
+public:
+    ReviewDialog(Host& gameHost, ReviewForm& form)
+        : FormDialog(gameHost, "Review", form.caption()),
+          form_(form),
+          picture_(new BoardPicture(host.theme.scheme(), host.theme)),
+          turns_(new QTableWidget(form.turnCount(), turnColumns)),
+          there_(new QLabel),
+          place_(new QLabel),
+          lit_(new QButtonGroup(this))
+    {
+        form_.activate();
+        auto* const left = new QVBoxLayout;
+        left->setSpacing(Theme::gap);
+        left->addWidget(picture_, 1);
+        left->addLayout(newSteps());
+        auto* const right = new QVBoxLayout;
+        right->setSpacing(Theme::spacing);
+        addSummary(*right);
+        setUpTurns();
+        right->addWidget(turns_, 1);
+        right->addLayout(newSwitch());
+        right->addLayout(newWords());
+        auto* const areas = new QHBoxLayout;
+        areas->setSpacing(Theme::margin);
+        areas->addLayout(left, 3);
+        areas->addLayout(right, 2);
+        QVBoxLayout* const column = newColumn();
+        column->addLayout(areas, 1);
+        QPushButton* const meaning = newButton("Meaning", "Meaning", "Get meaning of the word whose path is lit");
+        QPushButton* const close = newButton("Close", "Close");
+        connect(meaning, &QPushButton::clicked, this, [this] { input([this] { form_.pressMeaning(); }); });
+        connect(close, &QPushButton::clicked, this, [this] { closePressed(); });
+        column->addLayout(newButtonRow({meaning, close}));
+        fillTurns();
+        showForm();
+        turns_->setFocus();
+        resize(132 * Theme::grid, 88 * Theme::grid);
+    }
+
+protected:
+    void showForm() override
+    {
+        if (!form_.isVisible()) {
+            accept();
+            return;
+        }
+        picture_->show(form_.board(), form_.litPath());
+        place_->setText(form_.turn() == 0 ? tr("No word was made")
+                                          : tr("Turn %1 of %2").arg(form_.turn()).arg(form_.turnCount()));
+        there_->setText(toQString(form_.thereText()));
+        first_->setEnabled(form_.hasPrevious());
+        previous_->setEnabled(form_.hasPrevious());
+        next_->setEnabled(form_.hasNext());
+        last_->setEnabled(form_.hasNext());
+        const char* const names[] = {"Made", "Best", "Longest"};
+        for (int i = 0; i < 3; ++i) {
+            const FoundWord word = form_.word(static_cast<ReviewForm::Lit>(i));
+            QAbstractButton* const button = lit_->button(i);
+            button->setText(word.word.empty() ? tr("%1: -").arg(names[i])
+                                              : tr("%1: %2 (%3)").arg(names[i], toQString(word.word)).arg(word.score));
+            button->setEnabled(!word.word.empty());
+        }
+        lit_->button(static_cast<int>(form_.lit()))->setChecked(true);
+        if (turns_->currentRow() != form_.turn() - 1)
+            turns_->selectRow(form_.turn() - 1);
+    }
+
+    void closePressed() override
+    {
+        input([this] { form_.pressClose(); });
+    }
+
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        switch (event->key()) {
+        case Qt::Key_Left:
+            return input([this] { form_.previous(); });
+        case Qt::Key_Right:
+            return input([this] { form_.next(); });
+        case Qt::Key_Home:
+            return input([this] { form_.first(); });
+        case Qt::Key_End:
+            return input([this] { form_.last(); });
+        default:
+            FormDialog::keyPressEvent(event);
+        }
+    }
+
+    /// The arrow keys step through the game wherever the focus is; up and down are the list's own.
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (watched == turns_ && event->type() == QEvent::KeyPress) {
+            const int key = static_cast<QKeyEvent*>(event)->key();
+            if (key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Home || key == Qt::Key_End) {
+                keyPressEvent(static_cast<QKeyEvent*>(event));
+                return true;
+            }
+        }
+        return FormDialog::eventFilter(watched, event);
+    }
+
+private:
+    QPushButton* newStep(const char* name, const char* caption, const char* toolTip, void (ReviewForm::*step)())
+    {
+        QPushButton* const button = newButton(name, caption, toolTip);
+        button->setAccessibleName(toolTip);
+        button->setFocusPolicy(Qt::TabFocus);
+        connect(button, &QPushButton::clicked, this, [this, step] { input([this, step] { (form_.*step)(); }); });
+        return button;
+    }
+
+    QHBoxLayout* newSteps()
+    {
+        first_ = newStep("First", "|<", "First turn (Home)", &ReviewForm::first);
+        previous_ = newStep("Previous", "<", "Previous turn (Left)", &ReviewForm::previous);
+        next_ = newStep("Next", ">", "Next turn (Right)", &ReviewForm::next);
+        last_ = newStep("Last", ">|", "Last turn (End)", &ReviewForm::last);
+        place_->setAlignment(Qt::AlignCenter);
+        auto* const row = new QHBoxLayout;
+        row->setSpacing(Theme::spacing);
+        row->addWidget(first_);
+        row->addWidget(previous_);
+        row->addWidget(place_, 1);
+        row->addWidget(next_);
+        row->addWidget(last_);
+        return row;
+    }
+
+    static QLabel* newText(const std::string& text, bool quiet)
+    {
+        auto* const label = new QLabel(toQString(text));
+        label->setTextFormat(Qt::PlainText);
+        label->setWordWrap(true);
+        label->setProperty("quiet", quiet);
+        return label;
+    }
+
+    void addSummary(QVBoxLayout& column)
+    {
+        QLabel* const summary = newText(form_.summary(), false);
+        summary->setObjectName("Summary");
+        summary->setFont(Theme::font(16, true));
+        column.addWidget(summary);
+        for (const ReviewForm::TurnRow& left : form_.mostLeftBehind()) {
+            auto* const link = new QPushButton(toQString(ReviewForm::textOf(left)));
+            link->setFlat(true);
+            link->setStyleSheet("text-align: left; padding: 1px 0");
+            connect(link, &QPushButton::clicked, this, [this, turn = left.turn] {
+                input([this, turn] {
+                    form_.goTo(turn);
+                    form_.light(ReviewForm::Lit::Best);
+                });
+            });
+            column.addWidget(link);
+        }
+        for (const std::string& text : {form_.rarestText(), form_.notice()}) {
+            if (!text.empty())
+                column.addWidget(newText(text, true));
+        }
+    }
+
+    void setUpTurns()
+    {
+        turns_->setObjectName("Turns");
+        turns_->setAccessibleName(tr("Turns"));
+        turns_->setSelectionBehavior(QAbstractItemView::SelectRows);
+        turns_->setSelectionMode(QAbstractItemView::SingleSelection);
+        turns_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+        turns_->setTabKeyNavigation(false);
+        turns_->setShowGrid(false);
+        turns_->verticalHeader()->hide();
+        turns_->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+        turns_->horizontalHeader()->setStretchLastSection(true);
+        turns_->installEventFilter(this);
+        QStringList headings;
+        for (const TurnColumn& column : columns)
+            headings.append(column.heading);
+        turns_->setHorizontalHeaderLabels(headings);
+        connect(turns_, &QTableWidget::currentCellChanged, this, [this](int row) {
+            if (row >= 0 && row + 1 != form_.turn())
+                input([this, row] { form_.goTo(row + 1); });
+        });
+    }
+
+    void fillTurns()
+    {
+        int row = 0;
+        for (const ReviewForm::TurnRow& turn : form_.rows()) {
+            const QString cells[turnColumns] = {QString::number(turn.turn), toQString(turn.maker),
+                                                toQString(turn.word),       QString::number(turn.score),
+                                                toQString(turn.bestWord),   QString::number(turn.bestScore)};
+            for (int column = 0; column < turnColumns; ++column) {
+                auto* const item = new QTableWidgetItem(cells[column]);
+                item->setTextAlignment(columns[column].alignment | Qt::AlignVCenter);
+                turns_->setItem(row, column, item);
+            }
+            ++row;
+        }
+    }
+
+    /// Whose words count: the game's own list or the largest one.
+    QHBoxLayout* newSwitch()
+    {
+        auto* const row = new QHBoxLayout;
+        row->addWidget(there_, 1);
+        if (!form_.hasTwoLists())
+            return row;
+        for (const ReviewList list : {ReviewList::Own, ReviewList::LevelThree}) {
+            auto* const choice =
+                new QRadioButton(toQString(ReviewForm::textOf(list, form_.review().record().start.level)));
+            choice->setObjectName(list == ReviewList::Own ? "OwnList" : "LevelThree");
+            choice->setChecked(form_.list() == list);
+            connect(choice, &QRadioButton::clicked, this, [this, list] {
+                input([this, list] { form_.choose(list); });
+                fillTurns();
+            });
+            row->addWidget(choice);
+        }
+        return row;
+    }
+
+    /// The words of the turn; a click lights a word's path.
+    QVBoxLayout* newWords()
+    {
+        auto* const column = new QVBoxLayout;
+        column->setSpacing(Theme::spacing / 2);
+        const char* const names[] = {"MadeWord", "BestWord", "LongestWord"};
+        for (int i = 0; i < 3; ++i) {
+            auto* const button = new QRadioButton;
+            button->setObjectName(names[i]);
+            button->setToolTip(tr("Show the path of this word"));
+            lit_->addButton(button, i);
+            connect(button, &QRadioButton::clicked, this,
+                    [this, i] { input([this, i] { form_.light(static_cast<ReviewForm::Lit>(i)); }); });
+            column->addWidget(button);
+        }
+        return column;
+    }
+
+    ReviewForm& form_;
+    BoardPicture* picture_;
+    QTableWidget* turns_;
+    QLabel* there_;
+    QLabel* place_;
+    QButtonGroup* lit_;
+    QPushButton* first_ = nullptr;
+    QPushButton* previous_ = nullptr;
+    QPushButton* next_ = nullptr;
+    QPushButton* last_ = nullptr;
+};
+
+} // namespace
+
+void runReviewDialog(Host& host, ReviewForm& form)
+{
+    ReviewDialog dialog(host, form);
+    host.gate.exec(dialog);
+}
+
+} // namespace lexigrove
