@@ -34,7 +34,7 @@ public:
 
     void waitForAnyInput() override;
 
-    void inputEnded() override { host_.inputEnded(); }
+    void inputEnded() override { emit host_.inputEnded(); }
 
     /// 250 rounds, the delay that the game starts with, make a step of ten milliseconds.
     static constexpr std::chrono::microseconds roundLength{40};

@@ -39,13 +39,10 @@ MainWindow::MainWindow(Host& host, GameFlow& flow, const StatusLine& status) : h
     addTimer("PauseTimer", Timer::Pause);
     addTimer("Clock", Timer::Clock);
 
-    host_.setView(this);
+    host_.mainWindow = this;
+    connect(&host_, &Host::modelsChanged, this, &MainWindow::showModels);
+    connect(&host_, &Host::inputEnded, this, &MainWindow::inputEnded);
     showModels();
-}
-
-MainWindow::~MainWindow()
-{
-    host_.setView(nullptr);
 }
 
 void MainWindow::addMenus()
