@@ -4,7 +4,6 @@
 // FOLDER holds the word lists and colour schemes; by default the build's own. Goals: at most twice the empty window.
 
 #include "ui/front_end.hpp"
-#include "ui/look/game_icon.hpp"
 
 #include <QApplication>
 #include <QMainWindow>
@@ -88,7 +87,6 @@ int showEmptyWindow(QApplication& application)
 
 int showGame(QApplication& application, const std::string& folder)
 {
-    QApplication::setWindowIcon(gameIcon());
     FrontEnd game(folder);
     game.flow.startUp();
     const Reporter reporter(game.window, [&] { game.flow.startGame(); });

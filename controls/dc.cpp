@@ -192,11 +192,15 @@ ClockLine Dc::lin2(int index) const
     return {from, to, thickness_, colour, true};
 }
 
+bool Dc::hasLine(int index)
+{
+    const bool segment = index >= 0 && index < 10 * digitCount && index % 10 < segmentCount;
+    return segment || index == upperDot || index == lowerDot;
+}
+
 bool Dc::lit(int index) const
 {
-    const bool dot = index == upperDot || index == lowerDot;
-    const bool segment = index >= 0 && index < 10 * digitCount && index % 10 < segmentCount;
-    if (!dot && !segment)
+    if (!hasLine(index))
         throw std::out_of_range("the clock has no such line");
     return lit_[static_cast<std::size_t>(index)];
 }

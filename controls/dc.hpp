@@ -31,13 +31,12 @@ struct ClockRectangle {
 
 /// The seven-segment clock: a countdown in minutes and seconds, or the time of day in hours and minutes. It paints
 /// nothing itself: it holds the colours and places of the lines that a widget then paints. A front end calls `tick`
-/// every `timerInterval` while `running()`.
+/// every second while `running()`.
 class Dc
 {
 public:
     static constexpr int Width = 1650; ///< units, see geometry.hpp
     static constexpr int Height = 600;
-    static constexpr int timerInterval = 1000; ///< milliseconds
 
     /// A stopped clock in green that shows 00:00.
     Dc();
@@ -99,8 +98,10 @@ public:
     static constexpr int upperDot = 40;
     static constexpr int lowerDot = 41;
 
-    /// A line of the face. Segment s (0 to 6) of digit d (0 to 3) has the index 10 * d + s; 40 and 41 are the upper and
-    /// lower dot. Throws std::out_of_range for an index without a line.
+    /// Whether the face has a line of this index: segment s (0 to 6) of digit d (0 to 3) is 10 * d + s; 40 and 41 are
+    /// the upper and lower dot.
+    [[nodiscard]] static bool hasLine(int index);
+    /// A line of the face. Throws std::out_of_range for an index without a line.
     [[nodiscard]] ClockLine lin2(int index) const;
     /// The rectangle behind the digits.
     [[nodiscard]] const ClockRectangle& Shapet() const { return Shapet_; }

@@ -142,9 +142,7 @@ void DictionaryMaintenance::addWord()
                     .toWrite = "compress file " + files->name,
                     .written = "File compressed,",
                     .done = "Word " + added + " added to " + files->name,
-                    .restored = "File restored ",
-                    .words = {},
-                    .lines = {}};
+                    .restored = "File restored "};
     SortingList ListBoy1(before.count() + 1);
     {
         const BusyPointer busy(screen_);
@@ -203,9 +201,7 @@ void DictionaryMaintenance::writePlainList()
                     .toWrite = "write plain word list " + files->name,
                     .written = "Plain word list written,",
                     .done = "Level " + std::to_string(files->level) + " is a plain word list: " + files->name,
-                    .restored = "File restored ",
-                    .words = {},
-                    .lines = {}};
+                    .restored = "File restored "};
     if (!readAsPlainList(*files, rewrite) || !rewriteFile(*files, rewrite))
         return;
     if (dictionary_.holdsCodedLines())

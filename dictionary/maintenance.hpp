@@ -118,8 +118,8 @@ private:
         std::string written;  ///< before " now read and verify " and the file's name
         std::string done;     ///< when it reads back the same
         std::string restored; ///< when it does not, before the file's name
-        WordList words;
-        std::string lines; ///< the file's text; in the maintained format, all after the first line
+        WordList words = {};
+        std::string lines = {}; ///< the file's text; in the maintained format, all after the first line
     };
 
     /// The first entry, counted from 1, at which a file read back differs, and the word read there.

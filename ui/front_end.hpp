@@ -3,9 +3,9 @@
 #include "flow/game_flow.hpp"
 #include "platform/random.hpp"
 #include "platform/status_line.hpp"
+#include "platform/system_clock.hpp"
 #include "ui/game_windows.hpp"
 #include "ui/machine/host.hpp"
-#include "ui/machine/qt_clock.hpp"
 #include "ui/machine/qt_dialogs.hpp"
 #include "ui/machine/qt_screen.hpp"
 #include "ui/machine/qt_sound_device.hpp"
@@ -26,7 +26,7 @@ public:
     FrontEnd& operator=(const FrontEnd&) = delete;
 
 private:
-    QtClock clock_;
+    SystemClock clock_;
     Random random_;
     QtSoundDevice sound_;
     StatusLine status_;

@@ -1,6 +1,5 @@
 #include "platform/program_folder.hpp"
 #include "ui/front_end.hpp"
-#include "ui/look/game_icon.hpp"
 #include "ui/machine/one_game.hpp"
 #include "ui/start_options.hpp"
 
@@ -83,7 +82,6 @@ int main(int argc, char** argv)
     QApplication::setApplicationName("lexigrove");
     QApplication::setApplicationVersion(LEXIGROVE_VERSION);
     QApplication::setDesktopFileName("lexigrove");
-    QApplication::setWindowIcon(gameIcon());
     try {
         return play(options);
     } catch (const ProgramFolderError& error) {

@@ -2,6 +2,7 @@
 
 #include "flow/game_parts.hpp"
 #include "flow/study.hpp"
+#include "record/continue_form.hpp"
 #include "tests/support/quiet_ports.hpp"
 #include "tests/support/temporary_folder.hpp"
 
@@ -19,6 +20,8 @@ public:
     std::vector<std::string> shown;
     std::function<void(OptionsForm&)> onOptions = [](OptionsForm& form) { form.pressStart(); };
     std::function<void(HintsForm&)> onHints = [](HintsForm& form) { form.pressClose(); };
+    std::function<void(ContinueForm&)> onContinue = [](ContinueForm& form) { form.accepted = true; };
+    std::function<void(ReviewForm&)> onReview = [](ReviewForm& form) { form.pressClose(); };
 
     void show(OptionsForm& form) override
     {
@@ -35,6 +38,21 @@ public:
     {
         shown.push_back(form.Caption);
         onHints(form);
+    }
+    void show(ContinueForm& form) override
+    {
+        shown.emplace_back(ContinueForm::question);
+        onContinue(form);
+    }
+    void show(PastGamesForm& form) override
+    {
+        shown.push_back("past games " + std::to_string(form.rows().size()));
+        form.pressClose();
+    }
+    void show(ReviewForm& form) override
+    {
+        shown.push_back(form.caption());
+        onReview(form);
     }
     void show(const MeaningForm& form) override { shown.push_back("meaning " + form.address); }
     void show(const StatisticsForm& /*form*/) override { shown.emplace_back("statistics"); }

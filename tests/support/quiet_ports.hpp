@@ -24,6 +24,7 @@ public:
     int timesBusy = 0;
     bool busy = false;
     int mostLocks = 0;
+    std::string clipboard;
     std::function<void()> onStep = [] {};
     std::function<void()> onWait = [] {};
 
@@ -36,6 +37,8 @@ public:
     }
     void lockBoardUpdates(bool locked) override { mostLocks = std::max(mostLocks, locks_ += locked ? 1 : -1); }
     void waitForAnyInput() override { onWait(); }
+    void copyText(const std::string& text) override { clipboard = text; }
+    [[nodiscard]] std::string copiedText() const override { return clipboard; }
     void inputEnded() override {}
 
 private:

@@ -192,6 +192,7 @@ TEST_F(DialogTest, TheAboutBoxClosesThreeWays)
 {
     script.in("AboutForm", [](QDialog& dialog) {
         EXPECT_TRUE(dialog.findChild<QLabel*>("AboutText")->text().contains("LexiGrove - January 2005"));
+        EXPECT_FALSE(dialog.findChild<QLabel*>("Picture")->pixmap().isNull()) << "the toolkit reads the icon's SVG";
         QTest::keyClick(&dialog, Qt::Key_Escape);
     });
     script.click("AboutForm", "AboutText").click("AboutForm", "AboutOk");

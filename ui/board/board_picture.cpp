@@ -3,6 +3,7 @@
 #include "game/position.hpp"
 #include "game/tile_look.hpp"
 
+#include <QPaintEvent>
 #include <QPainter>
 
 namespace lexigrove

@@ -78,7 +78,9 @@ QRectF BoardView::placeOf(const BoardSpot& spot) const
 
 BoardMarks BoardView::currentMarks() const
 {
-    BoardMarks marks{{}, flow_.view().letterSwap.tile(), flow_.view().dropRow.guideColumn(), 0};
+    BoardMarks marks;
+    marks.swapTile = flow_.view().letterSwap.tile();
+    marks.guideColumn = flow_.view().dropRow.guideColumn();
     for (int col = 1; flow_.inGame() && col <= Board::columns; ++col) {
         const bool waits = board_.waiting(col).Visible();
         if (waits && !board_.tile(1, col).Visible())

@@ -1,12 +1,11 @@
 #include "ui/dialogs/dialogs.hpp"
 #include "ui/dialogs/form_dialog.hpp"
-#include "ui/look/game_icon.hpp"
 #include "ui/look/text.hpp"
 
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMouseEvent>
-#include <QPainter>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -17,19 +16,6 @@ namespace lexigrove
 
 namespace
 {
-
-class Picture : public QWidget
-{
-public:
-    Picture() { setFixedSize(16 * Theme::grid, 16 * Theme::grid); }
-
-protected:
-    void paintEvent(QPaintEvent*) override
-    {
-        QPainter painter(this);
-        paintGameIcon(painter, rect());
-    }
-};
 
 /// A label that reports clicks on it.
 class ClickedLabel : public QLabel
@@ -58,7 +44,9 @@ class AboutDialog : public FormDialog
 public:
     explicit AboutDialog(Host& gameHost) : FormDialog(gameHost, "AboutForm", "About LexiGrove")
     {
-        auto* const picture = new Picture;
+        auto* const picture = new QLabel;
+        picture->setPixmap(
+            QApplication::windowIcon().pixmap({16 * Theme::grid, 16 * Theme::grid}, devicePixelRatioF()));
         picture->setObjectName("Picture");
         auto* const AboutText = new ClickedLabel(aboutText);
         AboutText->setObjectName("AboutText");

@@ -41,7 +41,7 @@ BoxButton::BoxButton(BoxControl& control, const Theme& theme, QWidget* parent)
 {
     setCursor(Qt::ArrowCursor);
     setFocusPolicy(Qt::TabFocus); // a click does not move the focus
-    setAttribute(Qt::WA_Hover);
+    setAttribute(Qt::WA_Hover);   // repaints when the pointer comes and goes
     connect(&theme, &Theme::changed, this, [this] { update(); });
     connect(this, &QAbstractButton::clicked, this, [this] { control_.clicked(); });
     synchronise();
@@ -66,7 +66,7 @@ void BoxButton::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
     const BoxPainter box(theme_);
-    box.paintFace(painter, control_, rect(), hovered_ && isEnabled());
+    box.paintFace(painter, control_, rect(), underMouse() && isEnabled());
     box.paintCaption(painter, control_, rect(), Theme::quietTextSize + 1);
     if (hasFocus()) {
         painter.setPen(toQColor(theme_.colours().accent));
@@ -100,20 +100,6 @@ void BoxButton::resizeEvent(QResizeEvent* event)
 {
     control_.Move(control_.Left(), control_.Top(), width() * unitsPerPixel, height() * unitsPerPixel);
     QAbstractButton::resizeEvent(event);
-}
-
-void BoxButton::enterEvent(QEnterEvent* event)
-{
-    hovered_ = true;
-    QAbstractButton::enterEvent(event);
-    update();
-}
-
-void BoxButton::leaveEvent(QEvent* event)
-{
-    hovered_ = false;
-    QAbstractButton::leaveEvent(event);
-    update();
 }
 
 } // namespace lexigrove

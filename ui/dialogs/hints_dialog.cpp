@@ -74,7 +74,7 @@ private:
     void play(Action action)
     {
         input(action);
-        host.showModels();
+        emit host.modelsChanged();
     }
 
     BoxButton* newBox(BoxControl& control, const char* objectName)
@@ -86,7 +86,7 @@ private:
 
     void placeBesideBoard()
     {
-        const QWidget* const main = host.mainWindow();
+        const QWidget* const main = host.mainWindow;
         const QWidget* const board = main != nullptr ? main->findChild<QWidget*>("Picture1") : nullptr;
         if (board == nullptr)
             return;

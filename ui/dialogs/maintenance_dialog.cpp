@@ -1,9 +1,9 @@
 #include "dictionary/maintenance.hpp"
 #include "ui/dialogs/dialogs.hpp"
 #include "ui/dialogs/form_dialog.hpp"
-#include "ui/dialogs/word_list_model.hpp"
 #include "ui/look/text.hpp"
 
+#include <QAbstractListModel>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -25,6 +25,35 @@ namespace
 {
 
 using maintenance_text::ControlText;
+
+/// The rows of the word list. It stores no texts itself.
+class WordListModel : public QAbstractListModel
+{
+public:
+    explicit WordListModel(const FilteredWords& words) : words_(words) {}
+
+    /// The words were filled, cleared or searched.
+    void refresh()
+    {
+        beginResetModel();
+        shownRows_ = words_.rowCount();
+        endResetModel();
+    }
+
+    [[nodiscard]] int rowCount(const QModelIndex& parent) const override { return parent.isValid() ? 0 : shownRows_; }
+
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override
+    {
+        // In the middle of an operation there can be fewer words than rows still shown.
+        if (role != Qt::DisplayRole || !index.isValid() || index.row() >= words_.rowCount())
+            return {};
+        return toQString(words_.row(index.row()));
+    }
+
+private:
+    const FilteredWords& words_;
+    int shownRows_ = 0;
+};
 
 /// Rows with some padding, all of the same height.
 class WordDelegate : public QStyledItemDelegate

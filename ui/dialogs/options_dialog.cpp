@@ -254,7 +254,7 @@ private:
                 [this](int index) { preview_->setScheme(listed_.at(static_cast<std::size_t>(index))); });
         connect(Combo1_, &QComboBox::textActivated, this, [this](const QString& name) {
             input([&] { form_.chooseScheme(pathFromQString(name)); });
-            host.showModels();
+            emit host.modelsChanged();
         });
         Combo1_->closed = [this] { preview_->setScheme(form_.scheme()); };
     }

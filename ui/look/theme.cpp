@@ -3,6 +3,7 @@
 #include "settings/readable_colours.hpp"
 
 #include <QApplication>
+#include <QIcon>
 #include <QPainter>
 #include <QPalette>
 #include <QStyleFactory>
@@ -207,6 +208,7 @@ QColor toQColor(Colour colour)
 Theme::Theme() : desktop_(desktopPalette())
 {
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/lexigrove.svg")));
 }
 
 void Theme::apply(const ColourScheme& scheme)

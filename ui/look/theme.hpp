@@ -14,8 +14,8 @@ namespace lexigrove
 {
 
 /// The look that all windows share: colours derived from the current scheme, fonts, measures. It colours the whole
-/// application (palette and style sheet), so a window of ordinary widgets needs nothing else. A widget that paints
-/// itself takes its colours from here and repaints on `changed`.
+/// application (palette, style sheet and icon), so a window of ordinary widgets needs nothing else. A widget that
+/// paints itself takes its colours from here and repaints on `changed`.
 ///
 /// The style sheet knows some dynamic properties, set before a widget is shown: "primary" (true) on a window's main
 /// button, "card" (true) on a QFrame that is a card, "quiet" (true) on a QLabel that is less prominent.

@@ -1,7 +1,6 @@
 #include "ui/machine/host.hpp"
 
 #include <QApplication>
-#include <QWidget>
 
 namespace lexigrove
 {
@@ -10,10 +9,9 @@ QWidget* Host::dialogParent() const
 {
     if (QWidget* const onTop = QApplication::activeModalWidget())
         return onTop;
-    QWidget* const window = mainWindow();
-    if (window != nullptr)
-        window->show();
-    return window;
+    if (mainWindow != nullptr)
+        mainWindow->show();
+    return mainWindow;
 }
 
 } // namespace lexigrove

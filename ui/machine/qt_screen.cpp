@@ -29,7 +29,7 @@ QtScreen::QtScreen(Host& host) : host_(host)
 
 void QtScreen::showAndRunEvents()
 {
-    host_.showModels();
+    emit host_.modelsChanged();
     QApplication::processEvents(QEventLoop::ExcludeUserInputEvents); // clicks wait until the rules are done
     shown_ = SteadyClock::now(); // taken after painting: however slow that is, the rules get their share
     host_.gate.checkpoint();
@@ -73,7 +73,7 @@ void QtScreen::setBusyPointer(bool busy)
 
 void QtScreen::waitForAnyInput()
 {
-    host_.showModels();
+    emit host_.modelsChanged();
     QEventLoop loop;
     struct Waiting {
         Waiting(QEventLoop*& place, QEventLoop& value) : place_(place) { place_ = &value; }

@@ -36,7 +36,7 @@ public:
 
     void copyText(const std::string& text) override;
     [[nodiscard]] std::string copiedText() const override;
-    void inputEnded() override { host_.inputEnded(); }
+    void inputEnded() override { emit host_.inputEnded(); }
 
     /// 250 rounds, the delay that the game starts with, make a step of ten milliseconds.
     static constexpr std::chrono::microseconds roundLength{40};

@@ -4,10 +4,7 @@
 #include "ui/machine/modules.hpp"
 #include "ui/machine/sound_player.hpp"
 
-#include <QCoreApplication>
 #include <QDeadlineTimer>
-#include <QFileInfo>
-#include <QPluginLoader>
 #include <QTimer>
 
 #include <string_view>
@@ -40,15 +37,9 @@ void handleMessage(QtMsgType type, const QMessageLogContext& context, const QStr
 
 std::unique_ptr<SoundPlayer> loadPlayer()
 {
-    for (const QString& folder : moduleFolders()) {
-        const QString file = folder + "/lexigrove-sound.so";
-        if (!QFileInfo::exists(file))
-            continue;
-        QPluginLoader loader(file);
-        if (auto* module = qobject_cast<SoundModule*>(loader.instance()))
-            return module->newPlayer();
-    }
-    return nullptr;
+    QString failure; // nobody needs to know why nothing is heard
+    auto* const module = qobject_cast<SoundModule*>(loadModule("lexigrove-sound", moduleFolders(), failure));
+    return module != nullptr ? module->newPlayer() : nullptr;
 }
 
 } // namespace

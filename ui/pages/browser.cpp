@@ -1,9 +1,5 @@
 #include "ui/pages/browser.hpp"
 
-#include <QCoreApplication>
-#include <QFileInfo>
-#include <QPluginLoader>
-
 #include <cstdio>
 #include <utility>
 
@@ -51,20 +47,9 @@ std::unique_ptr<BrowserPage> BrowserLoader::newPage(const BrowserPageSetup& setu
 
 BrowserModule* BrowserLoader::module()
 {
-    if (module_ != nullptr)
-        return module_;
-    failure_ = "The module lexigrove-browser is not installed.";
-    for (const QString& folder : folders_) {
-        const QString file = folder + "/lexigrove-browser.so";
-        if (!QFileInfo::exists(file))
-            continue;
-        QPluginLoader loader(file);
-        module_ = qobject_cast<BrowserModule*>(loader.instance());
-        if (module_ != nullptr)
-            return module_;
-        failure_ = loader.errorString();
-    }
-    return nullptr;
+    if (module_ == nullptr)
+        module_ = qobject_cast<BrowserModule*>(loadModule("lexigrove-browser", folders_, failure_));
+    return module_;
 }
 
 } // namespace lexigrove

@@ -10,25 +10,6 @@
 namespace lexigrove
 {
 
-namespace
-{
-
-/// The lines of the clock: four digits of seven segments, and the two dots.
-template <typename Paint>
-void forEachLine(Paint paint)
-{
-    constexpr int digits = 4;
-    constexpr int segments = 7;
-    for (int digit = 0; digit < digits; ++digit) {
-        for (int segment = 0; segment < segments; ++segment)
-            paint(10 * digit + segment);
-    }
-    paint(Dc::upperDot);
-    paint(Dc::lowerDot);
-}
-
-} // namespace
-
 ClockView::ClockView(const Dc& clock, QWidget* parent) : QWidget(parent), clock_(clock)
 {
     setObjectName("Dc1");
@@ -53,14 +34,14 @@ void ClockView::paintEvent(QPaintEvent* /*event*/)
     painter.setRenderHint(QPainter::Antialiasing);
     painter.translate((width() - Dc::Width * scale) / 2, (height() - clock_.Shapet().size.height * scale) / 2);
     painter.scale(scale, scale);
-    forEachLine([&](int index) {
+    for (int index = 0; index <= Dc::lowerDot; ++index) {
+        if (!Dc::hasLine(index) || !clock_.lin2(index).visible)
+            continue;
         const ClockLine line = clock_.lin2(index);
-        if (!line.visible)
-            return;
         const double thickness = line.thickness * unitsPerPixel;
         painter.setPen(QPen(toQColor(line.colour), thickness, Qt::SolidLine, Qt::RoundCap));
         painter.drawLine(line.from.x, line.from.y, line.to.x, line.to.y);
-    });
+    }
 }
 
 void ClockView::focusInEvent(QFocusEvent* event)

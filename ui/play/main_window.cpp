@@ -43,13 +43,10 @@ MainWindow::MainWindow(Host& host, GameFlow& flow, const StatusLine& status) : h
     saving_ = new QTimer(this);
     saving_->setSingleShot(true);
     connect(saving_, &QTimer::timeout, this, [this] { flow_.saveIfChanged(); });
-    host_.setView(this);
+    host_.mainWindow = this;
+    connect(&host_, &Host::modelsChanged, this, &MainWindow::showModels);
+    connect(&host_, &Host::inputEnded, this, &MainWindow::inputEnded);
     showModels();
-}
-
-MainWindow::~MainWindow()
-{
-    host_.setView(nullptr);
 }
 
 void MainWindow::addMenus()

@@ -17,19 +17,12 @@ namespace lexigrove
 {
 
 /// The main window: passes keys, menus and ticks to the flow, and shows the models after every input.
-class MainWindow : public QMainWindow, public ModelsView
+class MainWindow : public QMainWindow
 {
     Q_OBJECT
 
 public:
     MainWindow(Host& host, GameFlow& flow, const StatusLine& status);
-    ~MainWindow() override;
-    MainWindow(const MainWindow&) = delete;
-    MainWindow& operator=(const MainWindow&) = delete;
-
-    void showModels() override;
-    void inputEnded() override;
-    QWidget* widget() override { return this; }
 
     [[nodiscard]] BoardView& board() { return *area_->board; }
 
@@ -48,6 +41,8 @@ private:
         QAction* action;
     };
 
+    void showModels();
+    void inputEnded();
     void addMenus();
     void addCornerButton(QHBoxLayout& row, const QString& name, const QString& caption, Command command);
     void connectArea();
