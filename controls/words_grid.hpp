@@ -24,7 +24,7 @@ struct WordsRow {
     int score = 0;
     std::string word = {};
     Maker maker = Maker::Player;
-    std::vector<std::uint8_t> path = {}; ///< the tile numbers of a hint, in order; empty for a word that was made
+    std::vector<std::uint8_t> path = {}; ///< the tile numbers of a hint, in order; empty for a word already made
 
     friend bool operator==(const WordsRow&, const WordsRow&) = default;
 };
@@ -51,7 +51,7 @@ public:
     /// Takes the rows of another grid; the revision goes on from this one's.
     WordsGrid& operator=(const WordsGrid& other);
 
-    /// Leaves the heading row alone and makes it the current row. The sort mark stays.
+    /// Removes all words. The heading becomes the current row, and the sort mark stays.
     void clear();
 
     /// Adds a row below all others, or directly below the heading.
@@ -61,7 +61,7 @@ public:
     /// Takes rows as they stand, with their numbers, the topmost first; the heading is the current row.
     void assign(std::vector<WordsRow> rows);
 
-    /// The number of rows, the heading counted: 1 for an empty grid.
+    /// The number of rows including the heading: 1 for an empty grid.
     [[nodiscard]] int Rows() const { return static_cast<int>(rows_.size()) + 1; }
 
     /// A word's row, 1 to Rows - 1. Throws std::out_of_range otherwise.

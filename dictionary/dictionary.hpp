@@ -68,7 +68,7 @@ public:
     /// A number for the loaded words, the same for the same words on every machine.
     [[nodiscard]] std::uint64_t fingerprint() const;
 
-    /// The dictionary file table: 0 the user dictionary, 1 to 3 the levels. Names without a folder lie in the program
+    /// The dictionary file table: 0 the user dictionary, 1 to 3 the levels. Names without a folder are in the program
     /// folder.
     std::array<std::string, 4> fileTable;
 

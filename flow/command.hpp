@@ -20,12 +20,12 @@ enum class Command {
     PastGames,    ///< shows the games that are over
     LookBack,     ///< shows the last game that is over
     KeepForLater, ///< leaves the program and keeps the game for the next start
-    Pause,        ///< pauses and resumes
+    Pause,        ///< pauses or resumes
     Sound,        ///< switches the sound on or off
     Exit,         ///< offers the score, saves the configuration and ends the program; closing the window does the same
     EnterWord,    ///< `EnterWord`
     ClearWord,    ///< Esc: cancels a letter swap, else clears the path
-    TakeBack,     ///< takes the last tile off the path
+    TakeBack,     ///< removes the last tile from the path
     GetHint,      ///< `Hintx`
     CheckWord,    ///< `CheckDict`
     ShowMeaning,  ///< of the current word of `WordsMade`

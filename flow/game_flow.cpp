@@ -257,6 +257,7 @@ void GameFlow::endOfGame(GameEnd end)
 {
     GameParts& p = *parts_;
     recordGame(end);
+    forgetSavedGame();
     p.sounds.play(cue::menu);
     PresetLetters& preset = p.options.settings.presetLetters;
     if (preset.isNormalGame()) {
@@ -281,7 +282,7 @@ void GameFlow::clockExpired()
 {
     if (!inGame_ || !parts_->game.state.computerGame)
         return;
-    parts_->Dc1.SuspendCountDown(); // told once
+    parts_->Dc1.SuspendCountDown(); // reported once
     parts_->game.letterSwap.cancel();
     parts_->ports.dialogs.message("Game over\r\n5 minutes have elapsed");
     showWinner(parts_->game.state, parts_->ports.status);
@@ -303,7 +304,8 @@ void GameFlow::leave()
             offerScore(*parts_);
     });
     recordGame(GameEnd::Left);
-    forgetSavedGame();
+    if (inGame_)
+        forgetSavedGame(); // one that was not continued waits for the next start, until another game begins
     despiteLeaving([this] { parts_->configuration.save(); });
     parts_->sounds.play(cue::thanks);
     throw ProgramEnd();

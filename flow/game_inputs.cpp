@@ -164,7 +164,7 @@ void GameFlow::drop(int col)
 void GameFlow::typeLetter(char letter)
 {
     input(When::InPlay, [=](GameParts& p) {
-        p.game.letterSwap.cancel(); // typing is another action
+        p.game.letterSwap.cancel(); // typing counts as another action
         extendWord(p.game, letter);
     });
 }

@@ -117,10 +117,8 @@ bool GameFlow::continueKept()
         return false;
     }
     p.ports.windows.show(form);
-    if (!form.accepted) {
-        p.savedGame.remove();
+    if (!form.accepted)
         return false;
-    }
     continueFrom(form.game.position);
     return true;
 }
@@ -263,6 +261,7 @@ void GameFlow::gameBegun()
         textOf(Day(p.ports.clock.today())) + " " + twoDigits(seconds / 3600) + ":" + twoDigits(seconds / 60 % 60);
     startClock(gameSeconds);
     inGame_ = true;
+    forgetSavedGame(); // one that was not continued
 }
 
 } // namespace lexigrove

@@ -27,7 +27,7 @@ public:
     /// The start value of `TilesLeft`. The queue of a square board holds four letters more.
     static int startCount(Arrangement arrangement) { return arrangement == Arrangement::Staggered ? 32 : 24; }
 
-    /// Takes the first letter off the queue; the empty text when the queue is empty.
+    /// Takes the first letter off the queue; an empty string if there is none.
     std::string nextLetter();
 
     /// Puts a new letter in each empty place of the drop row and counts `TilesLeft` down. A game against the computer

@@ -31,7 +31,7 @@ std::vector<std::string> readLines(const std::string& path);
 enum class Durability { Flushed, Written };
 
 /// Replaces the file whole or not at all: writes a temporary file beside it, flushes it to the disk and renames it over
-/// the target. After a failure (FileError) or a crash at any moment the old file stands as it was.
+/// the target. After a failure (FileError) or a crash at any moment the old file is intact.
 void replaceFile(const std::string& path, std::string_view bytes, Durability durability = Durability::Flushed);
 
 /// `replaceFile` of the lines, each ended by CR LF.

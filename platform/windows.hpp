@@ -15,8 +15,8 @@ class StatisticsForm;
 struct ContinueForm;
 struct MeaningForm;
 
-/// The windows that the rules open, as a front end shows them. All but the help window are modal: the call returns when
-/// the form has been hidden or the window closed, and throws `Leaving` when the player closed the main window
+/// The windows that the rules open, as a front end shows them. All except the help window are modal: the call returns
+/// when the form has been hidden or the window closed, and throws `Leaving` if the player closed the main window
 /// meanwhile.
 class Windows
 {
@@ -26,7 +26,7 @@ public:
     /// The question whether the last game goes on; the form holds the answer.
     virtual void show(ContinueForm& form) = 0;
 
-    /// Returns when `Startx` or `Exitx` has hidden the form; the form holds which.
+    /// Returns when `Startx` or `Exitx` has hidden the form; the form knows which.
     virtual void show(OptionsForm& form) = 0;
 
     /// Activates the form, and returns when one of its buttons has hidden it (closing it is `CloseForm`).

@@ -81,7 +81,7 @@ public:
     /// Looks back on the last game; the dialog is shown again afterwards.
     void pressLookBack() { hide(Answer::LookBack); }
 
-    /// Called before the dialog is shown; empties the answer.
+    /// Called before the dialog is shown; clears the answer.
     void open(LookBack lookBack = LookBack::Hidden);
     [[nodiscard]] bool offersLookBack() const { return lookBack_ == LookBack::Offered; }
     [[nodiscard]] bool isVisible() const { return visible_; }
