@@ -37,6 +37,7 @@ enum class Command {
     AskPassword,  ///< F1: the developer's password
     ExportWords,  ///< see `Dictionary::exportWords`
 };
+constexpr Command lastCommand = Command::ExportWords;
 
 /// The keys that set the drop-animation delay in developer mode.
 enum class DeveloperKey { End, NumpadMinus, NumpadPlus, Home };

@@ -12,7 +12,8 @@ class StatusLine
 public:
     virtual ~StatusLine() = default;
 
-    /// ShowStatus: puts the message into `Label1` and makes the icon visible.
+    /// ShowStatus: puts the message into `Label1` and makes the icon visible, for a refusal or what the player must
+    /// note.
     void show(const std::string& message)
     {
         Warn = true;
