@@ -100,15 +100,8 @@ const GameFlow::Entry& GameFlow::entryOf(Command command)
         Entry{Command::ExportWords, When::InPlay, Ends,
               [](Flow&, Parts& p) { (void)p.dictionary.exportWords(p.ports.dialogs, p.ports.random, p.ports.clock); }},
     };
-    static_assert(
-        [] {
-            for (std::size_t i = 0; i < entries.size(); ++i)
-                if (entries[i].command != static_cast<Command>(i))
-                    return false;
-            return entries.back().command == lastCommand;
-        }(),
-        "a row for each command, in their order");
-    return entries[static_cast<std::size_t>(command)];
+    static_assert(entries.size() == static_cast<std::size_t>(lastCommand) + 1, "a row for each command");
+    return *std::find_if(entries.begin(), entries.end(), [=](const Entry& entry) { return entry.command == command; });
 }
 
 When GameFlow::timeOf(Command command)

@@ -12,8 +12,7 @@ class StatusLine
 public:
     virtual ~StatusLine() = default;
 
-    /// ShowStatus: puts the message into `Label1` and makes the icon visible, for a refusal or what the player must
-    /// note.
+    /// ShowStatus: puts the message into `Label1` and makes the icon visible: the player should note it.
     void show(const std::string& message)
     {
         Warn = true;
