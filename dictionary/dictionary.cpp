@@ -3,6 +3,7 @@
 #include "dictionary/maintained_format.hpp"
 #include "dictionary/sorting_list.hpp"
 #include "dictionary/word_text.hpp"
+#include "platform/hash.hpp"
 #include "platform/leaving.hpp"
 #include "platform/text_file.hpp"
 
@@ -96,13 +97,9 @@ std::uint64_t Dictionary::fingerprint() const
 {
     if (fingerprint_ != 0 && fingerprinted_.isCopyOf(words))
         return fingerprint_;
-    std::uint64_t hash = 14'695'981'039'346'656'037U;
-    const auto add = [&hash](char c) { hash = (hash ^ static_cast<unsigned char>(c)) * 1'099'511'628'211U; };
-    for (int i = 1; i <= words.count(); ++i) {
-        for (const char c : words.entry(i))
-            add(c);
-        add('\n');
-    }
+    std::uint64_t hash = hashOf({});
+    for (int i = 1; i <= words.count(); ++i)
+        hash = hashOf("\n", hashOf(words.entry(i), hash));
     fingerprinted_ = words;
     return fingerprint_ = hash;
 }

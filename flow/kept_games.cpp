@@ -34,8 +34,7 @@ void expectWholeBoard(const BoardPosition& board)
         throw PositionError("level: this board was made for somebody's own dictionary");
     for (int tile = 1; tile <= Board::tileCount; ++tile) {
         const BoardPosition::Cell& cell = board.cells[static_cast<std::size_t>(tile)];
-        const bool inPlay =
-            board.arrangement == Arrangement::Square || Board::row(tile) < Board::rows || Board::col(tile) % 2 == 0;
+        const bool inPlay = Board::row(tile) <= Board::columnHeight(board.arrangement, Board::col(tile));
         if (inPlay && (letterIndex(cell.letter) == 0 || cell.multiplier != multiplier::plain))
             throw PositionError("board, column " + std::to_string(Board::col(tile)) + ", row " +
                                 std::to_string(Board::row(tile)) + ": a board begins with a plain letter here");

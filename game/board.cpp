@@ -8,11 +8,6 @@ namespace lexigrove
 namespace
 {
 
-bool isShortColumn(Arrangement arrangement, int col)
-{
-    return arrangement == Arrangement::Staggered && col % 2 == 1;
-}
-
 int valueOf(const std::string& letter)
 {
     return letter.empty() ? 0 : letterValue(letter.front());
@@ -78,7 +73,7 @@ void Board::clear()
 /// Short columns are shifted down by half a cell.
 int Board::cellTop(int row, int col) const
 {
-    const int shift = isShortColumn(arrangement_, col) ? layout::cellSize / 2 : 0;
+    const int shift = columnHeight(col) < rows ? layout::cellSize / 2 : 0;
     return layout::boardTop + (row - 1) * layout::cellSize + shift;
 }
 
@@ -90,11 +85,6 @@ NeighbourList Board::neighbours(int tile) const
             visible.append(neighbour);
     }
     return visible;
-}
-
-int Board::columnHeight(int col) const
-{
-    return isShortColumn(arrangement_, col) ? 7 : 8;
 }
 
 int Board::emptyCells(int col) const

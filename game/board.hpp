@@ -56,7 +56,11 @@ public:
     [[nodiscard]] Arrangement arrangement() const { return arrangement_; }
 
     /// 8, or 7 for an odd column in the Staggered arrangement.
-    [[nodiscard]] int columnHeight(int col) const;
+    [[nodiscard]] static constexpr int columnHeight(Arrangement arrangement, int col)
+    {
+        return arrangement == Arrangement::Staggered && col % 2 == 1 ? rows - 1 : rows;
+    }
+    [[nodiscard]] int columnHeight(int col) const { return columnHeight(arrangement_, col); }
 
     /// Whether the arrangement uses the tile.
     [[nodiscard]] bool isInPlay(int tile) const { return row(tile) <= columnHeight(col(tile)); }

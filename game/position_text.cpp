@@ -1,5 +1,6 @@
 #include "game/board.hpp"
 #include "game/board_position.hpp"
+#include "platform/ascii.hpp"
 
 #include <algorithm>
 #include <vector>
@@ -10,22 +11,7 @@ namespace lexigrove
 namespace
 {
 
-char toUpper(char c)
-{
-    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
-}
-
-bool isUpper(char c)
-{
-    return c >= 'A' && c <= 'Z';
-}
-
 constexpr std::string_view arrangementNames[] = {"square", "staggered"};
-
-int columnHeight(Arrangement arrangement, int col)
-{
-    return arrangement == Arrangement::Staggered && col % 2 == 1 ? Board::rows - 1 : Board::rows;
-}
 
 /// The characters of a text one after the other, with the field that they belong to for errors.
 class FieldReader
@@ -42,8 +28,8 @@ public:
     {
         if (atEnd())
             fail("ends too soon");
-        const char c = toUpper(next());
-        if (!isUpper(c) && others.find(c) == std::string_view::npos) {
+        const char c = ascii::toUpper(next());
+        if (!ascii::isUpper(c) && others.find(c) == std::string_view::npos) {
             --place_;
             fail(std::string("'") + peek() + "' is no letter");
         }
@@ -81,7 +67,7 @@ void readBoard(FieldReader field, BoardPosition& position)
     for (int col = 1; col <= Board::columns; ++col) {
         if (col > 1)
             field.expect('/');
-        for (int row = 1; row <= columnHeight(position.arrangement, col); ++row) {
+        for (int row = 1; row <= Board::columnHeight(position.arrangement, col); ++row) {
             BoardPosition::Cell& cell = position.cells[static_cast<std::size_t>(Board::Grid(row, col))];
             cell.letter = field.letter("._");
             if (cell.letter == BoardPosition::none)
@@ -119,7 +105,7 @@ std::string textOf(const BoardPosition& position)
     for (int col = 1; col <= Board::columns; ++col) {
         if (col > 1)
             text += '/';
-        for (int row = 1; row <= columnHeight(position.arrangement, col); ++row) {
+        for (int row = 1; row <= Board::columnHeight(position.arrangement, col); ++row) {
             const BoardPosition::Cell& cell = position.cells[static_cast<std::size_t>(Board::Grid(row, col))];
             text += cell.letter;
             if (cell.multiplier == multiplier::red)

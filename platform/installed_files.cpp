@@ -1,9 +1,9 @@
 #include "platform/installed_files.hpp"
 
+#include "platform/hash.hpp"
 #include "platform/text_file.hpp"
 
 #include <algorithm>
-#include <cstdint>
 #include <filesystem>
 #include <map>
 #include <vector>
@@ -26,15 +26,9 @@ struct ManifestEntry {
 };
 using Manifest = std::map<std::string, ManifestEntry>;
 
-/// 64-bit FNV-1a: detects changed files, but is no defence against forgery.
 std::string checksum(const std::string& path)
 {
-    std::uint64_t sum = 14695981039346656037U;
-    for (const char byte : readFile(path)) {
-        sum ^= static_cast<unsigned char>(byte);
-        sum *= 1099511628211U;
-    }
-    return std::to_string(sum);
+    return std::to_string(hashOf(readFile(path)));
 }
 
 std::string stampOf(const fs::path& file)

@@ -65,8 +65,7 @@ BoardPosition boardOfTheDay(Day day, int level)
     const std::string letters = lettersOfTheDay(day);
     auto letter = letters.begin();
     for (int tile = 1; tile <= Board::tileCount; ++tile) {
-        const bool shortColumn = board.arrangement == Arrangement::Staggered && Board::col(tile) % 2 == 1;
-        if (!shortColumn || Board::row(tile) < Board::rows)
+        if (Board::row(tile) <= Board::columnHeight(board.arrangement, Board::col(tile)))
             board.cells[static_cast<std::size_t>(tile)].letter = *letter++;
     }
     for (std::size_t col = 1; col < board.waiting.size(); ++col)

@@ -1,5 +1,6 @@
 #include "record/line_fields.hpp"
 
+#include "platform/hash.hpp"
 #include "platform/text_file.hpp"
 
 #include <algorithm>
@@ -41,12 +42,18 @@ void LineWriter::board(std::string_view name, const BoardPosition& value)
     line(name, textOf(value));
 }
 
+std::string LineWriter::finished()
+{
+    hash("check", hashOf(text_));
+    return text_;
+}
+
 void LineWriter::line(std::string_view name, std::string_view value)
 {
     text_.append(name).append(" ").append(value) += '\n';
 }
 
-LineReader::LineReader(std::string_view text, std::string_view firstLine) : lines_(splitLines(text))
+LineReader::LineReader(std::string_view text, std::string_view firstLine) : text_(text), lines_(splitLines(text))
 {
     const std::string_view kind = firstLine.substr(0, firstLine.rfind(' ') + 1);
     if (lines_.empty() || !lines_[0].starts_with(kind))
@@ -115,8 +122,19 @@ std::size_t LineReader::choiceIn(std::string_view name, std::span<const std::str
 
 void LineReader::expectEnd()
 {
+    std::uint64_t check = 0;
+    hash("check", check);
     if (++place_ < lines_.size())
         fail("nothing is expected here");
+}
+
+void LineReader::expectWritten(std::string_view written) const
+{
+    if (written == text_)
+        return;
+    const auto* const place = std::mismatch(text_.begin(), text_.end(), written.begin(), written.end()).first;
+    throw PositionError("line " + std::to_string(std::count(text_.begin(), place, '\n') + 1) +
+                        ": the text was changed");
 }
 
 void LineReader::fail(const std::string& what) const

@@ -46,8 +46,8 @@ public:
         line(name, names[static_cast<std::size_t>(value)]);
     }
 
-    /// What was written so far, each line ended by a line feed.
-    [[nodiscard]] const std::string& written() const { return text_; }
+    /// The whole text, each line ended by a line feed: last comes "check" with the hash of all lines above.
+    [[nodiscard]] std::string finished();
 
 private:
     void line(std::string_view name, std::string_view value);
@@ -77,7 +77,11 @@ public:
     {
         value = static_cast<Enum>(choiceIn(name, names));
     }
+    /// "check" is the last line.
     void expectEnd();
+    /// The text is what the game would write for what was read from it: its check is right, and there is nothing in it
+    /// that was passed over.
+    void expectWritten(std::string_view written) const;
 
     /// Says what is wrong with the line that was read last.
     [[noreturn]] void fail(const std::string& what) const;
@@ -87,6 +91,7 @@ private:
     [[nodiscard]] int numberIn(std::string_view text, int lowest, int highest) const;
     std::size_t choiceIn(std::string_view name, std::span<const std::string_view> names);
 
+    std::string_view text_;
     std::vector<std::string_view> lines_;
     std::size_t place_ = 0; ///< of the line read last
 };

@@ -126,7 +126,7 @@ std::string textOf(const SavedGame& game)
     kept.sorted = grid.Tag == "A" ? Sorted::Ascending : grid.Tag == "D" ? Sorted::Descending : Sorted::No;
     LineWriter writer(savedGameLine);
     visitFields(writer, game, kept);
-    return writer.written();
+    return writer.finished();
 }
 
 SavedGame savedGameOf(std::string_view text)
@@ -137,6 +137,7 @@ SavedGame savedGameOf(std::string_view text)
     visitFields(reader, game, kept);
     reader.expectEnd();
     deriveFromTurns(kept, game.position.state);
+    reader.expectWritten(textOf(game));
     return game;
 }
 
