@@ -184,6 +184,7 @@ private:
         while (bytes.find(folder_.path()) != std::string::npos)
             bytes.replace(bytes.find(folder_.path()), folder_.path().size(), "$FOLDER/");
         bytes = std::regex_replace(bytes, std::regex("[0-9]{2}/[0-9]{2}/[0-9]{2} 12:34:00"), "$$DATE 12:34:00");
+        bytes = std::regex_replace(bytes, std::regex("[0-9]{4}-[0-9]{2}-[0-9]{2} 12:34"), "$$DATE 12:34");
         bytes = std::regex_replace(bytes, std::regex("\n= " LEXIGROVE_VERSION "\n"), "\n= $$VERSION\n");
         std::string text;
         for (const char byte : bytes) {
