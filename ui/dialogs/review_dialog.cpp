@@ -15,6 +15,8 @@
 #include <QTableWidget>
 #include <QVBoxLayout>
 
+#include <array>
+
 namespace lexigrove
 {
 
@@ -78,6 +80,7 @@ protected:
             accept();
             return;
         }
+        showSummary();
         picture_->show(form_.board(), form_.litPath());
         place_->setText(form_.turn() == 0 ? tr("No word was made")
                                           : tr("Turn %1 of %2").arg(form_.turn()).arg(form_.turnCount()));
@@ -160,37 +163,51 @@ private:
         return row;
     }
 
-    static QLabel* newText(const std::string& text, bool quiet)
+    static QLabel* newText(QVBoxLayout& column, bool quiet)
     {
-        auto* const label = new QLabel(toQString(text));
+        auto* const label = new QLabel;
         label->setTextFormat(Qt::PlainText);
         label->setWordWrap(true);
         label->setProperty("quiet", quiet);
+        column.addWidget(label);
         return label;
     }
 
     void addSummary(QVBoxLayout& column)
     {
-        QLabel* const summary = newText(form_.summary(), false);
-        summary->setObjectName("Summary");
-        summary->setFont(Theme::font(16, true));
-        column.addWidget(summary);
-        for (const ReviewForm::TurnRow& left : form_.mostLeftBehind()) {
-            auto* const link = new QPushButton(toQString(ReviewForm::textOf(left)));
-            link->setFlat(true);
-            link->setStyleSheet("text-align: left; padding: 1px 0");
-            connect(link, &QPushButton::clicked, this, [this, turn = left.turn] {
-                input([this, turn] {
-                    form_.goTo(turn);
+        summary_ = newText(column, false);
+        summary_->setObjectName("Summary");
+        summary_->setFont(Theme::font(16, true));
+        for (std::size_t i = 0; i < left_.size(); ++i) {
+            auto* const link = left_[i] = new QPushButton;
+            link->setProperty("link", true);
+            link->setToolTip(tr("Show this turn with its best word"));
+            connect(link, &QPushButton::clicked, this, [this, i] {
+                input([this, i] {
+                    form_.goTo(form_.mostLeftBehind().at(i).turn);
                     form_.light(ReviewForm::Lit::Best);
                 });
             });
             column.addWidget(link);
         }
-        for (const std::string& text : {form_.rarestText(), form_.notice()}) {
-            if (!text.empty())
-                column.addWidget(newText(text, true));
+        rarest_ = newText(column, true);
+        notice_ = newText(column, true);
+    }
+
+    /// What the chosen list says of the whole game.
+    void showSummary()
+    {
+        summary_->setText(toQString(form_.summary()));
+        const std::vector<ReviewForm::TurnRow> left = form_.mostLeftBehind();
+        for (std::size_t i = 0; i < left_.size(); ++i) {
+            left_[i]->setVisible(i < left.size());
+            if (i < left.size())
+                left_[i]->setText(toQString(ReviewForm::textOf(left[i])));
         }
+        rarest_->setText(toQString(form_.rarestText()));
+        notice_->setText(toQString(form_.notice()));
+        for (QLabel* const text : {rarest_, notice_})
+            text->setHidden(text->text().isEmpty());
     }
 
     void setUpTurns()
@@ -273,6 +290,10 @@ private:
 
     ReviewForm& form_;
     BoardPicture* picture_;
+    QLabel* summary_ = nullptr;
+    std::array<QPushButton*, 3> left_{}; ///< to the turns with most left behind
+    QLabel* rarest_ = nullptr;
+    QLabel* notice_ = nullptr;
     QTableWidget* turns_;
     QLabel* there_;
     QLabel* place_;

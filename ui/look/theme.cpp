@@ -114,6 +114,8 @@ QPushButton:hover { background: @buttonHover; }
 QPushButton:pressed { background: @buttonPressed; }
 QPushButton:focus { border-color: @accent; }
 QPushButton:disabled { color: @disabled; }
+QPushButton[link="true"] { background: transparent; border: none; padding: 1px 0; text-align: left; color: @text; }
+QPushButton[link="true"]:hover, QPushButton[link="true"]:focus { text-decoration: underline; }
 QPushButton[primary="true"] { background: @accent; color: @accentText; border-color: @accent; font-weight: bold; }
 QPushButton[primary="true"]:hover { background: @accentHover; }
 QPushButton[primary="true"]:pressed { background: @accentPressed; }

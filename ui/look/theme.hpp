@@ -18,7 +18,8 @@ namespace lexigrove
 /// paints itself takes its colours from here and repaints on `changed`.
 ///
 /// The style sheet knows some dynamic properties, set before a widget is shown: "primary" (true) on a window's main
-/// button, "card" (true) on a QFrame that is a card, "quiet" (true) on a QLabel that is less prominent.
+/// button, "link" (true) on a button that reads like a text, "card" (true) on a QFrame that is a card, "quiet" (true)
+/// on a QLabel that is less prominent.
 class Theme : public QObject
 {
     Q_OBJECT
