@@ -11,6 +11,8 @@ namespace lexigrove
 namespace
 {
 
+using Context = CommandContext;
+
 const WordList& wordsOf(const CommandContext& context)
 {
     return context.flow.view().dictionary.words;
@@ -86,7 +88,6 @@ Lines loadScheme(CommandContext& context, const std::string& name)
 
 std::vector<ConsoleCommand> wordsCommands()
 {
-    using Context = CommandContext;
     const auto entry = [](Arguments& arguments) { return arguments.number("entry", 0, WordList::capacity); };
     const auto sought = [](Arguments& arguments) { return arguments.next().value_or(""); }; // the empty word is entry 0
     const auto traced = [](Arguments& arguments) { return arguments.required("word"); };

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# tidy.sh BUILD-FOLDER: runs clang-tidy over the project's C++ files that have been built there, tests aside. A file that has
-# passed is skipped until it, a header that it includes, .clang-tidy or clang-tidy itself changes.
+# tidy.sh BUILD-FOLDER: runs clang-tidy over the project's C++ that has been built there, tests aside: a folder at a time where
+# the build compiles it so. What has passed is skipped until it, a header that it includes, .clang-tidy or clang-tidy itself
+# changes.
 set -euo pipefail
 root=$(dirname "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")")
 build=$(readlink -f "$1")
@@ -12,8 +13,8 @@ if [ ! -f "$build/compile_commands.json" ]; then
 fi
 cd "$root"
 
-# Prints a line for each object file built: its source and the project's headers that it includes, as paths from the
-# root separated by tabs.
+# Prints a line for each object file built: its source and the project's files that it includes, as paths from the root
+# separated by tabs.
 dependencies() {
     ninja -C "$build" -t deps | awk -v root="$root/" '
         /^[^ ]/ { if (line != "") print line; line = ""; next }
@@ -21,7 +22,8 @@ dependencies() {
             path = $0
             if (index(path, root) == 1) path = substr(path, length(root) + 1)
             else if (!sub(/^(\.\.\/)+/, "", path)) next
-            if (path !~ /^(build|usr)\//) line = line (line == "" ? "" : "\t") path
+            if (line == "") line = path
+            else if (path !~ /^(build|usr)\//) line = line "\t" path
         }
         END { if (line != "") print line }'
 }
@@ -44,5 +46,5 @@ tidy_one() {
 export -f tidy_one
 export passed build
 
-dependencies | awk -F '\t' '$1 ~ /\.cpp$/ && $1 !~ /^(tests|bench)\/|_autogen\//' |
+dependencies | awk -F '\t' '$1 ~ /\.(cpp|cxx)$/ && $1 !~ /(^|\/)(tests|bench)\/|_autogen\//' |
     sort -u | tr '\n' '\0' | xargs -0 -r -n 1 -P "$(nproc)" bash -c 'tidy_one "$1"' tidy
