@@ -188,7 +188,8 @@ void GameFlow::askForSharedBoard()
     if (line.size() > 1000 || line.find('/') == std::string::npos)
         line.clear();
     do {
-        line = p.ports.dialogs.input("Play a Shared Board", "The line that Copy Board of the other player gave", line);
+        line = p.ports.dialogs.input("Play a Shared Board",
+                                     "Paste the line that another player has copied with Game > Copy Board", line);
     } while (!line.empty() && !beginShared(line));
 }
 

@@ -51,6 +51,10 @@ public:
     /// The rows as they are filtered and sorted.
     [[nodiscard]] const std::vector<PastGame>& rows() const { return rows_; }
     [[nodiscard]] static std::string text(const PastGame& game, Column column);
+    [[nodiscard]] static bool isNumber(Column column)
+    {
+        return column == Column::Score || column == Column::Words || column == Column::Minutes;
+    }
     /// Sorts by a column: the greatest or last first, and the other way round at the next click on the same heading.
     /// Equal rows stand the newest first.
     void headingClicked(Column column);

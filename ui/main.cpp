@@ -6,7 +6,6 @@
 #include <QApplication>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QTimer>
 
 #include <cstdio>
 
@@ -51,15 +50,18 @@ int play(const StartOptions& options)
     flow.startUp(options.arrangement);
     if (flow.ended())
         return EXIT_SUCCESS;
-    window.show();
-    QTimer::singleShot(0, &window, [&] {
+    const auto begin = [&] {
         if (options.position)
             flow.playPosition(*options.position);
         else if (options.startAtOnce)
             flow.startGame();
         else
             flow.openOrContinue();
-    });
+    };
+    // Once the window has its place on the screen, so that a dialog finds its own over it.
+    QObject::connect(&window, &MainWindow::painted, &window, begin,
+                     static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
+    window.show();
     return QApplication::exec();
 }
 

@@ -32,15 +32,18 @@ void BoardPicture::show(const BoardPosition& position, const std::vector<int>& p
 
 QSize BoardPicture::sizeHint() const
 {
-    constexpr double cell = 34;
+    constexpr double cell = 42;
     return BoardGeometry::sizeFor(cell).toSize();
 }
 
 void BoardPicture::paintEvent(QPaintEvent* event)
 {
     shape_.fit(size(), devicePixelRatioF());
+    const QPoint middle =
+        QPointF((width() - shape_.size().width()) / 2, (height() - shape_.size().height()) / 2).toPoint();
     QPainter painter(this);
-    painter_.paint(painter, marks_, event->rect());
+    painter.translate(middle);
+    painter_.paint(painter, marks_, event->rect().translated(-middle));
 }
 
 } // namespace lexigrove

@@ -4,6 +4,7 @@
 
 #include <QHBoxLayout>
 #include <QPushButton>
+#include <QScreen>
 #include <QVBoxLayout>
 
 namespace lexigrove
@@ -15,6 +16,12 @@ FormDialog::FormDialog(Host& gameHost, const char* objectName, std::string_view 
     setObjectName(objectName);
     setWindowTitle(toQString(caption));
     setWindowModality(Qt::WindowModal);
+}
+
+void FormDialog::resizeOnScreen(int width, int height)
+{
+    const QSize frame(2 * Theme::grid, 5 * Theme::grid); // what a window manager adds
+    resize(QSize(width, height).boundedTo(screen()->availableSize() - frame));
 }
 
 QVBoxLayout* FormDialog::newColumn()

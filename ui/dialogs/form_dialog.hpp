@@ -36,6 +36,9 @@ protected:
 
     void reject() override { closePressed(); }
 
+    /// Resizes the window, to no more than the screen has.
+    void resizeOnScreen(int width, int height);
+
     /// The window's layout: a column with the margins and gaps that all windows share.
     QVBoxLayout* newColumn();
 

@@ -97,7 +97,7 @@ public:
         side->addWidget(newExitButton());
         areas->addLayout(side);
         newColumn()->addLayout(areas);
-        resize(72 * Theme::grid, 64 * Theme::grid);
+        resizeOnScreen(72 * Theme::grid, 64 * Theme::grid);
 
         input([this] { form_.activate(); });
         Text1_->setFocus();

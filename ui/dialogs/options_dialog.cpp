@@ -3,16 +3,15 @@
 #include "ui/dialogs/dialogs.hpp"
 #include "ui/dialogs/form_dialog.hpp"
 #include "ui/dialogs/scheme_preview.hpp"
+#include "ui/look/arrow_box.hpp"
 #include "ui/look/text.hpp"
 
 #include <QCheckBox>
-#include <QComboBox>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
-#include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QVBoxLayout>
@@ -58,36 +57,19 @@ protected:
     }
 };
 
-/// The combo box of the schemes: it reports when its list is closed, and paints its arrow in the window colours.
-class SchemeBox : public QComboBox
+/// The combo box of the schemes: it reports when its list is closed.
+class SchemeBox : public ArrowBox
 {
 public:
-    explicit SchemeBox(const Theme& theme) : theme_(theme)
-    {
-        setStyleSheet("QComboBox::drop-down { border: none; width: 24px; } QComboBox::down-arrow { image: none; }");
-    }
+    using ArrowBox::ArrowBox;
 
     std::function<void()> closed;
 
     void hidePopup() override
     {
-        QComboBox::hidePopup();
+        ArrowBox::hidePopup();
         closed();
     }
-
-protected:
-    void paintEvent(QPaintEvent* event) override
-    {
-        QComboBox::paintEvent(event);
-        const QPointF middle(width() - 2.0 * Theme::grid, height() / 2.0);
-        QPainter painter(this);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(QPen(toQColor(theme_.colours().cardQuietText), 1.5));
-        painter.drawPolyline(QPolygonF{middle + QPointF(-4, -2), middle + QPointF(0, 2), middle + QPointF(4, -2)});
-    }
-
-private:
-    const Theme& theme_;
 };
 
 /// The listed schemes are only previewed: one that cannot be read is reported when it is chosen.

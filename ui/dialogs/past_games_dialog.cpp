@@ -2,9 +2,9 @@
 #include "ui/dialogs/dialogs.hpp"
 #include "ui/dialogs/form_dialog.hpp"
 #include "ui/dialogs/score_chart.hpp"
+#include "ui/look/arrow_box.hpp"
 #include "ui/look/text.hpp"
 
-#include <QComboBox>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -26,7 +26,7 @@ public:
         : FormDialog(gameHost, "PastGames", "Past Games"),
           form_(form),
           games_(new QTableWidget(0, PastGamesForm::columnCount)),
-          level_(new QComboBox),
+          level_(new ArrowBox(host.theme)),
           chart_(new ScoreChart(host.theme)),
           bests_(new QLabel),
           calendar_(new DayCalendar(host.theme)),
@@ -48,8 +48,8 @@ public:
         side->addStretch();
         auto* const areas = new QHBoxLayout;
         areas->setSpacing(Theme::margin);
-        areas->addWidget(games_, 3);
-        areas->addLayout(side, 2);
+        areas->addWidget(games_, 1);
+        areas->addLayout(side);
 
         QPushButton* const close = newButton("Close", "Close");
         open_->setProperty("primary", true);
@@ -62,7 +62,7 @@ public:
         column->addLayout(newButtonRow({open_, close}));
         showForm();
         games_->setFocus();
-        resize(124 * Theme::grid, 76 * Theme::grid);
+        resizeOnScreen(124 * Theme::grid, 72 * Theme::grid);
     }
 
 protected:
@@ -116,6 +116,7 @@ private:
         games_->verticalHeader()->hide();
         games_->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
         games_->horizontalHeader()->setStretchLastSection(true);
+        games_->horizontalHeader()->setFont(Theme::font(Theme::quietTextSize, true));
         games_->horizontalHeader()->setSectionsClickable(true);
         games_->horizontalHeader()->setSortIndicatorShown(true);
         QStringList headings;
@@ -150,9 +151,12 @@ private:
         games_->setRowCount(static_cast<int>(rows.size()));
         for (int row = 0; row < games_->rowCount(); ++row) {
             for (int column = 0; column < PastGamesForm::columnCount; ++column) {
-                games_->setItem(row, column,
-                                new QTableWidgetItem(toQString(PastGamesForm::text(
-                                    rows[static_cast<std::size_t>(row)], static_cast<PastGamesForm::Column>(column)))));
+                const auto kind = static_cast<PastGamesForm::Column>(column);
+                auto* const cell =
+                    new QTableWidgetItem(toQString(PastGamesForm::text(rows[static_cast<std::size_t>(row)], kind)));
+                if (PastGamesForm::isNumber(kind))
+                    cell->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+                games_->setItem(row, column, cell);
             }
         }
         games_->horizontalHeader()->setSortIndicator(static_cast<int>(form_.sortedBy()),
@@ -174,7 +178,7 @@ private:
 
     PastGamesForm& form_;
     QTableWidget* games_;
-    QComboBox* level_;
+    ArrowBox* level_;
     ScoreChart* chart_;
     QLabel* bests_;
     DayCalendar* calendar_;

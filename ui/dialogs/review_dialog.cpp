@@ -70,7 +70,7 @@ public:
         fillTurns();
         showForm();
         turns_->setFocus();
-        resize(132 * Theme::grid, 88 * Theme::grid);
+        resizeOnScreen(124 * Theme::grid, 84 * Theme::grid);
     }
 
 protected:

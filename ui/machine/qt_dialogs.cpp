@@ -6,6 +6,8 @@
 #include <QInputDialog>
 #include <QMessageBox>
 
+#include <algorithm>
+
 namespace lexigrove
 {
 
@@ -50,6 +52,7 @@ std::string QtDialogs::input(const std::string& title, const std::string& prompt
     box.setWindowTitle(toQString(title));
     box.setLabelText(withNewlines(prompt));
     box.setTextValue(toQString(defaultAnswer));
+    box.resize(std::max(box.sizeHint().width(), 56 * Theme::grid), box.sizeHint().height());
     return host_.gate.exec(box) == QDialog::Accepted ? fromQString(box.textValue()) : std::string();
 }
 

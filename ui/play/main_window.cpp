@@ -194,6 +194,12 @@ void MainWindow::closeEvent(QCloseEvent* event)
     event->setAccepted(flow_.ended());
 }
 
+void MainWindow::paintEvent(QPaintEvent* event)
+{
+    QMainWindow::paintEvent(event);
+    emit painted();
+}
+
 // ---- The models
 
 void MainWindow::showModels()

@@ -27,6 +27,7 @@ public:
     [[nodiscard]] BoardView& board() { return *area_->board; }
 
 signals:
+    void painted();
     /// The program is over.
     void ended();
 
@@ -34,6 +35,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     struct MenuEntry {
