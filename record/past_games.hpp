@@ -35,8 +35,8 @@ class PastGamesForm
 public:
     enum class Column { Date, Arrangement, Level, Kind, Score, Words, LongestWord, Minutes };
     static constexpr int columnCount = 8;
-    static constexpr std::array<const char*, columnCount> headings{"Date",  "Arrangement", "Level",        "Kind",
-                                                                   "Score", "Words",       "Longest word", "Minutes"};
+    static constexpr std::array<const char*, columnCount> headings{"Date",  "Board", "Level",   "Kind",
+                                                                   "Score", "Words", "Longest", "Min."};
 
     /// `programFolder` ends with its separator. The lists and the meanings outlive the form.
     PastGamesForm(const std::string& programFolder, ReviewLists& lists, Meanings& meanings);

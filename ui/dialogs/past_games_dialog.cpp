@@ -47,7 +47,7 @@ public:
         side->addWidget(streak_);
         side->addStretch();
         auto* const areas = new QHBoxLayout;
-        areas->setSpacing(Theme::margin);
+        areas->setSpacing(Theme::gap);
         areas->addWidget(games_, 1);
         areas->addLayout(side);
 
@@ -62,7 +62,7 @@ public:
         column->addLayout(newButtonRow({open_, close}));
         showForm();
         games_->setFocus();
-        resizeOnScreen(124 * Theme::grid, 72 * Theme::grid);
+        resizeOnScreen(126 * Theme::grid, 72 * Theme::grid);
     }
 
 protected:

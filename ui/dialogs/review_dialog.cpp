@@ -137,21 +137,22 @@ protected:
     }
 
 private:
-    QPushButton* newStep(const char* name, const char* caption, const char* toolTip, void (ReviewForm::*step)())
+    template <std::invocable Step>
+    QPushButton* newStep(const char* name, const char* caption, const char* toolTip, Step step)
     {
         QPushButton* const button = newButton(name, caption, toolTip);
         button->setAccessibleName(toolTip);
         button->setFocusPolicy(Qt::TabFocus);
-        connect(button, &QPushButton::clicked, this, [this, step] { input([this, step] { (form_.*step)(); }); });
+        connect(button, &QPushButton::clicked, this, [this, step] { input(step); });
         return button;
     }
 
     QHBoxLayout* newSteps()
     {
-        first_ = newStep("First", "|<", "First turn (Home)", &ReviewForm::first);
-        previous_ = newStep("Previous", "<", "Previous turn (Left)", &ReviewForm::previous);
-        next_ = newStep("Next", ">", "Next turn (Right)", &ReviewForm::next);
-        last_ = newStep("Last", ">|", "Last turn (End)", &ReviewForm::last);
+        first_ = newStep("First", "|<", "First turn (Home)", [this] { form_.first(); });
+        previous_ = newStep("Previous", "<", "Previous turn (Left)", [this] { form_.previous(); });
+        next_ = newStep("Next", ">", "Next turn (Right)", [this] { form_.next(); });
+        last_ = newStep("Last", ">|", "Last turn (End)", [this] { form_.last(); });
         place_->setAlignment(Qt::AlignCenter);
         auto* const row = new QHBoxLayout;
         row->setSpacing(Theme::spacing);

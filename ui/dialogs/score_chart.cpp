@@ -38,7 +38,7 @@ void ScoreChart::show(std::vector<PastGamesForm::ChartPoint> points)
 
 QSize ScoreChart::sizeHint() const
 {
-    return {31 * Theme::grid, 16 * Theme::grid};
+    return {30 * Theme::grid, 16 * Theme::grid};
 }
 
 void ScoreChart::paintEvent(QPaintEvent* /*event*/)
