@@ -233,8 +233,11 @@ void GameFlow::recordGame(GameEnd end)
         return;
     const GameRecord record = recordOf(p.game, end);
     state.begun.clear();
-    if (state.kind == GameKind::Daily)
+    if (state.kind == GameKind::Daily) {
         p.ports.screen.copyText(dailySummary(record));
+        const std::string last = p.ports.status.Warn ? p.ports.status.Label1 + "\r\n" : "";
+        p.ports.status.show(last + "A summary of this board of the day is on the clipboard");
+    }
     try {
         lastRecord_ = p.records.add(record);
     } catch (const FileError&) {
