@@ -14,7 +14,7 @@ namespace lexigrove
 namespace
 {
 
-constexpr std::string_view firstLine = "LexiGrove record 1";
+constexpr std::string_view recordLine = "LexiGrove record 1";
 constexpr std::string_view endNames[] = {"lost", "clock", "new-game", "left"};
 
 /// Every field of a record in its order, for the writer and for the reader alike.
@@ -73,7 +73,7 @@ GameRecord recordOf(const Game& game, GameEnd end)
 
 std::string textOf(const GameRecord& record)
 {
-    LineWriter writer(firstLine);
+    LineWriter writer(recordLine);
     visitFields(writer, record);
     return writer.finished();
 }
@@ -82,7 +82,7 @@ GameRecord gameRecordOf(std::string_view text)
 {
     if (text.size() > largestRecord)
         throw PositionError("line 1: a text of " + std::to_string(text.size()) + " bytes is no record");
-    LineReader reader(text, firstLine);
+    LineReader reader(text, recordLine);
     GameRecord record;
     visitFields(reader, record);
     reader.expectEnd();
