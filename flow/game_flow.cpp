@@ -94,8 +94,28 @@ void GameFlow::endEarly()
     }
 }
 
+/// A solo game without letters to come and without a word on the board would go on for ever.
+void GameFlow::tellIfNoWordIsLeft()
+{
+    GameParts& p = *parts_;
+    const Board& board = p.game.board;
+    bool letterWaits = false;
+    for (int col = 1; col <= Board::columns; ++col)
+        letterWaits = letterWaits || board.waiting(col).Visible();
+    if (!inGame_ || ended_ || noWordLeft_ || letterWaits || p.game.state.computerGame)
+        return;
+    try {
+        noWordLeft_ = p.search.sweep(snapshotOf(board), p.dictionary.words).count() == 0;
+    } catch (const std::exception&) {
+        return; // a board with too many words to count
+    }
+    if (noWordLeft_)
+        p.ports.status.tell("No more words: New Game or Exit");
+}
+
 void GameFlow::endInput()
 {
+    tellIfNoWordIsLeft();
     busy_ = false;
     parts_->ports.screen.inputEnded();
 }

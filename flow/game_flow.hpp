@@ -120,6 +120,7 @@ private:
     template <typename Rule>
     void input(When when, Rule rule);
     void endEarly();
+    void tellIfNoWordIsLeft();
     void endInput();
 
     void beginGame();
@@ -154,6 +155,7 @@ private:
     std::optional<Position> saved_; ///< the file's, without what time alone changes
     std::string lastRecord_;        ///< the file of the game that was over last, empty for none
     Keeping keeping_ = Keeping::On;
+    bool noWordLeft_ = false; ///< which was told
     bool busy_ = false;
     bool ended_ = false;
     bool inGame_ = false;

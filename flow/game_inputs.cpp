@@ -261,13 +261,20 @@ void GameFlow::tick(Timer timer)
 {
     switch (timer) {
     case Timer::Red:
-        input(When::InPlay, [](GameParts& p) { p.game.redTiles.redTimerTick(); });
+        input(When::InPlay, [](GameParts& p) {
+            if (const int tile = p.game.redTiles.redTimerTick())
+                p.ports.status.tell("A red tile in column " + std::to_string(Board::col(tile)));
+        });
         break;
     case Timer::Push:
         input(When::InPlay, [this](GameParts& p) {
+            const bool hadWord = !p.game.selection.isEmpty();
             const RedTiles::PushResult push = p.game.redTiles.pushTimerTick();
-            if (push.outcome == RedTiles::Push::Pushed)
+            if (push.outcome == RedTiles::Push::Pushed) {
                 p.game.letterSwap.cancel();
+                p.ports.status.tell("Column " + std::to_string(push.col) + " was pushed down" +
+                                    (hadWord ? ", and your word was cleared" : ""));
+            }
             if (push.outcome == RedTiles::Push::Lost)
                 loseGame(push.col);
         });

@@ -140,6 +140,7 @@ void GameFlow::continueFrom(const Position& position)
         options.settings.presetLetters.markUnrecorded();
     startClock(position.secondsLeft);
     inGame_ = true;
+    noWordLeft_ = false;
     saved_ = withoutTime(this->position());
     if (position.words != p.dictionary.fingerprint())
         p.ports.status.show("The word list has changed since this game was kept");
@@ -264,6 +265,7 @@ void GameFlow::gameBegun()
         textOf(Day(p.ports.clock.today())) + " " + twoDigits(seconds / 3600) + ":" + twoDigits(seconds / 60 % 60);
     startClock(gameSeconds);
     inGame_ = true;
+    noWordLeft_ = false;
     forgetSavedGame(); // one that was not continued
 }
 

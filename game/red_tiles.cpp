@@ -8,17 +8,17 @@
 namespace lexigrove
 {
 
-void RedTiles::redTimerTick()
+int RedTiles::redTimerTick()
 {
     if (game_.state.redTileHold || game_.state.computerGame)
-        return;
+        return 0;
     game_.ports.screen.yield();
     countUp(game_.state.tickCount);
     game_.state.pressure = pressure();
-    if (game_.state.pressure - game_.state.lastPressure >= game_.dictionary.redThreshold()) {
-        makeRedTile();
-        game_.state.lastPressure = game_.state.pressure;
-    }
+    if (game_.state.pressure - game_.state.lastPressure < game_.dictionary.redThreshold())
+        return 0;
+    game_.state.lastPressure = game_.state.pressure;
+    return makeRedTile();
 }
 
 int RedTiles::pressure() const
@@ -28,10 +28,10 @@ int RedTiles::pressure() const
            game_.state.tickCount;
 }
 
-void RedTiles::makeRedTile()
+int RedTiles::makeRedTile()
 {
     if (game_.state.redTilesOnBoard >= maxRedTiles)
-        return;
+        return 0;
     std::vector<int> candidates; // at most one per column: its topmost plain tile
     for (int col = 1; col <= Board::columns; ++col) {
         for (int row = 1; row <= game_.board.columnHeight(col); ++row) {
@@ -43,7 +43,7 @@ void RedTiles::makeRedTile()
         }
     }
     if (candidates.empty())
-        return;
+        return 0;
     const int k =
         placeFromDraw(game_.ports.random.reseedAndDraw(game_.ports.clock), static_cast<int>(candidates.size()));
     const int tile = candidates[static_cast<std::size_t>(k - 1)];
@@ -52,6 +52,7 @@ void RedTiles::makeRedTile()
     game_.refreshLook(tile);
     countUp(game_.state.redTilesMade);
     game_.dictionary.setRedThreshold(game_.dictionary.redThreshold() - 1);
+    return tile;
 }
 
 RedTiles::PushResult RedTiles::pushTimerTick()

@@ -15,15 +15,15 @@ public:
     explicit RedTiles(Game& game) : game_(game) {}
 
     /// A tick of `UpdateRedTriggerTimer`: counts, computes the pressure, and makes a red tile when it has risen by the
-    /// red threshold since the last one.
-    void redTimerTick();
+    /// red threshold since the last one. Returns the new red tile, 0 for none.
+    int redTimerTick();
 
     /// The pressure built up by words, weighted by their lengths, hints, red tiles used, and time.
     [[nodiscard]] int pressure() const;
 
     /// Turns the topmost plain tile of a random column red. Does nothing with four red tiles on the board or without a
-    /// plain tile. The next one needs a little less pressure.
-    void makeRedTile();
+    /// plain tile. The next one needs a little less pressure. Returns the tile, 0 for none.
+    int makeRedTile();
 
     enum class Push {
         Nothing, ///< held, or no special tile on the board

@@ -23,10 +23,15 @@ public:
     void write(const std::string& caption)
     {
         Label1 = caption;
+        News.clear();
         written(caption);
     }
 
+    /// Tells what has happened without the player: stands in place of the caption until the next one is written.
+    void tell(const std::string& news) { News = news; }
+
     std::string Label1;
+    std::string News;
     bool Warn = false;
 
 protected:

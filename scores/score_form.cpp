@@ -9,6 +9,7 @@ void ScoreForm::request(std::optional<int> score)
 {
     score_ = score;
     answer_ = Answer::Close;
+    ownLine_.reset();
     visible_ = true;
 }
 
@@ -24,6 +25,9 @@ void ScoreForm::activate()
         while (name.empty())
             name = dialogs_.input("LexiGrove Top 10 List", "You have made TOP 10 list, Enter your name", "");
         fillList(scores_.record(score, name));
+        const auto own = std::find(List2.begin(), List2.end(), scoreLine(score, name));
+        if (own != List2.end())
+            ownLine_ = static_cast<std::size_t>(own - List2.begin());
     }
 }
 

@@ -45,6 +45,9 @@ public:
 
     std::vector<std::string> List2; ///< the ten score lines, highest first: five digits, tab, name
 
+    /// The place in `List2` of the score just recorded.
+    [[nodiscard]] std::optional<std::size_t> ownLine() const { return ownLine_; }
+
 private:
     void fillList(const std::vector<std::string>& ascending);
     void hide(Answer answer);
@@ -53,6 +56,7 @@ private:
     Dialogs& dialogs_;
     std::optional<int> score_;
     Answer answer_ = Answer::Close;
+    std::optional<std::size_t> ownLine_;
     bool visible_ = false;
 };
 

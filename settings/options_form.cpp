@@ -245,6 +245,13 @@ void OptionsForm::applyDictionaryChoice()
     }
 }
 
+bool OptionsForm::lacksUserDictionary() const
+{
+    std::error_code failure;
+    return Option2.Value &&
+           !std::filesystem::is_regular_file(context_.folder / std::filesystem::path(UsrDictName.Text), failure);
+}
+
 void OptionsForm::enableUserDictionary(bool enabled)
 {
     UsrDictName.Enabled = enabled;

@@ -94,6 +94,9 @@ public:
     /// ApplyDictionaryChoice with this dialog's choice and file name. Without a selected choice the old one stays.
     void applyDictionaryChoice();
 
+    /// Whether "Custom" is chosen and its file is not there: a game cannot start with it.
+    [[nodiscard]] bool lacksUserDictionary() const;
+
     /// Enables or disables `UsrDictName` and `GetUserDictName`.
     void enableUserDictionary(bool enabled);
 

@@ -33,12 +33,14 @@ TEST_F(DialogTest, TopTenAsksForTheNameOverTheList)
         EXPECT_EQ(box.windowTitle(), "LexiGrove Top 10 List");
         EXPECT_EQ(box.parentWidget()->objectName(), "ScoreForm");
         EXPECT_TRUE(box.parentWidget()->isVisible());
+        EXPECT_EQ(box.parentWidget()->findChild<QListWidget*>("List2")->count(), 10) << "the list is filled";
         box.accept();
     });
     script.answer("Zo\xC3\xAB").in("ScoreForm", [&](QDialog& dialog) {
         EXPECT_EQ(dialog.windowTitle(), "LexiGrov Top 10 Scores");
         EXPECT_EQ(line(dialog, 0), "00123\tZo\xC3\xAB");
         EXPECT_EQ(line(dialog, 9), "00011\tYelka");
+        EXPECT_NE(dialog.findChild<QListWidget*>("List2")->item(0)->background(), QBrush()) << "one's own line";
         Script::clickOn(dialog, "AnotherGame");
     });
     EXPECT_EQ(Study(flow()).showTopTen(123), "NOGAME");

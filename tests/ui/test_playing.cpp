@@ -197,6 +197,51 @@ TEST_F(Course, NewGameAsks)
     EXPECT_EQ(shown("YourScore"), "0");
 }
 
+// Guards somebody who types a word from a question that a timer raises: no key answers it at first, and no letter ever.
+TEST_F(Course, NoTypedLetterAnswersATimersQuestion)
+{
+    start({{9, "QCATS"}});
+    Study(flow()).editTile(64, "V", multiplier::red);
+    QTest::keyClicks(&window(), "ca");
+    script.in("QMessageBox", [](QDialog& question) {
+        QTest::keyClicks(&question, "n");
+        QTest::keyClick(&question, Qt::Key_Escape);
+        EXPECT_TRUE(question.isVisible());
+        QTest::qWait(750);
+        QTest::keyClicks(&question, "n");
+        EXPECT_TRUE(question.isVisible());
+        EXPECT_EQ(dynamic_cast<QMessageBox&>(question).text(), "Another game?");
+        QTest::keyClick(&question, Qt::Key_Return);
+    });
+    script.click("Form7", "Startx");
+    child<QTimer>("MoveColDownTimer").setInterval(1);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return view().board.maskcolor(64) != multiplier::red; }));
+    child<QTimer>("MoveColDownTimer").stop();
+    EXPECT_FALSE(flow().ended());
+}
+
+// Guards the player who looks away from pressure without notice.
+TEST_F(Course, PressureIsTold)
+{
+    start({{9, "QCATS"}});
+    Study(flow()).setRedThreshold(1);
+    flow().tick(Timer::Red);
+    const int red = [this] {
+        int tile = 1;
+        while (view().board.maskcolor(tile) != multiplier::red)
+            ++tile;
+        return tile;
+    }();
+    const std::string column = std::to_string(Board::col(red));
+    EXPECT_EQ(shown("Label1"), "A red tile in column " + column);
+    Study(flow()).setRedThreshold(1'000);
+    QTest::keyClicks(&window(), "ca");
+    flow().tick(Timer::Push);
+    EXPECT_EQ(shown("Label1"), "Column " + column + " was pushed down, and your word was cleared");
+    hover(20);
+    EXPECT_EQ(shown("Label1"), "Letter V - score =4");
+}
+
 // Guards an animation from what the player does meanwhile, and the player who closes the window from waiting for it.
 TEST_F(Course, ClosingInTheMiddleOfAnAnimationLeaves)
 {

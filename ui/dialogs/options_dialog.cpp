@@ -10,6 +10,7 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPushButton>
@@ -130,6 +131,7 @@ protected:
         showColour(*Combo1_, QPalette::Base, host.theme.colour(form_.Combo1.backColor));
         preview_->setScheme(form_.scheme());
         showText(*UsrDictName_, form_.UsrDictName);
+        missing_->setVisible(form_.lacksUserDictionary());
         GetUserDictName_->synchronise();
     }
 
@@ -202,6 +204,8 @@ private:
         custom->addWidget(UsrDictName_, 1);
         custom->addWidget(GetUserDictName_);
         choices->addLayout(custom);
+        missing_->setObjectName("MissingDictionary");
+        choices->addWidget(missing_);
         return box;
     }
 
@@ -273,6 +277,7 @@ private:
     SchemePreview* preview_;
     QLineEdit* UsrDictName_;
     BoxButton* GetUserDictName_;
+    QLabel* missing_ = new QLabel("There is no such file: a game cannot start with it.");
     NoDialogs noDialogs_;
     std::vector<ColourScheme> listed_;         ///< the schemes of the box
     std::vector<std::function<void()>> shown_; ///< each shows one control of the form

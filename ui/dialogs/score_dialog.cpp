@@ -36,6 +36,7 @@ public:
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
     {
+        painter->fillRect(option.rect, index.data(Qt::BackgroundRole).value<QBrush>());
         const QString line = index.data().toString();
         const QRect row = option.rect.adjusted(Theme::gap, 0, -Theme::gap, 0);
         const int nameLeft = option.fontMetrics.horizontalAdvance("00000000");
@@ -79,6 +80,9 @@ public:
         connect(ExitProg_, &QPushButton::clicked, this, [this] { input([this] { form_.pressExitProg(); }); });
         connect(CloseForm_, &QPushButton::clicked, this, [this] { closePressed(); });
 
+        connect(&host, &Host::modelsChanged, this,
+                [this] { showForm(); }); // the list stands filled behind the name's box
+
         QVBoxLayout* const column = newColumn();
         column->addWidget(List2_);
         column->addLayout(newButtonRow({AnotherGame_, ExitProg_, CloseForm_}));
@@ -103,6 +107,8 @@ protected:
         List2_->clear();
         for (const std::string& line : form_.List2)
             List2_->addItem(toQString(line));
+        if (const auto own = form_.ownLine())
+            List2_->item(static_cast<int>(*own))->setBackground(toQColor(host.theme.colours().cardSelection));
         AnotherGame_->setEnabled(form_.isEndOfGame());
         ExitProg_->setEnabled(form_.isEndOfGame());
         CloseForm_->setFocus();

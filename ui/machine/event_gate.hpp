@@ -1,11 +1,13 @@
 #pragma once
 
+#include <QEventLoop>
+
 #include <concepts>
 #include <exception>
+#include <utility>
 #include <vector>
 
 class QDialog;
-class QEventLoop;
 
 namespace lexigrove
 {
@@ -33,7 +35,17 @@ public:
     int exec(QDialog& dialog);
 
     /// Runs an event loop until it quits, then checks.
-    void exec(QEventLoop& loop);
+    void exec(QEventLoop& loop, QEventLoop::ProcessEventsFlags flags = QEventLoop::AllEvents);
+
+    /// Runs what a timer does. A dialog that it opens comes while the player may be typing: it takes no key at first,
+    /// and plain letters press none of its buttons.
+    template <std::invocable Action>
+    void runTick(Action action)
+    {
+        const bool outer = std::exchange(inTick_, true);
+        action();
+        inTick_ = outer;
+    }
 
     /// Runs a dialog slot's action on a model that may ask a question or yield.
     template <std::invocable Action>
@@ -51,6 +63,7 @@ private:
     void closeAll();
 
     bool leaving_ = false;
+    bool inTick_ = false;
     std::exception_ptr thrown_;
     std::vector<QDialog*> dialogs_; ///< open now, the outermost first
     std::vector<QEventLoop*> loops_;

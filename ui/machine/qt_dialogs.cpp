@@ -48,6 +48,7 @@ bool QtDialogs::confirm(const std::string& text)
 
 std::string QtDialogs::input(const std::string& title, const std::string& prompt, const std::string& defaultAnswer)
 {
+    emit host_.modelsChanged(); // the window below shows what the question is about
     QInputDialog box(host_.dialogParent());
     box.setWindowTitle(toQString(title));
     box.setLabelText(withNewlines(prompt));

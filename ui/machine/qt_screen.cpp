@@ -57,7 +57,7 @@ void QtScreen::animationStep(int rounds)
         return;
     QEventLoop loop;
     QTimer::singleShot(left, Qt::PreciseTimer, &loop, &QEventLoop::quit);
-    host_.gate.exec(loop);
+    host_.gate.exec(loop, QEventLoop::ExcludeUserInputEvents); // clicks and keys wait, in their order, for the end
 }
 
 void QtScreen::setBusyPointer(bool busy)

@@ -101,7 +101,7 @@ void MainWindow::addTimer(const QString& name, Timer timer)
     auto* clock = new QTimer(this);
     clock->setObjectName(name);
     clock->setInterval(intervalOf(timer));
-    connect(clock, &QTimer::timeout, this, [this, timer] { flow_.tick(timer); });
+    connect(clock, &QTimer::timeout, this, [this, timer] { host_.gate.runTick([&] { flow_.tick(timer); }); });
     clock->start();
 }
 

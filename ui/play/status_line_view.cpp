@@ -88,13 +88,14 @@ StatusLineView::StatusLineView(const StatusLine& status, const GameFlow& flow, c
 
 void StatusLineView::synchronise()
 {
-    if (status_.Label1 != shown_) {
-        shown_ = status_.Label1;
+    const std::string& text = status_.News.empty() ? status_.Label1 : status_.News;
+    if (text != shown_) {
+        shown_ = text;
         full_ = onOneLine(shown_);
         elide();
     }
     const GameState& state = flow_.view().state;
-    setLoud(status_.Warn || state.computerTurnInProgress);
+    setLoud(status_.Warn || !status_.News.empty() || state.computerTurnInProgress);
     if (status_.Warn == Warn->isHidden())
         Warn->setVisible(status_.Warn);
     if (state.developerMode == Label4->isHidden())
