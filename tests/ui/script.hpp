@@ -76,14 +76,30 @@ public:
         QTest::mouseClick(widget, button, {}, QPoint(std::min(10, widget->width() / 2), widget->height() / 2));
     }
 
+    /// The dialog that was opened last: over the most others.
+    static QDialog* onTop()
+    {
+        QDialog* top = nullptr;
+        int most = -1;
+        for (QWidget* const window : QApplication::topLevelWidgets()) {
+            auto* const dialog = qobject_cast<QDialog*>(window);
+            int below = 0;
+            for (const QWidget* parent = window->parentWidget(); parent != nullptr; parent = parent->parentWidget())
+                ++below;
+            if (dialog != nullptr && dialog->isVisible() && below > most) {
+                top = dialog;
+                most = below;
+            }
+        }
+        return top;
+    }
+
 private:
     struct Entry {
         std::string name;
         std::function<bool()> moment;
         std::function<void()> step;
     };
-
-    static QDialog* onTop() { return qobject_cast<QDialog*>(QApplication::activeModalWidget()); }
 
     static std::string nameOf(const QDialog& window)
     {

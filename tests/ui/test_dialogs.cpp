@@ -222,7 +222,7 @@ TEST_P(LeavingTest, ClosingTheMainWindowClosesAll)
     const QSignalSpy ended(&window(), &MainWindow::ended);
     script.in(GetParam().first, [&](QDialog&) {
         EXPECT_FALSE(window().close()) << "the input unwinds first";
-        EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+        EXPECT_EQ(Script::onTop(), nullptr);
     });
     flow().perform(GetParam().second);
     EXPECT_TRUE(flow().ended());

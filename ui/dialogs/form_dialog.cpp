@@ -15,7 +15,6 @@ FormDialog::FormDialog(Host& gameHost, const char* objectName, std::string_view 
 {
     setObjectName(objectName);
     setWindowTitle(toQString(caption));
-    setWindowModality(Qt::WindowModal);
 }
 
 void FormDialog::resizeOnScreen(int width, int height)

@@ -14,8 +14,8 @@ class QVBoxLayout;
 namespace lexigrove
 {
 
-/// A modal window for a form model. The model holds the truth: inputs go to it through `input`, and the window then
-/// shows what the model says. It blocks the windows below it, but not the help window.
+/// A window for a form model, which the gate runs. The model holds the truth: inputs go to it through `input`, and the
+/// window then shows what the model says.
 class FormDialog : public QDialog
 {
 protected:

@@ -34,7 +34,7 @@ protected:
         case QEvent::ShortcutOverride:
         case QEvent::KeyPress:
         case QEvent::KeyRelease:
-            return QApplication::activeModalWidget() == &dialog_ && refuses(static_cast<QKeyEvent&>(*event));
+            return QApplication::activeWindow() == &dialog_ && refuses(static_cast<QKeyEvent&>(*event));
         default:
             return QObject::eventFilter(receiver, event);
         }
@@ -86,14 +86,67 @@ void EventGate::checkpoint()
 int EventGate::exec(QDialog& dialog)
 {
     checkpoint();
+    if (dialogs_.empty())
+        qApp->installEventFilter(this);
     dialogs_.push_back(&dialog);
     std::optional<KeyGuard> guard;
     if (inTick_)
         guard.emplace(dialog);
-    const int result = dialog.exec();
+    QEventLoop loop;
+    connect(&dialog, &QDialog::finished, &loop, &QEventLoop::quit);
+    dialog.setWindowModality(Qt::NonModal);
+    dialog.show();
+    loop.exec();
     dialogs_.pop_back();
+    if (dialogs_.empty())
+        qApp->removeEventFilter(this);
+    else
+        dialogs_.back()->activateWindow();
     checkpoint();
-    return result;
+    return dialog.result();
+}
+
+/// Whether the receiver belongs to a window that the dialog on top was opened over, in one step or in several.
+bool EventGate::isBelowTop(const QObject* receiver) const
+{
+    const auto* const widget = qobject_cast<const QWidget*>(receiver);
+    if (widget == nullptr)
+        return false;
+    const QWidget* below = dialogs_.back();
+    while ((below = below->parentWidget()) != nullptr) {
+        if (below->window() == widget->window())
+            return true;
+    }
+    return false;
+}
+
+bool EventGate::eventFilter(QObject* receiver, QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::Wheel:
+    case QEvent::ContextMenu:
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::ShortcutOverride:
+    case QEvent::Shortcut:
+        return isBelowTop(receiver);
+    case QEvent::Close:
+        if (!event->spontaneous() || !isBelowTop(receiver) || qobject_cast<QDialog*>(receiver) == nullptr)
+            return false; // the main window leaves the game
+        event->ignore();
+        return true;
+    case QEvent::WindowActivate:
+        if (isBelowTop(receiver)) {
+            dialogs_.back()->raise(); // the window in front has the keys, wherever the player has clicked
+            dialogs_.back()->activateWindow();
+        }
+        return false;
+    default:
+        return false;
+    }
 }
 
 void EventGate::exec(QEventLoop& loop, QEventLoop::ProcessEventsFlags flags)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QEventLoop>
+#include <QObject>
 
 #include <concepts>
 #include <exception>
@@ -17,8 +18,14 @@ namespace lexigrove
 ///
 /// Ports and windows wait for the player through `exec`. Slots of dialogs call models through `run`: an exception
 /// thrown there is kept, every open dialog is closed, and the waiting `exec` rethrows it.
-class EventGate
+///
+/// Dialogs are not modal to the toolkit, which would keep a closing request from the main window while one is open.
+/// Instead the gate keeps the player's input from every window but the dialog on top, until that is closed; windows
+/// without a parent, like the help, go on.
+class EventGate : public QObject
 {
+    Q_OBJECT
+
 public:
     /// The player is leaving: closes every open dialog and ends every wait, so that the innermost returns first.
     void requestLeaving();
@@ -30,9 +37,12 @@ public:
     /// pending.
     [[nodiscard]] bool takeRequest();
 
-    /// Runs the dialog modally, then checks. Returns QDialog::Accepted, QDialog::Rejected or the value passed to
-    /// `done`. Does not show the dialog if leaving was already requested.
+    /// Runs the dialog until it is closed, then checks. Returns QDialog::Accepted, QDialog::Rejected or the value
+    /// passed to `done`. Does not show the dialog if leaving was already requested.
     int exec(QDialog& dialog);
+
+    /// The dialog that has the player's input; null if none is open.
+    [[nodiscard]] QDialog* onTop() const { return dialogs_.empty() ? nullptr : dialogs_.back(); }
 
     /// Runs an event loop until it quits, then checks.
     void exec(QEventLoop& loop, QEventLoop::ProcessEventsFlags flags = QEventLoop::AllEvents);
@@ -59,8 +69,11 @@ public:
         }
     }
 
+    bool eventFilter(QObject* receiver, QEvent* event) override;
+
 private:
     void closeAll();
+    [[nodiscard]] bool isBelowTop(const QObject* receiver) const;
 
     bool leaving_ = false;
     bool inTick_ = false;

@@ -1,13 +1,13 @@
 #include "ui/machine/host.hpp"
 
-#include <QApplication>
+#include <QDialog>
 
 namespace lexigrove
 {
 
 QWidget* Host::dialogParent() const
 {
-    if (QWidget* const onTop = QApplication::activeModalWidget())
+    if (QDialog* const onTop = gate.onTop())
         return onTop;
     if (mainWindow != nullptr)
         mainWindow->show();
