@@ -221,7 +221,7 @@ TEST_P(LeavingTest, ClosingTheMainWindowClosesAll)
     std::filesystem::remove(folder.file("Lexigrove.cfg"));
     const QSignalSpy ended(&window(), &MainWindow::ended);
     script.in(GetParam().first, [&](QDialog&) {
-        EXPECT_FALSE(window().close()) << "the input unwinds first";
+        EXPECT_FALSE(window().windowHandle()->close()) << "the input unwinds first";
         EXPECT_EQ(Script::onTop(), nullptr);
     });
     flow().perform(GetParam().second);

@@ -255,7 +255,7 @@ TEST_F(Course, ClosingInTheMiddleOfAnAnimationLeaves)
                     press("Hintx");
                     hover(34);
                     EXPECT_EQ(word(), "CAT");
-                    window().close();
+                    window().windowHandle()->close();
                 });
     press("EnterWord");
     EXPECT_TRUE(flow().ended());
@@ -294,7 +294,7 @@ TEST_F(Course, AnyInputEndsTheComputersTurnAndIsUsedUp)
 
     Study(flow()).editTile(57, "D", 1);
     Study(flow()).editTile(58, "O", 1);
-    script.when(waits, [&] { window().close(); });
+    script.when(waits, [&] { window().windowHandle()->close(); });
     press("EnterWord");
     EXPECT_TRUE(flow().ended());
     EXPECT_EQ(shown("CompScore"), "8");

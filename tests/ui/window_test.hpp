@@ -11,6 +11,7 @@
 
 #include <QHeaderView>
 #include <QLabel>
+#include <QWindow>
 
 #include <map>
 #include <optional>
