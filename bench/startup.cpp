@@ -4,9 +4,9 @@
 // FOLDER holds the word lists and colour schemes; by default the build's own. Goals: at most twice the empty window.
 
 #include "ui/front_end.hpp"
-#include "ui/look/game_icon.hpp"
 
 #include <QApplication>
+#include <QIcon>
 #include <QMainWindow>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -88,7 +88,7 @@ int showEmptyWindow(QApplication& application)
 
 int showGame(QApplication& application, const std::string& folder)
 {
-    QApplication::setWindowIcon(gameIcon());
+    QApplication::setWindowIcon(QIcon(":/lexigrove.svg"));
     FrontEnd game(folder);
     game.flow.startUp();
     const Reporter reporter(game.window, [&] { game.flow.startGame(); });

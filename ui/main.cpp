@@ -1,9 +1,9 @@
 #include "platform/program_folder.hpp"
 #include "ui/front_end.hpp"
-#include "ui/look/game_icon.hpp"
 #include "ui/start_options.hpp"
 
 #include <QApplication>
+#include <QIcon>
 #include <QMessageBox>
 #include <QTimer>
 
@@ -53,7 +53,7 @@ int main(int argc, char** argv)
     QApplication::setApplicationName("lexigrove");
     QApplication::setApplicationVersion(LEXIGROVE_VERSION);
     QApplication::setDesktopFileName("lexigrove");
-    QApplication::setWindowIcon(gameIcon());
+    QApplication::setWindowIcon(QIcon(":/lexigrove.svg"));
     try {
         return play(options);
     } catch (const ProgramFolderError& error) {

@@ -15,7 +15,8 @@ namespace lexigrove
 {
 
 /// A modal window for a form model. The model holds the truth: inputs go to it through `input`, and the window then
-/// shows what the model says. It blocks the windows below it, but not the help window.
+/// shows what the model says. It blocks the windows below it, but not the help window. Closing it with its frame or
+/// with Esc is `reject`.
 class FormDialog : public QDialog
 {
 protected:
@@ -29,12 +30,7 @@ protected:
     }
 
     /// Updates the widgets from the form; closes the window if the form is hidden.
-    virtual void showForm() = 0;
-
-    /// The player closes the window with its frame or with Esc.
-    virtual void closePressed() = 0;
-
-    void reject() override { closePressed(); }
+    virtual void showForm() {}
 
     /// The window's layout: a column with the margins and gaps that all windows share.
     QVBoxLayout* newColumn();

@@ -1,8 +1,8 @@
 #include "settings/options_form.hpp"
 #include "ui/dialogs/box_button.hpp"
-#include "ui/dialogs/dialogs.hpp"
 #include "ui/dialogs/form_dialog.hpp"
 #include "ui/dialogs/scheme_preview.hpp"
+#include "ui/game_windows.hpp"
 #include "ui/look/text.hpp"
 
 #include <QCheckBox>
@@ -151,7 +151,7 @@ protected:
         GetUserDictName_->synchronise();
     }
 
-    void closePressed() override
+    void reject() override
     {
         input([this] { form_.pressExit(); });
     }
@@ -278,7 +278,7 @@ private:
         Startx->setDefault(true);
         connect(Startx, &QPushButton::clicked, this, [this] { input([this] { form_.pressStart(); }); });
         connect(PSBoard, &QPushButton::clicked, this, [this] { input([this] { form_.presetBoard(); }); });
-        connect(Exitx, &QPushButton::clicked, this, [this] { closePressed(); });
+        connect(Exitx, &QPushButton::clicked, this, &QDialog::reject);
         return newButtonRow({Startx, PSBoard, Exitx});
     }
 
@@ -294,10 +294,10 @@ private:
 
 } // namespace
 
-void runOptionsDialog(Host& host, OptionsForm& form)
+void GameWindows::show(OptionsForm& form)
 {
-    OptionsDialog dialog(host, form);
-    host.gate.exec(dialog);
+    OptionsDialog dialog(host_, form);
+    host_.gate.exec(dialog);
 }
 
 } // namespace lexigrove

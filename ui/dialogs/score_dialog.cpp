@@ -1,6 +1,6 @@
 #include "scores/score_form.hpp"
-#include "ui/dialogs/dialogs.hpp"
 #include "ui/dialogs/form_dialog.hpp"
+#include "ui/game_windows.hpp"
 #include "ui/look/text.hpp"
 
 #include <QFontDatabase>
@@ -77,7 +77,7 @@ public:
         AnotherGame_->setProperty("primary", true);
         connect(AnotherGame_, &QPushButton::clicked, this, [this] { input([this] { form_.pressAnotherGame(); }); });
         connect(ExitProg_, &QPushButton::clicked, this, [this] { input([this] { form_.pressExitProg(); }); });
-        connect(CloseForm_, &QPushButton::clicked, this, [this] { closePressed(); });
+        connect(CloseForm_, &QPushButton::clicked, this, &QDialog::reject);
 
         QVBoxLayout* const column = newColumn();
         column->addWidget(List2_);
@@ -108,7 +108,7 @@ protected:
         CloseForm_->setFocus();
     }
 
-    void closePressed() override
+    void reject() override
     {
         input([this] { form_.pressCloseForm(); });
     }
@@ -123,10 +123,10 @@ private:
 
 } // namespace
 
-void runScoreDialog(Host& host, ScoreForm& form)
+void GameWindows::show(ScoreForm& form)
 {
-    ScoreDialog dialog(host, form);
-    host.gate.exec(dialog);
+    ScoreDialog dialog(host_, form);
+    host_.gate.exec(dialog);
 }
 
 } // namespace lexigrove
