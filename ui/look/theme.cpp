@@ -132,6 +132,7 @@ QToolTip { background: @card; color: @cardText; border: 1px solid @line; padding
 QFrame[card="true"] { background: @card; color: @cardText; border: 1px solid @line; border-radius: 6px; }
 QLabel[quiet="true"] { color: @quietText; }
 QLabel[quiet="true"]:disabled { color: @disabled; }
+QLabel#CompScore { color: @computerText; }
 QLineEdit, QListView, QListWidget, QPlainTextEdit { background: @card; color: @cardText; border: 1px solid @line;
     border-radius: 4px; padding: 3px; selection-background-color: @accent; selection-color: @accentText; }
 QLineEdit:focus, QListView:focus, QListWidget:focus { border-color: @accent; }
@@ -171,7 +172,7 @@ QScrollBar::handle:horizontal { background: @line; border-radius: 4px; min-width
 QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }
 QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
 )");
-    const std::array<std::pair<const char*, Colour>, 19> colourNames{{
+    const std::array<std::pair<const char*, Colour>, 20> colourNames{{
         {"@buttonText", colours.buttonText}, // a name must come before its own prefixes
         {"@buttonHover", colours.buttonHover},
         {"@buttonPressed", mixed(colours.button, colours.buttonText, 0.15)},
@@ -190,6 +191,7 @@ QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
         {"@strip", colours.strip},
         {"@line", colours.line},
         {"@text", colours.text},
+        {"@computerText", colours.computerText},
         {"@background", colours.background},
     }};
     for (const auto& [name, colour] : colourNames)
