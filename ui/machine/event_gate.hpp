@@ -1,7 +1,5 @@
 #pragma once
 
-#include <QObject>
-
 #include <concepts>
 #include <exception>
 #include <vector>
@@ -17,10 +15,8 @@ namespace lexigrove
 ///
 /// Ports and windows wait for the player through `exec`. Slots of dialogs call models through `run`: an exception
 /// thrown there is kept, every open dialog is closed, and the waiting `exec` rethrows it.
-class EventGate : public QObject
+class EventGate
 {
-    Q_OBJECT
-
 public:
     /// The player is leaving: closes every open dialog and ends every wait, so that the innermost returns first.
     void requestLeaving();

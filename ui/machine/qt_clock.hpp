@@ -1,15 +1,14 @@
 #pragma once
 
-#include "platform/clock.hpp"
+#include "platform/system_clock.hpp"
 
 namespace lexigrove
 {
 
 /// The machine's clock, and the desktop's short forms of date and time.
-class QtClock : public Clock
+class QtClock : public SystemClock
 {
 public:
-    [[nodiscard]] double secondsSinceMidnight() const override;
     [[nodiscard]] std::string shortDate() const override;
     [[nodiscard]] std::string shortTime() const override;
 };

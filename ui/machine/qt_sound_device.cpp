@@ -6,8 +6,6 @@
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>
-#include <QFileInfo>
-#include <QPluginLoader>
 #include <QTimer>
 
 #include <string_view>
@@ -38,19 +36,6 @@ void handleMessage(QtMsgType type, const QMessageLogContext& context, const QStr
         otherThreadsHandler()(type, context, text);
 }
 
-std::unique_ptr<SoundPlayer> loadPlayer()
-{
-    for (const QString& folder : moduleFolders()) {
-        const QString file = folder + "/lexigrove-sound.so";
-        if (!QFileInfo::exists(file))
-            continue;
-        QPluginLoader loader(file);
-        if (auto* module = qobject_cast<SoundModule*>(loader.instance()))
-            return module->newPlayer();
-    }
-    return nullptr;
-}
-
 } // namespace
 
 /// Lives in the sound thread.
@@ -61,7 +46,8 @@ public:
     {
         if (!loaded_) {
             loaded_ = true;
-            player_ = loadPlayer();
+            QString failure; // a game without sound says nothing
+            player_.reset(qobject_cast<SoundPlayer*>(loadModule("lexigrove-sound", moduleFolders(), failure)));
         }
         if (player_)
             player_->play(file);
