@@ -29,13 +29,10 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
-    void enterEvent(QEnterEvent* event) override;
-    void leaveEvent(QEvent* event) override;
 
 private:
     BoxControl& control_;
     const Theme& theme_;
-    bool hovered_ = false;
 };
 
 } // namespace lexigrove

@@ -57,7 +57,6 @@ protected:
             accept();
             return;
         }
-        setWindowTitle(toQString(form_.Caption));
         WordsMade_->synchronise();
         for (BoxButton* const button : {Select_, Meaning_, Close_})
             button->synchronise();

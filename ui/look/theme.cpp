@@ -24,13 +24,12 @@ Colour fromQColor(const QColor& colour)
                static_cast<unsigned>(colour.blue()));
 }
 
-/// The toolkit's palette, by system colour number.
-SystemPalette desktopPalette()
+/// A palette by system colour number.
+SystemPalette systemColoursOf(const QPalette& palette)
 {
-    const QPalette palette = QApplication::palette();
-    SystemPalette desktop;
+    SystemPalette result;
     const auto set = [&](std::size_t index, QPalette::ColorRole role) {
-        desktop.entries[index] = fromQColor(palette.color(QPalette::Active, role));
+        result.entries[index] = fromQColor(palette.color(QPalette::Active, role));
     };
     set(0, QPalette::Window);
     set(1, QPalette::Window);
@@ -41,6 +40,8 @@ SystemPalette desktopPalette()
     set(7, QPalette::WindowText);
     set(8, QPalette::Text);
     set(9, QPalette::HighlightedText);
+    set(10, QPalette::Mid);
+    set(11, QPalette::Mid);
     set(12, QPalette::Mid);
     set(13, QPalette::Highlight);
     set(14, QPalette::HighlightedText);
@@ -52,27 +53,8 @@ SystemPalette desktopPalette()
     set(22, QPalette::Midlight);
     set(23, QPalette::ToolTipText);
     set(24, QPalette::ToolTipBase);
-    desktop.entries[17] = fromQColor(palette.color(QPalette::Disabled, QPalette::Text));
-    return desktop;
-}
-
-/// The system colours as these windows show them.
-SystemPalette shownSystemColours(const WindowColours& colours)
-{
-    SystemPalette family;
-    family.entries.fill(colours.text);
-    for (const std::size_t background : {0U, 1U, 4U, 12U})
-        family.entries[background] = colours.background;
-    for (const std::size_t line : {6U, 10U, 11U, 16U, 20U, 21U, 22U})
-        family.entries[line] = colours.line;
-    family.entries[2] = family.entries[13] = colours.accent;
-    family.entries[9] = family.entries[14] = colours.accentText;
-    family.entries[5] = family.entries[24] = colours.card;
-    family.entries[8] = family.entries[23] = colours.cardText;
-    family.entries[15] = colours.button;
-    family.entries[18] = colours.buttonText;
-    family.entries[17] = colours.buttonDisabledText;
-    return family;
+    result.entries[17] = fromQColor(palette.color(QPalette::Disabled, QPalette::Text));
+    return result;
 }
 
 QPalette palette(const WindowColours& colours)
@@ -94,11 +76,8 @@ QPalette palette(const WindowColours& colours)
     set(QPalette::LinkVisited, colours.accent);
     set(QPalette::ToolTipBase, colours.card);
     set(QPalette::ToolTipText, colours.cardText);
-    set(QPalette::Light, colours.card);
-    set(QPalette::Midlight, colours.strip);
-    set(QPalette::Mid, colours.line);
-    set(QPalette::Dark, colours.line);
-    set(QPalette::Shadow, mixed(colours.background, colours.text, 0.5));
+    for (const auto edge : {QPalette::Light, QPalette::Midlight, QPalette::Mid, QPalette::Dark, QPalette::Shadow})
+        set(edge, colours.line);
     for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         result.setColor(QPalette::Disabled, role, toQColor(colours.buttonDisabledText));
     return result;
@@ -206,20 +185,20 @@ QColor toQColor(Colour colour)
     return {static_cast<int>(redOf(colour)), static_cast<int>(greenOf(colour)), static_cast<int>(blueOf(colour))};
 }
 
-Theme::Theme() : desktop_(desktopPalette())
+Theme::Theme() : desktop_(systemColoursOf(QApplication::palette()))
 {
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
 }
 
 void Theme::apply(const ColourScheme& scheme)
 {
-    if (applied_ && scheme.entries() == shown_)
+    if (shown_ == scheme.entries())
         return;
-    applied_ = true;
     shown_ = scheme.entries();
     colours_ = deriveWindowColours(scheme);
-    systemColours_ = shownSystemColours(colours_);
-    QApplication::setPalette(palette(colours_));
+    const QPalette shown = palette(colours_);
+    systemColours_ = systemColoursOf(shown);
+    QApplication::setPalette(shown);
     qApp->setStyleSheet(styleSheet(colours_));
     emit changed();
 }

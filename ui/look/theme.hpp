@@ -8,6 +8,8 @@
 #include <QObject>
 #include <QRectF>
 
+#include <optional>
+
 class QPainter;
 
 namespace lexigrove
@@ -58,8 +60,7 @@ signals:
 
 private:
     SystemPalette desktop_;
-    bool applied_ = false;
-    ColourTable shown_{};
+    std::optional<ColourTable> shown_;
     WindowColours colours_{};
     SystemPalette systemColours_; ///< as these windows show them
 };
