@@ -4,7 +4,7 @@
 
 #include "bench/level_three.hpp"
 #include "dictionary/maintenance.hpp"
-#include "ui/dialogs/dialogs.hpp"
+#include "ui/game_windows.hpp"
 #include "ui/look/text.hpp"
 #include "ui/machine/host.hpp"
 
@@ -75,6 +75,6 @@ int main(int argumentCount, char** arguments)
         measure(dictionary.words);
         QApplication::activeModalWidget()->close();
     });
-    runMaintenanceDialog(host, form);
+    GameWindows(host).show(form);
     return 0;
 }

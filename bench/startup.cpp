@@ -6,6 +6,7 @@
 #include "ui/front_end.hpp"
 
 #include <QApplication>
+#include <QIcon>
 #include <QMainWindow>
 #include <QProcess>
 #include <QTemporaryDir>

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "flow/game_flow.hpp"
+#include "platform/ports.hpp"
 #include "platform/random.hpp"
 #include "platform/status_line.hpp"
 #include "platform/system_clock.hpp"
@@ -11,6 +12,7 @@
 #include "ui/machine/qt_sound_device.hpp"
 #include "ui/play/main_window.hpp"
 
+#include <random>
 #include <string>
 
 namespace lexigrove
@@ -21,9 +23,11 @@ class FrontEnd
 {
 public:
     /// `folder` is the program folder with its trailing separator.
-    explicit FrontEnd(const std::string& folder);
-    FrontEnd(const FrontEnd&) = delete;
-    FrontEnd& operator=(const FrontEnd&) = delete;
+    explicit FrontEnd(const std::string& folder)
+        : random_(std::random_device{}()),
+          flow({dialogs_, screen_, sound_, clock_, random_, status_, windows_}, folder, host.theme.desktop())
+    {
+    }
 
 private:
     SystemClock clock_;

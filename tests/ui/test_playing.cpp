@@ -1,3 +1,4 @@
+#include "controls/dc.hpp"
 #include "tests/ui/window_test.hpp"
 
 #include <QFocusEvent>

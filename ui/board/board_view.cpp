@@ -22,7 +22,6 @@ BoardView::BoardView(GameFlow& flow, const Theme& theme, QWidget* parent)
     setAccessibleName(tr("Board"));
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus); // keys that it ignores go to the window
-    connect(&theme, &Theme::changed, this, [this] { update(); });
 }
 
 // ---- Places

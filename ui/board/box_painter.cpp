@@ -9,7 +9,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <utility>
 
 namespace lexigrove
 {
@@ -18,7 +17,6 @@ namespace
 {
 
 constexpr int designDotsPerInch = 1440 / unitsPerPixel;
-constexpr double hundredthsPerPixel = 2540.0 / designDotsPerInch;
 
 /// A control stretched over a place, in whole device pixels.
 class Stretched
@@ -85,17 +83,7 @@ private:
     double border_;
 };
 
-int hundredths(int pixels)
-{
-    return static_cast<int>(std::lround(pixels * hundredthsPerPixel));
-}
-
 } // namespace
-
-BoxPicture::BoxPicture(QPixmap source)
-    : ControlPicture(hundredths(source.width()), hundredths(source.height())), pixels(std::move(source))
-{
-}
 
 Colour BoxPainter::faceColour(const BoxControl& control, bool lifted) const
 {
@@ -124,12 +112,6 @@ void BoxPainter::paintFace(QPainter& painter, const BoxControl& control, const Q
         const FrameLine line = control.line(number);
         if (line.visible && line.solid && number != 7) // the seventh has no place: it only holds the face's colour
             painter.fillRect(shape.line(line), theme_.colour(line.colour));
-    }
-    if (const auto* picture = dynamic_cast<const BoxPicture*>(control.Picture().get())) {
-        const ExactPoint at = *control.picturePlace();
-        const QPointF corner = shape.inner().topLeft() + QPointF(at.x, at.y) * shape.scale();
-        const QSizeF size = QSizeF(picture->pixels.size()) * (unitsPerPixel * shape.scale());
-        painter.drawPixmap(QRectF(corner, size), picture->pixels, QRectF(picture->pixels.rect()));
     }
     painter.restore();
 }

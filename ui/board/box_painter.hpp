@@ -3,23 +3,12 @@
 #include "controls/box_control.hpp"
 #include "ui/look/theme.hpp"
 
-#include <QPixmap>
 #include <QRectF>
 
 class QPainter;
 
 namespace lexigrove
 {
-
-/// A picture of a `BoxControl` with its pixels.
-class BoxPicture : public ControlPicture
-{
-public:
-    /// The natural size is that of the design resolution: a pixel of the picture is a pixel there.
-    explicit BoxPicture(QPixmap pixels);
-
-    const QPixmap pixels;
-};
 
 /// Paints `BoxControl`s at any scale: the control is stretched over a place, its lines keep to whole device pixels, and
 /// letters are drawn at their final size, so that both are crisp.
@@ -28,7 +17,7 @@ class BoxPainter
 public:
     explicit BoxPainter(const Theme& theme) : theme_(theme) {}
 
-    /// The face, the frame and the picture: everything but the caption. `lifted` is for the control under the pointer.
+    /// The face and the frame: everything but the caption. `lifted` is for the control under the pointer.
     void paintFace(QPainter& painter, const BoxControl& control, const QRectF& place, bool lifted = false) const;
 
     /// The caption in its place, bold if the control says so. `pixelSize` is the letter's height in logical pixels; 0

@@ -1,38 +1,19 @@
-#include "ui/dialogs/dialogs.hpp"
 #include "ui/dialogs/form_dialog.hpp"
+#include "ui/game_windows.hpp"
 #include "ui/look/text.hpp"
 
-#include <QApplication>
 #include <QHBoxLayout>
+#include <QIcon>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QVBoxLayout>
-
-#include <functional>
 
 namespace lexigrove
 {
 
 namespace
 {
-
-/// A label that reports clicks on it.
-class ClickedLabel : public QLabel
-{
-public:
-    using QLabel::QLabel;
-
-    std::function<void()> clicked;
-
-protected:
-    void mousePressEvent(QMouseEvent*) override {} // so that the release comes here too
-    void mouseReleaseEvent(QMouseEvent* event) override
-    {
-        if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()))
-            clicked();
-    }
-};
 
 constexpr const char* aboutText = R"(<p style="font-size: 18px; font-weight: bold">LexiGrove - January 2005</p>
 <p style="line-height: 150%">A game of words on a board of letters<br>
@@ -42,20 +23,19 @@ Free software under the MIT License</p>)";
 class AboutDialog : public FormDialog
 {
 public:
-    explicit AboutDialog(Host& gameHost) : FormDialog(gameHost, "AboutForm", "About LexiGrove")
+    explicit AboutDialog(Host& gameHost)
+        : FormDialog(gameHost, "AboutForm", "About LexiGrove"), AboutText(new QLabel(aboutText))
     {
         auto* const picture = new QLabel;
-        picture->setPixmap(
-            QApplication::windowIcon().pixmap({16 * Theme::grid, 16 * Theme::grid}, devicePixelRatioF()));
         picture->setObjectName("Picture");
-        auto* const AboutText = new ClickedLabel(aboutText);
+        picture->setPixmap(QIcon(":/lexigrove.svg").pixmap(16 * Theme::grid));
         AboutText->setObjectName("AboutText");
-        AboutText->clicked = [this] { accept(); };
+        AboutText->setTextInteractionFlags(Qt::NoTextInteraction);
         QPushButton* const AboutOk = newButton("AboutOk", "OK");
         AboutOk->setProperty("primary", true);
         AboutOk->setDefault(true);
         AboutOk->setMinimumWidth(14 * Theme::grid);
-        connect(AboutOk, &QPushButton::clicked, this, [this] { accept(); });
+        connect(AboutOk, &QPushButton::clicked, this, &QDialog::accept);
 
         auto* const areas = new QHBoxLayout;
         areas->setSpacing(Theme::margin);
@@ -68,16 +48,23 @@ public:
     }
 
 protected:
-    void showForm() override {}
-    void closePressed() override { accept(); }
+    /// A click on the text closes the window; the text itself has no use for clicks.
+    void mouseReleaseEvent(QMouseEvent* event) override
+    {
+        if (event->button() == Qt::LeftButton && AboutText->geometry().contains(event->position().toPoint()))
+            accept();
+    }
+
+private:
+    QLabel* AboutText;
 };
 
 } // namespace
 
-void runAboutDialog(Host& host)
+void GameWindows::showAbout()
 {
-    AboutDialog dialog(host);
-    host.gate.exec(dialog);
+    AboutDialog dialog(host_);
+    host_.gate.exec(dialog);
 }
 
 } // namespace lexigrove

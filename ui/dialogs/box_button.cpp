@@ -17,21 +17,17 @@ namespace lexigrove
 namespace
 {
 
-std::int16_t buttonNumber(Qt::MouseButton button)
-{
-    return static_cast<std::int16_t>(mouseButton(button));
-}
+using MouseReport = void (BoxControl::*)(std::int16_t Button, std::int16_t Shift, float X, float Y);
 
-std::int16_t shiftState(Qt::KeyboardModifiers modifiers)
+/// Tells the control of the mouse in its own numbers and units.
+void report(BoxControl& control, MouseReport what, const QMouseEvent& event)
 {
-    const int state = (modifiers.testFlag(Qt::ShiftModifier) ? 1 : 0) |
+    const Qt::KeyboardModifiers modifiers = event.modifiers();
+    const int shift = (modifiers.testFlag(Qt::ShiftModifier) ? 1 : 0) |
                       (modifiers.testFlag(Qt::ControlModifier) ? 2 : 0) | (modifiers.testFlag(Qt::AltModifier) ? 4 : 0);
-    return static_cast<std::int16_t>(state);
-}
-
-float units(double pixels)
-{
-    return static_cast<float>(pixels * unitsPerPixel);
+    const QPointF place = event.position() * unitsPerPixel;
+    (control.*what)(static_cast<std::int16_t>(mouseButton(event.button())), static_cast<std::int16_t>(shift),
+                    static_cast<float>(place.x()), static_cast<float>(place.y()));
 }
 
 } // namespace
@@ -39,10 +35,8 @@ float units(double pixels)
 BoxButton::BoxButton(BoxControl& control, const Theme& theme, QWidget* parent)
     : QAbstractButton(parent), control_(control), theme_(theme)
 {
-    setCursor(Qt::ArrowCursor);
     setFocusPolicy(Qt::TabFocus); // a click does not move the focus
-    setAttribute(Qt::WA_Hover);   // repaints when the pointer comes and goes
-    connect(&theme, &Theme::changed, this, [this] { update(); });
+    setAttribute(Qt::WA_Hover);   // repaints it when the pointer comes and goes
     connect(this, &QAbstractButton::clicked, this, [this] { control_.clicked(); });
     synchronise();
 }
@@ -51,7 +45,6 @@ void BoxButton::synchronise()
 {
     setText(toQString(control_.Caption()));
     setToolTip(toQString(control_.ToolTipText()));
-    setAccessibleName(text());
     setEnabled(control_.Enabled());
     update();
 }
@@ -76,16 +69,14 @@ void BoxButton::paintEvent(QPaintEvent* /*event*/)
 
 void BoxButton::mousePressEvent(QMouseEvent* event)
 {
-    control_.mousePressed(buttonNumber(event->button()), shiftState(event->modifiers()), units(event->position().x()),
-                          units(event->position().y()));
+    report(control_, &BoxControl::mousePressed, *event);
     update();
     QAbstractButton::mousePressEvent(event);
 }
 
 void BoxButton::mouseReleaseEvent(QMouseEvent* event)
 {
-    control_.mouseReleased(buttonNumber(event->button()), shiftState(event->modifiers()), units(event->position().x()),
-                           units(event->position().y()));
+    report(control_, &BoxControl::mouseReleased, *event);
     update();
     QAbstractButton::mouseReleaseEvent(event); // last: a click may close the dialog and this button with it
 }

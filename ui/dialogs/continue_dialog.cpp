@@ -1,7 +1,7 @@
 #include "record/continue_form.hpp"
 #include "ui/board/board_picture.hpp"
-#include "ui/dialogs/dialogs.hpp"
 #include "ui/dialogs/form_dialog.hpp"
+#include "ui/game_windows.hpp"
 #include "ui/look/text.hpp"
 
 #include <QHBoxLayout>
@@ -55,7 +55,7 @@ public:
 
 protected:
     void showForm() override {}
-    void closePressed() override { answer(false); }
+    void reject() override { answer(false); }
 
 private:
     void answer(bool accepted)
@@ -69,10 +69,10 @@ private:
 
 } // namespace
 
-void runContinueDialog(Host& host, ContinueForm& form)
+void GameWindows::show(ContinueForm& form)
 {
-    ContinueDialog dialog(host, form);
-    host.gate.exec(dialog);
+    ContinueDialog dialog(host_, form);
+    host_.gate.exec(dialog);
 }
 
 } // namespace lexigrove

@@ -29,12 +29,7 @@ protected:
     }
 
     /// Updates the widgets from the form; closes the window if the form is hidden.
-    virtual void showForm() = 0;
-
-    /// The player closes the window with its frame or with Esc.
-    virtual void closePressed() = 0;
-
-    void reject() override { closePressed(); }
+    virtual void showForm() {}
 
     /// Resizes the window, to no more than the screen has.
     void resizeOnScreen(int width, int height);

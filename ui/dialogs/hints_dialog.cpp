@@ -1,8 +1,8 @@
 #include "opponent/hints_form.hpp"
 #include "ui/dialogs/beside.hpp"
 #include "ui/dialogs/box_button.hpp"
-#include "ui/dialogs/dialogs.hpp"
 #include "ui/dialogs/form_dialog.hpp"
+#include "ui/game_windows.hpp"
 #include "ui/look/text.hpp"
 #include "ui/look/words_view.hpp"
 
@@ -39,7 +39,7 @@ public:
         });
         connect(Select_, &QAbstractButton::clicked, this, [this] { play([this] { form_.pressSelect(); }); });
         connect(Meaning_, &QAbstractButton::clicked, this, [this] { play([this] { form_.pressMeaning(); }); });
-        connect(Close_, &QAbstractButton::clicked, this, [this] { closePressed(); });
+        connect(Close_, &QAbstractButton::clicked, this, &QDialog::reject);
 
         QVBoxLayout* const column = newColumn();
         column->setContentsMargins(Theme::gap, Theme::gap, Theme::gap, Theme::gap);
@@ -57,13 +57,12 @@ protected:
             accept();
             return;
         }
-        setWindowTitle(toQString(form_.Caption));
         WordsMade_->synchronise();
         for (BoxButton* const button : {Select_, Meaning_, Close_})
             button->synchronise();
     }
 
-    void closePressed() override
+    void reject() override
     {
         play([this] { form_.pressClose(); });
     }
@@ -104,10 +103,10 @@ private:
 
 } // namespace
 
-void runHintsDialog(Host& host, HintsForm& form)
+void GameWindows::show(HintsForm& form)
 {
-    HintsDialog dialog(host, form);
-    host.gate.exec(dialog);
+    HintsDialog dialog(host_, form);
+    host_.gate.exec(dialog);
 }
 
 } // namespace lexigrove

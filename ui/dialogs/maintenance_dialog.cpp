@@ -1,6 +1,6 @@
 #include "dictionary/maintenance.hpp"
-#include "ui/dialogs/dialogs.hpp"
 #include "ui/dialogs/form_dialog.hpp"
+#include "ui/game_windows.hpp"
 #include "ui/look/text.hpp"
 
 #include <QAbstractListModel>
@@ -12,7 +12,6 @@
 #include <QLocale>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QStyledItemDelegate>
 #include <QVBoxLayout>
 
 #include <array>
@@ -26,7 +25,7 @@ namespace
 
 using maintenance_text::ControlText;
 
-/// The rows of the word list. It stores no texts itself.
+/// The rows of a `FilteredWords` for a list widget. It stores no items or texts itself.
 class WordListModel : public QAbstractListModel
 {
 public:
@@ -44,6 +43,8 @@ public:
 
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override
     {
+        if (role == Qt::SizeHintRole) // some padding, and all of the same height
+            return QSize(0, 3 * Theme::grid);
         // In the middle of an operation there can be fewer words than rows still shown.
         if (role != Qt::DisplayRole || !index.isValid() || index.row() >= words_.rowCount())
             return {};
@@ -53,18 +54,6 @@ public:
 private:
     const FilteredWords& words_;
     int shownRows_ = 0;
-};
-
-/// Rows with some padding, all of the same height.
-class WordDelegate : public QStyledItemDelegate
-{
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const override
-    {
-        return {0, 3 * Theme::grid};
-    }
 };
 
 class MaintenanceDialog : public FormDialog
@@ -124,7 +113,7 @@ protected:
         }
     }
 
-    void closePressed() override
+    void reject() override
     {
         input([this] { form_.exit(); });
         accept();
@@ -141,10 +130,8 @@ private:
 
     QPushButton* newExitButton()
     {
-        const ControlText& text = maintenance_text::Command4;
-        QPushButton* const button = lexigrove::newButton(text.name.data(), text.caption, text.toolTip);
-        button->setAutoDefault(false);
-        connect(button, &QPushButton::clicked, this, [this] { closePressed(); });
+        QPushButton* const button = newButton(maintenance_text::Command4, &DictionaryMaintenance::exit);
+        connect(button, &QPushButton::clicked, this, &QDialog::accept);
         return button;
     }
 
@@ -165,7 +152,6 @@ private:
         List1_->setObjectName("List1");
         List1_->setModel(&words_);
         List1_->setUniformItemSizes(true);
-        List1_->setItemDelegate(new WordDelegate(List1_));
         List1_->setEditTriggers(QAbstractItemView::NoEditTriggers);
         connect(List1_, &QListView::clicked, this, [this](const QModelIndex& index) { pick(index); });
         // The arrow keys select. The focus alone also makes a row current, but must not change the word being edited.
@@ -234,10 +220,10 @@ private:
 
 } // namespace
 
-void runMaintenanceDialog(Host& host, DictionaryMaintenance& form)
+void GameWindows::show(DictionaryMaintenance& form)
 {
-    MaintenanceDialog dialog(host, form);
-    host.gate.exec(dialog);
+    MaintenanceDialog dialog(host_, form);
+    host_.gate.exec(dialog);
 }
 
 } // namespace lexigrove

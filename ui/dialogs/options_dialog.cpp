@@ -1,8 +1,8 @@
 #include "settings/options_form.hpp"
 #include "ui/dialogs/box_button.hpp"
-#include "ui/dialogs/dialogs.hpp"
 #include "ui/dialogs/form_dialog.hpp"
 #include "ui/dialogs/scheme_preview.hpp"
+#include "ui/game_windows.hpp"
 #include "ui/look/arrow_box.hpp"
 #include "ui/look/text.hpp"
 
@@ -135,7 +135,7 @@ protected:
         GetUserDictName_->synchronise();
     }
 
-    void closePressed() override
+    void reject() override
     {
         input([this] { form_.pressExit(); });
     }
@@ -264,7 +264,7 @@ private:
         Startx->setDefault(true);
         connect(Startx, &QPushButton::clicked, this, [this] { input([this] { form_.pressStart(); }); });
         connect(PSBoard, &QPushButton::clicked, this, [this] { input([this] { form_.presetBoard(); }); });
-        connect(Exitx, &QPushButton::clicked, this, [this] { closePressed(); });
+        connect(Exitx, &QPushButton::clicked, this, [this] { reject(); });
         if (!form_.offersLookBack())
             return newButtonRow({Startx, PSBoard, Exitx});
         auto* const LookBack = newButton("LookBack", "Look back", "Turn by turn through the game that is over");
@@ -285,10 +285,10 @@ private:
 
 } // namespace
 
-void runOptionsDialog(Host& host, OptionsForm& form)
+void GameWindows::show(OptionsForm& form)
 {
-    OptionsDialog dialog(host, form);
-    host.gate.exec(dialog);
+    OptionsDialog dialog(host_, form);
+    host_.gate.exec(dialog);
 }
 
 } // namespace lexigrove

@@ -1,7 +1,7 @@
 #include "record/past_games.hpp"
-#include "ui/dialogs/dialogs.hpp"
 #include "ui/dialogs/form_dialog.hpp"
 #include "ui/dialogs/score_chart.hpp"
+#include "ui/game_windows.hpp"
 #include "ui/look/arrow_box.hpp"
 #include "ui/look/text.hpp"
 
@@ -22,8 +22,9 @@ namespace
 class PastGamesDialog : public FormDialog
 {
 public:
-    PastGamesDialog(Host& gameHost, PastGamesForm& form)
+    PastGamesDialog(Host& gameHost, GameWindows& windows, PastGamesForm& form)
         : FormDialog(gameHost, "PastGames", "Past Games"),
+          windows_(windows),
           form_(form),
           games_(new QTableWidget(0, PastGamesForm::columnCount)),
           level_(new ArrowBox(host.theme)),
@@ -55,7 +56,7 @@ public:
         open_->setProperty("primary", true);
         open_->setDefault(true);
         connect(open_, &QPushButton::clicked, this, [this] { openCurrent(); });
-        connect(close, &QPushButton::clicked, this, [this] { closePressed(); });
+        connect(close, &QPushButton::clicked, this, [this] { reject(); });
         QVBoxLayout* const column = newColumn();
         column->addLayout(areas, 1);
         column->addWidget(damaged_);
@@ -91,7 +92,7 @@ protected:
         open_->setEnabled(games_->currentRow() >= 0);
     }
 
-    void closePressed() override
+    void reject() override
     {
         input([this] { form_.pressClose(); });
     }
@@ -172,10 +173,11 @@ private:
             return;
         host.gate.run([this, row] {
             const auto review = form_.openRow(static_cast<std::size_t>(row));
-            runReviewDialog(host, *review);
+            windows_.show(*review);
         });
     }
 
+    GameWindows& windows_;
     PastGamesForm& form_;
     QTableWidget* games_;
     ArrowBox* level_;
@@ -189,10 +191,10 @@ private:
 
 } // namespace
 
-void runPastGamesDialog(Host& host, PastGamesForm& form)
+void GameWindows::show(PastGamesForm& form)
 {
-    PastGamesDialog dialog(host, form);
-    host.gate.exec(dialog);
+    PastGamesDialog dialog(host_, *this, form);
+    host_.gate.exec(dialog);
 }
 
 } // namespace lexigrove

@@ -1,7 +1,7 @@
 #include "record/review_form.hpp"
 #include "ui/board/board_picture.hpp"
-#include "ui/dialogs/dialogs.hpp"
 #include "ui/dialogs/form_dialog.hpp"
+#include "ui/game_windows.hpp"
 #include "ui/look/text.hpp"
 
 #include <QButtonGroup>
@@ -65,7 +65,7 @@ public:
         QPushButton* const meaning = newButton("Meaning", "Meaning", "Get meaning of the word whose path is lit");
         QPushButton* const close = newButton("Close", "Close");
         connect(meaning, &QPushButton::clicked, this, [this] { input([this] { form_.pressMeaning(); }); });
-        connect(close, &QPushButton::clicked, this, [this] { closePressed(); });
+        connect(close, &QPushButton::clicked, this, [this] { reject(); });
         column->addLayout(newButtonRow({meaning, close}));
         fillTurns();
         showForm();
@@ -102,7 +102,7 @@ protected:
             turns_->selectRow(form_.turn() - 1);
     }
 
-    void closePressed() override
+    void reject() override
     {
         input([this] { form_.pressClose(); });
     }
@@ -307,10 +307,10 @@ private:
 
 } // namespace
 
-void runReviewDialog(Host& host, ReviewForm& form)
+void GameWindows::show(ReviewForm& form)
 {
-    ReviewDialog dialog(host, form);
-    host.gate.exec(dialog);
+    ReviewDialog dialog(host_, form);
+    host_.gate.exec(dialog);
 }
 
 } // namespace lexigrove

@@ -1,6 +1,6 @@
 #include "scores/score_form.hpp"
-#include "ui/dialogs/dialogs.hpp"
 #include "ui/dialogs/form_dialog.hpp"
+#include "ui/game_windows.hpp"
 #include "ui/look/text.hpp"
 
 #include <QFontDatabase>
@@ -78,7 +78,7 @@ public:
         AnotherGame_->setProperty("primary", true);
         connect(AnotherGame_, &QPushButton::clicked, this, [this] { input([this] { form_.pressAnotherGame(); }); });
         connect(ExitProg_, &QPushButton::clicked, this, [this] { input([this] { form_.pressExitProg(); }); });
-        connect(CloseForm_, &QPushButton::clicked, this, [this] { closePressed(); });
+        connect(CloseForm_, &QPushButton::clicked, this, &QDialog::reject);
 
         connect(&host, &Host::modelsChanged, this,
                 [this] { showForm(); }); // the list stands filled behind the name's box
@@ -114,7 +114,7 @@ protected:
         CloseForm_->setFocus();
     }
 
-    void closePressed() override
+    void reject() override
     {
         input([this] { form_.pressCloseForm(); });
     }
@@ -129,10 +129,10 @@ private:
 
 } // namespace
 
-void runScoreDialog(Host& host, ScoreForm& form)
+void GameWindows::show(ScoreForm& form)
 {
-    ScoreDialog dialog(host, form);
-    host.gate.exec(dialog);
+    ScoreDialog dialog(host_, form);
+    host_.gate.exec(dialog);
 }
 
 } // namespace lexigrove

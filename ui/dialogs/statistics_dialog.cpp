@@ -1,7 +1,7 @@
 #include "scores/statistics_form.hpp"
 #include "ui/dialogs/chart_view.hpp"
-#include "ui/dialogs/dialogs.hpp"
 #include "ui/dialogs/form_dialog.hpp"
+#include "ui/game_windows.hpp"
 #include "ui/look/text.hpp"
 
 #include <QFrame>
@@ -43,17 +43,13 @@ public:
         auto* const Exitx = newButton("Exitx", "Exit");
         Exitx->setDefault(true);
         Exitx->setMinimumWidth(14 * Theme::grid);
-        connect(Exitx, &QPushButton::clicked, this, [this] { closePressed(); });
+        connect(Exitx, &QPushButton::clicked, this, &QDialog::accept);
 
         QVBoxLayout* const column = newColumn();
         column->addLayout(areas);
         column->addWidget(Exitx, 0, Qt::AlignRight);
         layout()->setSizeConstraint(QLayout::SetFixedSize);
     }
-
-protected:
-    void showForm() override {}
-    void closePressed() override { accept(); }
 
 private:
     static QLabel* newLabel(const QString& text, Qt::Alignment alignment)
@@ -106,10 +102,10 @@ private:
 
 } // namespace
 
-void runStatisticsDialog(Host& host, const StatisticsForm& form)
+void GameWindows::show(const StatisticsForm& form)
 {
-    StatisticsDialog dialog(host, form);
-    host.gate.exec(dialog);
+    StatisticsDialog dialog(host_, form);
+    host_.gate.exec(dialog);
 }
 
 } // namespace lexigrove

@@ -3,8 +3,6 @@
 #include <QFile>
 #include <QStringDecoder>
 
-#include <array>
-
 namespace lexigrove
 {
 
@@ -12,27 +10,25 @@ namespace
 {
 
 /// The characters of the bytes 0x80 to 0x9F; all other bytes are their own code points.
-constexpr std::array<char16_t, 32> middleBlock{
-    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
-    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
-    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178,
-};
+constexpr QStringView middleBlock =
+    u"\u20AC\x81\u201A\u0192\u201E\u2026\u2020\u2021\u02C6\u2030\u0160\u2039\u0152\x8D\u017D\x8F"
+    u"\x90\u2018\u2019\u201C\u201D\u2022\u2013\u2014\u02DC\u2122\u0161\u203A\u0153\x9D\u017E\u0178";
 
-constexpr unsigned blockStart = 0x80;
+constexpr int blockStart = 0x80;
 
-char16_t characterOf(unsigned char byte)
+QChar characterOf(unsigned char byte)
 {
-    return byte >= blockStart && byte < blockStart + middleBlock.size() ? middleBlock[byte - blockStart] : byte;
+    const int place = byte - blockStart;
+    return place >= 0 && place < middleBlock.size() ? middleBlock[place] : QChar(byte);
 }
 
-char byteOf(char16_t character)
+char byteOf(QChar character)
 {
-    for (std::size_t i = 0; i < middleBlock.size(); ++i) {
-        if (middleBlock[i] == character)
-            return static_cast<char>(blockStart + i);
-    }
-    const bool ownNumber = character < blockStart || (character >= 0xA0 && character <= 0xFF);
-    return ownNumber ? static_cast<char>(character) : '?';
+    if (const qsizetype place = middleBlock.indexOf(character); place >= 0)
+        return static_cast<char>(blockStart + place);
+    const char16_t number = character.unicode();
+    const bool ownNumber = number < blockStart || (number >= 0xA0 && number <= 0xFF);
+    return ownNumber ? static_cast<char>(number) : '?';
 }
 
 } // namespace
@@ -42,7 +38,7 @@ QString toQString(std::string_view text)
     QString result;
     result.reserve(static_cast<qsizetype>(text.size()));
     for (const char byte : text)
-        result.append(QChar(characterOf(static_cast<unsigned char>(byte))));
+        result.append(characterOf(static_cast<unsigned char>(byte)));
     return result;
 }
 
@@ -52,7 +48,7 @@ std::string fromQString(const QString& text)
     result.reserve(static_cast<std::size_t>(text.size()));
     for (const QChar character : text.normalized(QString::NormalizationForm_C)) {
         if (!character.isLowSurrogate()) // the other half of one character
-            result.push_back(byteOf(character.unicode()));
+            result.push_back(byteOf(character));
     }
     return result;
 }

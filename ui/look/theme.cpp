@@ -25,13 +25,12 @@ Colour fromQColor(const QColor& colour)
                static_cast<unsigned>(colour.blue()));
 }
 
-/// The toolkit's palette, by system colour number.
-SystemPalette desktopPalette()
+/// A palette by system colour number.
+SystemPalette systemColoursOf(const QPalette& palette)
 {
-    const QPalette palette = QApplication::palette();
-    SystemPalette desktop;
+    SystemPalette result;
     const auto set = [&](std::size_t index, QPalette::ColorRole role) {
-        desktop.entries[index] = fromQColor(palette.color(QPalette::Active, role));
+        result.entries[index] = fromQColor(palette.color(QPalette::Active, role));
     };
     set(0, QPalette::Window);
     set(1, QPalette::Window);
@@ -42,6 +41,8 @@ SystemPalette desktopPalette()
     set(7, QPalette::WindowText);
     set(8, QPalette::Text);
     set(9, QPalette::HighlightedText);
+    set(10, QPalette::Mid);
+    set(11, QPalette::Mid);
     set(12, QPalette::Mid);
     set(13, QPalette::Highlight);
     set(14, QPalette::HighlightedText);
@@ -53,27 +54,8 @@ SystemPalette desktopPalette()
     set(22, QPalette::Midlight);
     set(23, QPalette::ToolTipText);
     set(24, QPalette::ToolTipBase);
-    desktop.entries[17] = fromQColor(palette.color(QPalette::Disabled, QPalette::Text));
-    return desktop;
-}
-
-/// The system colours as these windows show them.
-SystemPalette shownSystemColours(const WindowColours& colours)
-{
-    SystemPalette family;
-    family.entries.fill(colours.text);
-    for (const std::size_t background : {0U, 1U, 4U, 12U})
-        family.entries[background] = colours.background;
-    for (const std::size_t line : {6U, 10U, 11U, 16U, 20U, 21U, 22U})
-        family.entries[line] = colours.line;
-    family.entries[2] = family.entries[13] = colours.accent;
-    family.entries[9] = family.entries[14] = colours.accentText;
-    family.entries[5] = family.entries[24] = colours.card;
-    family.entries[8] = family.entries[23] = colours.cardText;
-    family.entries[15] = colours.button;
-    family.entries[18] = colours.buttonText;
-    family.entries[17] = colours.buttonDisabledText;
-    return family;
+    result.entries[17] = fromQColor(palette.color(QPalette::Disabled, QPalette::Text));
+    return result;
 }
 
 QPalette palette(const WindowColours& colours)
@@ -95,11 +77,8 @@ QPalette palette(const WindowColours& colours)
     set(QPalette::LinkVisited, colours.accent);
     set(QPalette::ToolTipBase, colours.card);
     set(QPalette::ToolTipText, colours.cardText);
-    set(QPalette::Light, colours.card);
-    set(QPalette::Midlight, colours.strip);
-    set(QPalette::Mid, colours.line);
-    set(QPalette::Dark, colours.line);
-    set(QPalette::Shadow, mixed(colours.background, colours.text, 0.5));
+    for (const auto edge : {QPalette::Light, QPalette::Midlight, QPalette::Mid, QPalette::Dark, QPalette::Shadow})
+        set(edge, colours.line);
     for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         result.setColor(QPalette::Disabled, role, toQColor(colours.buttonDisabledText));
     return result;
@@ -135,6 +114,7 @@ QToolTip { background: @card; color: @cardText; border: 1px solid @line; padding
 QFrame[card="true"] { background: @card; color: @cardText; border: 1px solid @line; border-radius: 6px; }
 QLabel[quiet="true"] { color: @quietText; }
 QLabel[quiet="true"]:disabled { color: @disabled; }
+QLabel#CompScore { color: @computerText; }
 QLineEdit, QListView, QListWidget, QPlainTextEdit { background: @card; color: @cardText; border: 1px solid @line;
     border-radius: 4px; padding: 3px; selection-background-color: @accent; selection-color: @accentText; }
 QLineEdit:focus, QListView:focus, QListWidget:focus { border-color: @accent; }
@@ -174,7 +154,7 @@ QScrollBar::handle:horizontal { background: @line; border-radius: 4px; min-width
 QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }
 QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
 )");
-    const std::array<std::pair<const char*, Colour>, 19> colourNames{{
+    const std::array<std::pair<const char*, Colour>, 20> colourNames{{
         {"@buttonText", colours.buttonText}, // a name must come before its own prefixes
         {"@buttonHover", colours.buttonHover},
         {"@buttonPressed", mixed(colours.button, colours.buttonText, 0.15)},
@@ -193,6 +173,7 @@ QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
         {"@strip", colours.strip},
         {"@line", colours.line},
         {"@text", colours.text},
+        {"@computerText", colours.computerText},
         {"@background", colours.background},
     }};
     for (const auto& [name, colour] : colourNames)
@@ -207,7 +188,7 @@ QColor toQColor(Colour colour)
     return {static_cast<int>(redOf(colour)), static_cast<int>(greenOf(colour)), static_cast<int>(blueOf(colour))};
 }
 
-Theme::Theme() : desktop_(desktopPalette())
+Theme::Theme() : desktop_(systemColoursOf(QApplication::palette()))
 {
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/lexigrove.svg")));
@@ -215,13 +196,14 @@ Theme::Theme() : desktop_(desktopPalette())
 
 void Theme::apply(const ColourScheme& scheme)
 {
-    if (scheme_ == &scheme && scheme.entries() == shown_)
+    if (scheme_ == &scheme && shown_ == scheme.entries())
         return;
     scheme_ = &scheme;
     shown_ = scheme.entries();
     colours_ = deriveWindowColours(scheme);
-    systemColours_ = shownSystemColours(colours_);
-    QApplication::setPalette(palette(colours_));
+    const QPalette shown = palette(colours_);
+    systemColours_ = systemColoursOf(shown);
+    QApplication::setPalette(shown);
     qApp->setStyleSheet(styleSheet(colours_));
     emit changed();
 }

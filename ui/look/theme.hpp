@@ -8,6 +8,8 @@
 #include <QObject>
 #include <QRectF>
 
+#include <optional>
+
 class QPainter;
 
 namespace lexigrove

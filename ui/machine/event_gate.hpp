@@ -24,8 +24,6 @@ namespace lexigrove
 /// without a parent, like the help, go on.
 class EventGate : public QObject
 {
-    Q_OBJECT
-
 public:
     /// The player is leaving: closes every open dialog and ends every wait, so that the innermost returns first.
     void requestLeaving();

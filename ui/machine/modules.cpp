@@ -17,7 +17,7 @@ QObject* loadModule(const QString& name, const QStringList& folders, QString& fa
 {
     failure = QString("The module %1 is not installed.").arg(name);
     for (const QString& folder : folders) {
-        const QString file = folder + "/" + name + ".so";
+        const QString file = folder + '/' + name + ".so";
         if (!QFileInfo::exists(file))
             continue;
         QPluginLoader loader(file);

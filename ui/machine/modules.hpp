@@ -1,7 +1,8 @@
 #pragma once
 
-#include <QObject>
 #include <QStringList>
+
+class QObject;
 
 namespace lexigrove
 {
@@ -10,8 +11,8 @@ namespace lexigrove
 /// installed.
 QStringList moduleFolders();
 
-/// Loads the first module of this name in the folders. Null if there is none or none can be loaded; `failure` then says
-/// why.
+/// The module of this name in the first of the folders where it can be loaded; null if it is in none, and then
+/// `failure` says why.
 QObject* loadModule(const QString& name, const QStringList& folders, QString& failure);
 
 } // namespace lexigrove

@@ -5,6 +5,7 @@
 #include <QEventLoop>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QScopedValueRollback>
 #include <QTimer>
 
 #include <algorithm>
@@ -75,13 +76,7 @@ void QtScreen::waitForAnyInput()
 {
     emit host_.modelsChanged();
     QEventLoop loop;
-    struct Waiting {
-        Waiting(QEventLoop*& place, QEventLoop& value) : place_(place) { place_ = &value; }
-        ~Waiting() { place_ = nullptr; }
-        Waiting(const Waiting&) = delete;
-        Waiting& operator=(const Waiting&) = delete;
-        QEventLoop*& place_;
-    } const waiting(waiting_, loop);
+    const QScopedValueRollback waiting(waiting_, &loop);
     host_.gate.exec(loop);
 }
 

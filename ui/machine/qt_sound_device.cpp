@@ -4,6 +4,7 @@
 #include "ui/machine/modules.hpp"
 #include "ui/machine/sound_player.hpp"
 
+#include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QTimer>
 
@@ -35,13 +36,6 @@ void handleMessage(QtMsgType type, const QMessageLogContext& context, const QStr
         otherThreadsHandler()(type, context, text);
 }
 
-std::unique_ptr<SoundPlayer> loadPlayer()
-{
-    QString failure; // nobody needs to know why nothing is heard
-    auto* const module = qobject_cast<SoundModule*>(loadModule("lexigrove-sound", moduleFolders(), failure));
-    return module != nullptr ? module->newPlayer() : nullptr;
-}
-
 } // namespace
 
 /// Lives in the sound thread.
@@ -52,7 +46,8 @@ public:
     {
         if (!loaded_) {
             loaded_ = true;
-            player_ = loadPlayer();
+            QString failure; // a game without sound says nothing
+            player_.reset(qobject_cast<SoundPlayer*>(loadModule("lexigrove-sound", moduleFolders(), failure)));
         }
         if (player_)
             player_->play(file);

@@ -1,4 +1,4 @@
-#include "ui/machine/sound_module.hpp"
+#include "ui/machine/sound_player.hpp"
 
 #include <QAudioDevice>
 #include <QFileInfo>
@@ -8,15 +8,18 @@
 
 #include <algorithm>
 #include <map>
+#include <memory>
 
 namespace lexigrove
 {
 
-namespace
+/// Qt Multimedia as a module of the game.
+class MultimediaSound : public QObject, public SoundPlayer
 {
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID LexiGroveSoundPlayer_iid)
+    Q_INTERFACES(lexigrove::SoundPlayer)
 
-class EffectPlayer : public SoundPlayer
-{
 public:
     void play(const QString& file) override
     {
@@ -46,11 +49,6 @@ private:
     std::map<QString, std::unique_ptr<QSoundEffect>> effects_; ///< by file
 };
 
-} // namespace
-
-std::unique_ptr<SoundPlayer> MultimediaSound::newPlayer()
-{
-    return std::make_unique<EffectPlayer>();
-}
-
 } // namespace lexigrove
+
+#include "sound_module.moc"

@@ -3,12 +3,11 @@
 #include <QString>
 #include <QtPlugin>
 
-#include <memory>
-
 namespace lexigrove
 {
 
-/// Plays wave files in the thread that created it. Files are read once and kept.
+/// The machine's sound, in a separate module: plays wave files in the thread that loaded it. Files are read once and
+/// kept. Whoever has loaded it deletes it.
 class SoundPlayer
 {
 public:
@@ -21,16 +20,7 @@ public:
     [[nodiscard]] virtual bool isPlaying() const = 0;
 };
 
-/// The machine's sound, in a separate module.
-class SoundModule
-{
-public:
-    virtual ~SoundModule() = default;
-
-    [[nodiscard]] virtual std::unique_ptr<SoundPlayer> newPlayer() = 0;
-};
-
 } // namespace lexigrove
 
-#define LexiGroveSoundModule_iid "lexigrove.SoundModule/1"
-Q_DECLARE_INTERFACE(lexigrove::SoundModule, LexiGroveSoundModule_iid)
+#define LexiGroveSoundPlayer_iid "lexigrove.SoundPlayer/1"
+Q_DECLARE_INTERFACE(lexigrove::SoundPlayer, LexiGroveSoundPlayer_iid)

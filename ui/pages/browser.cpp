@@ -1,5 +1,7 @@
 #include "ui/pages/browser.hpp"
 
+#include <QScopeGuard>
+
 #include <cstdio>
 #include <utility>
 
@@ -9,30 +11,18 @@ namespace lexigrove
 namespace
 {
 
-/// Suppresses known harmless start-up messages.
-class QuietEngineStart
+/// Prints a message unless it is one that is known from the engine's start and harmless.
+void printUnlessHarmless(QtMsgType type, const QMessageLogContext& context, const QString& text)
 {
-public:
-    QuietEngineStart() : before_(qInstallMessageHandler(passOn)) {}
-    ~QuietEngineStart() { qInstallMessageHandler(before_); }
-    QuietEngineStart(const QuietEngineStart&) = delete;
-    QuietEngineStart& operator=(const QuietEngineStart&) = delete;
-
-private:
-    static void passOn(QtMsgType type, const QMessageLogContext& context, const QString& text)
-    {
-        for (const char* known : {
-                 "Qt WebEngine seems to be initialized from a plugin.", // pages need no OpenGL here
-                 "No suitable graphics backend found",                  // nor a graphics card
-                 "Sandboxing disabled by user.",                        // the module itself says so, and why
-             })
-            if (text.startsWith(known))
-                return;
-        std::fprintf(stderr, "%s\n", qPrintable(qFormatLogMessage(type, context, text)));
-    }
-
-    QtMessageHandler before_;
-};
+    for (const char* known : {
+             "Qt WebEngine seems to be initialized from a plugin.", // pages need no OpenGL here
+             "No suitable graphics backend found",                  // nor a graphics card
+             "Sandboxing disabled by user.",                        // the module itself says so, and why
+         })
+        if (text.startsWith(known))
+            return;
+    std::fprintf(stderr, "%s\n", qPrintable(qFormatLogMessage(type, context, text)));
+}
 
 } // namespace
 
@@ -40,16 +30,11 @@ BrowserLoader::BrowserLoader(QStringList folders) : folders_(std::move(folders))
 
 std::unique_ptr<BrowserPage> BrowserLoader::newPage(const BrowserPageSetup& setup)
 {
-    const QuietEngineStart start;
-    BrowserModule* const engine = module();
-    return engine != nullptr ? engine->newPage(setup) : nullptr;
-}
-
-BrowserModule* BrowserLoader::module()
-{
+    const auto handler =
+        qScopeGuard([before = qInstallMessageHandler(printUnlessHarmless)] { qInstallMessageHandler(before); });
     if (module_ == nullptr)
         module_ = qobject_cast<BrowserModule*>(loadModule("lexigrove-browser", folders_, failure_));
-    return module_;
+    return module_ != nullptr ? module_->newPage(setup) : nullptr;
 }
 
 } // namespace lexigrove

@@ -66,8 +66,6 @@ public:
     [[nodiscard]] const QString& failure() const { return failure_; }
 
 private:
-    [[nodiscard]] BrowserModule* module();
-
     QStringList folders_;
     QString failure_;
     BrowserModule* module_ = nullptr;

@@ -1,4 +1,4 @@
-#include "ui/pages/browser_module.hpp"
+#include "ui/pages/browser.hpp"
 
 #include <QAuthenticator>
 #include <QFileInfo>
@@ -222,16 +222,28 @@ private:
 
 } // namespace
 
-BrowserEngine::BrowserEngine()
+/// Qt WebEngine as a module of the game.
+class BrowserEngine : public QObject, public BrowserModule
 {
-    QLoggingCategory::setFilterRules("qt.webenginecontext=false"); // otherwise a page of technical data in the terminal
-    decideOnSandbox();
-    decideOnPainting();
-}
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID LexiGroveBrowserModule_iid)
+    Q_INTERFACES(lexigrove::BrowserModule)
 
-std::unique_ptr<BrowserPage> BrowserEngine::newPage(const BrowserPageSetup& setup)
-{
-    return std::make_unique<EnginePage>(setup);
-}
+public:
+    BrowserEngine()
+    {
+        // Otherwise there is a page of technical data in the terminal.
+        QLoggingCategory::setFilterRules("qt.webenginecontext=false");
+        decideOnSandbox();
+        decideOnPainting();
+    }
+
+    [[nodiscard]] std::unique_ptr<BrowserPage> newPage(const BrowserPageSetup& setup) override
+    {
+        return std::make_unique<EnginePage>(setup);
+    }
+};
 
 } // namespace lexigrove
+
+#include "browser_module.moc"

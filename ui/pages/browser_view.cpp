@@ -4,27 +4,13 @@
 #include <QGuiApplication>
 #include <QLabel>
 #include <QPushButton>
+#include <QScopeGuard>
 #include <QVBoxLayout>
 
 #include <utility>
 
 namespace lexigrove
 {
-
-namespace
-{
-
-/// The busy pointer (an arrow with an hourglass) for the length of a scope: starting the engine takes a moment.
-class BusyCursor
-{
-public:
-    BusyCursor() { QGuiApplication::setOverrideCursor(Qt::BusyCursor); }
-    ~BusyCursor() { QGuiApplication::restoreOverrideCursor(); }
-    BusyCursor(const BusyCursor&) = delete;
-    BusyCursor& operator=(const BusyCursor&) = delete;
-};
-
-} // namespace
 
 BrowserView::BrowserView(BrowserLoader& loader, BrowserRules rules, QWidget* parent)
     : QWidget(parent),
@@ -61,7 +47,9 @@ BrowserView::~BrowserView()
 
 void BrowserView::navigate(const QUrl& address)
 {
-    const BusyCursor busy;
+    // The busy pointer is an arrow with an hourglass: starting the engine takes a moment.
+    QGuiApplication::setOverrideCursor(Qt::BusyCursor);
+    const auto pointer = qScopeGuard([] { QGuiApplication::restoreOverrideCursor(); });
     wanted_ = address;
     if (!page_ && !openPage()) {
         showFailure(address);

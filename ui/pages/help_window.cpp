@@ -1,12 +1,13 @@
 #include "ui/pages/help_window.hpp"
 
-#include "controls/geometry.hpp"
 #include "ui/dialogs/form_dialog.hpp"
 #include "ui/look/text.hpp"
 #include "ui/pages/browser_view.hpp"
 
+#include <QHBoxLayout>
 #include <QHideEvent>
 #include <QPushButton>
+#include <QVBoxLayout>
 
 namespace lexigrove
 {
@@ -31,10 +32,7 @@ PageColours pageColours(const WindowColours& colours)
 
 HelpWindow::HelpWindow(const Theme& theme, BrowserLoader& loader, const std::string& address)
     : address_(QUrl::fromLocalFile(pathToQString(address))),
-      WebBrowser1_(new BrowserView(loader, BrowserRules::forLocalPage(pathToQString(address)), this)),
-      Command1_(newButton("Command1", "Back")),
-      Command2_(newButton("Command2", "Forward")),
-      Command3_(newButton("Command3", "Exit"))
+      WebBrowser1_(new BrowserView(loader, BrowserRules::forLocalPage(pathToQString(address)), this))
 {
     const auto colourPage = [this, &theme] { WebBrowser1_->setPageColours(pageColours(theme.colours())); };
     connect(&theme, &Theme::changed, this, colourPage);
@@ -43,15 +41,29 @@ HelpWindow::HelpWindow(const Theme& theme, BrowserLoader& loader, const std::str
     setWindowTitle(QStringLiteral("LexiGrove Help"));
     setAttribute(Qt::WA_QuitOnClose, false);
     WebBrowser1_->setObjectName("WebBrowser1");
-    for (QPushButton* const button : {Command1_, Command2_, Command3_}) {
-        button->setParent(this);
+    auto* const Command1 = newButton("Command1", "Back");
+    auto* const Command2 = newButton("Command2", "Forward");
+    auto* const Command3 = newButton("Command3", "Exit");
+    connect(Command1, &QPushButton::clicked, this, [this] { navigateBy(&BrowserView::back); });
+    connect(Command2, &QPushButton::clicked, this, [this] { navigateBy(&BrowserView::forward); });
+    connect(Command3, &QPushButton::clicked, this, &QWidget::hide);
+    Command3->setShortcut(Qt::Key_Escape);
+
+    auto* const areas = new QVBoxLayout(this);
+    areas->setContentsMargins(Theme::grid / 2, Theme::grid / 2, Theme::grid / 2, 0);
+    areas->setSpacing(0);
+    areas->addWidget(WebBrowser1_, 1);
+    auto* const strip = new QHBoxLayout;
+    strip->setSpacing(Theme::spacing);
+    strip->addStrut(4 * Theme::grid);
+    for (QPushButton* const button : {Command1, Command2, Command3}) {
         button->setStyleSheet("padding: 2px 14px; min-height: 18px");
+        button->setFixedWidth(11 * Theme::grid);
+        if (button == Command3) // set apart, at the right
+            strip->addStretch();
+        strip->addWidget(button);
     }
-    connect(Command1_, &QPushButton::clicked, this, [this] { navigateBy(&BrowserView::back); });
-    connect(Command2_, &QPushButton::clicked, this, [this] { navigateBy(&BrowserView::forward); });
-    connect(Command3_, &QPushButton::clicked, this, &QWidget::hide);
-    Command3_->setShortcut(Qt::Key_Escape);
-    WebBrowser1_->move(Theme::grid / 2, Theme::grid / 2);
+    areas->addLayout(strip);
     resize(104 * Theme::grid, 84 * Theme::grid);
 }
 
@@ -74,49 +86,17 @@ bool HelpWindow::event(QEvent* event)
     return QWidget::event(event);
 }
 
-void HelpWindow::resizeEvent(QResizeEvent*)
-{
-    const auto inUnits = helpViewSize(size() * unitsPerPixel, WebBrowser1_->y() * unitsPerPixel);
-    if (!inUnits)
-        return;
-    WebBrowser1_->resize(*inUnits / unitsPerPixel);
-
-    const int strip = WebBrowser1_->geometry().bottom() + 1;
-    int left = WebBrowser1_->x();
-    for (QPushButton* const button : {Command1_, Command2_, Command3_}) {
-        const QSize buttonSize(11 * Theme::grid, button->sizeHint().height());
-        if (button == Command3_) // set apart, at the right
-            left = width() - WebBrowser1_->x() - buttonSize.width();
-        button->setGeometry({QPoint(left, strip + (height() - strip - buttonSize.height()) / 2), buttonSize});
-        left += buttonSize.width() + Theme::spacing;
-    }
-}
-
 void HelpWindow::hideEvent(QHideEvent* event)
 {
     if (!event->spontaneous())
         WebBrowser1_->close();
 }
 
+/// "Back" and "Forward" only move between the "#" anchors of the help page.
 void HelpWindow::navigateBy(void (BrowserView::*direction)())
 {
-    if (mayNavigate(WebBrowser1_->address()))
+    if (WebBrowser1_->address().toEncoded().contains('#'))
         (WebBrowser1_->*direction)();
-}
-
-bool mayNavigate(const QUrl& currentAddress)
-{
-    return currentAddress.toEncoded().contains('#');
-}
-
-std::optional<QSize> helpViewSize(QSize inner, int viewTop)
-{
-    constexpr int sideMargin = 120;
-    constexpr int buttonStrip = 480;
-    const QSize size(inner.width() - sideMargin, inner.height() - buttonStrip - viewTop);
-    if (size.width() < 0 || size.height() < 0)
-        return std::nullopt;
-    return size;
 }
 
 } // namespace lexigrove

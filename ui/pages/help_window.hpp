@@ -1,13 +1,9 @@
 #pragma once
 
-#include <QSize>
 #include <QUrl>
 #include <QWidget>
 
-#include <optional>
 #include <string>
-
-class QPushButton;
 
 namespace lexigrove
 {
@@ -29,7 +25,6 @@ public:
 
 protected:
     bool event(QEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
     void hideEvent(QHideEvent* event) override;
 
 private:
@@ -37,18 +32,7 @@ private:
 
     const QUrl address_;
     BrowserView* WebBrowser1_;
-    QPushButton* Command1_;
-    QPushButton* Command2_;
-    QPushButton* Command3_;
     bool awaitsActivation_ = false; ///< the page for this showing is already loading
 };
-
-/// Whether "Back" and "Forward" do anything at the browser's current address: they only move between the "#" anchors of
-/// the help page.
-[[nodiscard]] bool mayNavigate(const QUrl& currentAddress);
-
-/// Size of the browser view for a window's inner size and the view's top, all in 1/1440 inch. Nothing if it would be
-/// negative: the view then keeps its size.
-[[nodiscard]] std::optional<QSize> helpViewSize(QSize inner, int viewTop);
 
 } // namespace lexigrove

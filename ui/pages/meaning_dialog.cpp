@@ -1,6 +1,5 @@
-#include "ui/pages/meaning_dialog.hpp"
-
 #include "ui/dialogs/form_dialog.hpp"
+#include "ui/game_windows.hpp"
 #include "ui/look/text.hpp"
 #include "ui/pages/browser_view.hpp"
 #include "word_services/meanings.hpp"
@@ -31,18 +30,14 @@ public:
         // an open dialog.
         WbDictionary->navigate(QUrl(toQString(form.address)));
     }
-
-protected:
-    void showForm() override {}
-    void closePressed() override { accept(); }
 };
 
 } // namespace
 
-void runMeaningDialog(Host& host, BrowserLoader& loader, const MeaningForm& form)
+void GameWindows::show(const MeaningForm& form)
 {
-    MeaningDialog dialog(host, loader, form);
-    host.gate.exec(dialog);
+    MeaningDialog dialog(host_, *browser_, form);
+    host_.gate.exec(dialog);
 }
 
 } // namespace lexigrove

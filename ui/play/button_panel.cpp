@@ -4,6 +4,7 @@
 #include "settings/sound_cues.hpp"
 #include "ui/look/text.hpp"
 #include "ui/look/theme.hpp"
+#include "ui/play/commands.hpp"
 
 #include <QHBoxLayout>
 #include <QPushButton>
@@ -27,50 +28,30 @@ ButtonPanel::ButtonPanel(GameFlow& flow, QWidget* parent) : QWidget(parent), flo
         column->addLayout(row);
     }
     for (const PanelButton& description : panelButtons()) {
-        QPushButton* button = add(description);
+        auto* button = new QPushButton(description.text, this);
+        button->setObjectName(description.name);
+        button->setToolTip(description.toolTip);
+        button->setFocusPolicy(Qt::TabFocus); // a click leaves the keyboard for typing words
+        connect(button, &QPushButton::clicked, this, [this, command = description.command] { flow_.perform(command); });
         rows[static_cast<std::size_t>(description.row)]->addWidget(button, description.width);
-        entries_.push_back({description, button});
-        if (description.command == Command::EnterWord)
-            enterWord_ = button;
-        else if (description.command == Command::Pause)
-            pause_ = button;
-        else if (description.command == Command::Sound)
-            sound_ = button;
+        buttons_[description.command] = button;
     }
-    enterWord_->setProperty("primary", true);
-    QSizePolicy policy = enterWord_->sizePolicy();
+    QPushButton& enterWord = *buttons_.at(Command::EnterWord);
+    enterWord.setProperty("primary", true);
+    QSizePolicy policy = enterWord.sizePolicy();
     policy.setRetainSizeWhenHidden(true);
-    enterWord_->setSizePolicy(policy);
-}
-
-QPushButton* ButtonPanel::add(const PanelButton& description)
-{
-    auto* button = new QPushButton(description.text, this);
-    button->setObjectName(description.name);
-    button->setAccessibleName(description.text);
-    button->setToolTip(description.toolTip);
-    button->setFocusPolicy(Qt::TabFocus); // a click leaves the keyboard for typing words
-    connect(button, &QPushButton::clicked, this, [this, command = description.command] { flow_.perform(command); });
-    return button;
+    enterWord.setSizePolicy(policy);
 }
 
 void ButtonPanel::synchronise()
 {
     const GameState& state = flow_.view().state;
-    if (isEnabled() == state.computerTurnInProgress)
-        setEnabled(!state.computerTurnInProgress);
-    for (const Entry& entry : entries_)
-        entry.button->setEnabled(flow_.isTime(GameFlow::timeOf(entry.description.command)));
-    if (enterWord_->isHidden() == state.showsEnterWord())
-        enterWord_->setVisible(state.showsEnterWord());
-    const auto setCaption = [](QPushButton* button, const QString& caption) {
-        if (button->text() != caption) {
-            button->setText(caption);
-            button->setAccessibleName(caption);
-        }
-    };
-    setCaption(pause_, flow_.isPaused() ? tr("Resume") : tr("Pause"));
-    setCaption(sound_, toQString(flow_.view().sounds.caption()));
+    setEnabled(!state.computerTurnInProgress);
+    for (const auto& [command, button] : buttons_)
+        button->setEnabled(flow_.isTime(GameFlow::timeOf(command)));
+    buttons_.at(Command::EnterWord)->setVisible(state.showsEnterWord());
+    buttons_.at(Command::Pause)->setText(flow_.isPaused() ? tr("Resume") : tr("Pause"));
+    buttons_.at(Command::Sound)->setText(toQString(flow_.view().sounds.caption()));
 }
 
 } // namespace lexigrove

@@ -1,11 +1,10 @@
 #pragma once
 
 #include "flow/game_flow.hpp"
-#include "ui/play/commands.hpp"
 
 #include <QWidget>
 
-#include <vector>
+#include <map>
 
 class QPushButton;
 
@@ -23,18 +22,8 @@ public:
     void synchronise();
 
 private:
-    struct Entry {
-        PanelButton description;
-        QPushButton* button;
-    };
-
-    [[nodiscard]] QPushButton* add(const PanelButton& description);
-
     GameFlow& flow_;
-    std::vector<Entry> entries_;
-    QPushButton* enterWord_ = nullptr;
-    QPushButton* pause_ = nullptr;
-    QPushButton* sound_ = nullptr;
+    std::map<Command, QPushButton*> buttons_;
 };
 
 } // namespace lexigrove

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "controls/dc.hpp"
 #include "ui/look/theme.hpp"
 
 #include <QWidget>
@@ -10,6 +9,8 @@
 namespace lexigrove
 {
 
+class GameFlow;
+
 /// The face of the clock `Dc1`, as large as fits. It never takes the focus by itself; a container that gives it the
 /// focus makes it expire.
 class ClockView : public QWidget
@@ -17,21 +18,14 @@ class ClockView : public QWidget
     Q_OBJECT
 
 public:
-    ClockView(const Dc& clock, QWidget* parent);
-
-    /// Repaints when the clock shows something else.
-    void synchronise();
-
-signals:
-    void focusReceived();
+    ClockView(GameFlow& flow, QWidget* parent);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
 
 private:
-    const Dc& clock_;
-    std::uint32_t shownRevision_ = 0;
+    GameFlow& flow_;
 };
 
 /// The frame `Frame10` around the clock, in the clock's own background colour.
@@ -40,24 +34,20 @@ class ClockFrame : public QWidget
     Q_OBJECT
 
 public:
-    ClockFrame(const Dc& clock, const Theme& theme, QWidget* parent);
+    ClockFrame(GameFlow& flow, const Theme& theme, QWidget* parent);
 
+    /// Repaints when the clock shows something else.
     void synchronise();
-    [[nodiscard]] ClockView& view() { return *view_; }
 
     [[nodiscard]] QSize sizeHint() const override;
 
-signals:
-    void released(Qt::MouseButton button);
-
 protected:
     void paintEvent(QPaintEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
     void mousePressEvent(QMouseEvent* /*event*/) override {} ///< accepted, so that the release comes here
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
-    const Dc& clock_;
+    GameFlow& flow_;
     const Theme& theme_;
     ClockView* view_;
     std::uint32_t shownRevision_ = 0;

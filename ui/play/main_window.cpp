@@ -3,7 +3,6 @@
 #include "dictionary/dictionary.hpp"
 #include "settings/sound_cues.hpp"
 #include "ui/look/text.hpp"
-#include "ui/machine/mouse.hpp"
 
 #include <QAction>
 #include <QApplication>
@@ -85,9 +84,6 @@ void MainWindow::addCornerButton(QHBoxLayout& row, const QString& name, const QS
 
 void MainWindow::connectArea()
 {
-    connect(area_->clock, &ClockFrame::released, this,
-            [this](Qt::MouseButton button) { flow_.releaseClockFrame(mouseButton(button)); });
-    connect(&area_->clock->view(), &ClockView::focusReceived, this, [this] { flow_.clockGotFocus(); });
     connect(area_->words, &WordsView::headingClicked, this, [this](int x) { flow_.sortWordsMade(x); });
     connect(area_->words, &WordsView::rowPicked, this, [this](int row) { flow_.pickWord(row); });
     connect(area_->words, &WordsView::rowActivated, this, [this](int row) {

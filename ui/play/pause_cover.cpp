@@ -8,19 +8,18 @@
 namespace lexigrove
 {
 
-PauseCover::PauseCover(const Theme& theme, QWidget* parent) : QWidget(parent), theme_(theme)
+PauseCover::PauseCover(const Theme& theme, const QString& hint, QWidget* parent)
+    : QWidget(parent), theme_(theme), hint_(hint)
 {
     setObjectName("PauseCover");
     hide();
-    connect(&theme, &Theme::changed, this, [this] { update(); });
 }
 
-void PauseCover::setCaption(const QString& caption, const QString& hint)
+void PauseCover::setCaption(const QString& caption)
 {
-    if (caption == caption_ && hint == hint_)
+    if (caption == caption_)
         return;
     caption_ = caption;
-    hint_ = hint;
     update();
 }
 

@@ -13,10 +13,11 @@ class PauseCover : public QWidget
     Q_OBJECT
 
 public:
-    PauseCover(const Theme& theme, QWidget* parent);
+    /// `hint` is a less prominent line below the caption.
+    PauseCover(const Theme& theme, const QString& hint, QWidget* parent);
 
-    /// The blinking caption, empty in its off phase, and a less prominent line below it.
-    void setCaption(const QString& caption, const QString& hint = {});
+    /// The blinking caption, empty in its off phase.
+    void setCaption(const QString& caption);
     [[nodiscard]] const QString& caption() const { return caption_; }
 
 signals:
@@ -30,7 +31,7 @@ protected:
 private:
     const Theme& theme_;
     QString caption_;
-    QString hint_;
+    const QString hint_;
 };
 
 } // namespace lexigrove

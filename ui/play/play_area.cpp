@@ -3,7 +3,9 @@
 #include "game/game_state.hpp"
 #include "ui/look/text.hpp"
 
+#include <QFrame>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -20,16 +22,39 @@ constexpr int sideMaximum = 80 * Theme::grid;
 constexpr double smallestCell = 40;
 constexpr double usualCell = 60;
 constexpr int topMargin = Theme::gap;
+constexpr double numberSize = 24;
+
+/// The label of a number of the game, on a card of its own under what it counts.
+QLabel* newNumber(const char* name, const QString& caption, const QString& toolTip)
+{
+    auto* card = new QFrame;
+    card->setProperty("card", true);
+    card->setToolTip(toolTip);
+    auto* heading = new QLabel(caption);
+    heading->setProperty("quiet", true);
+    heading->setFont(Theme::font(Theme::smallestText));
+    auto* number = new QLabel;
+    number->setObjectName(name);
+    number->setAccessibleName(caption);
+    number->setFont(Theme::font(numberSize, true));
+    number->setTextFormat(Qt::PlainText);
+    auto* column = new QVBoxLayout(card);
+    column->setContentsMargins(Theme::grid + Theme::grid / 2, Theme::grid - 2, Theme::grid, Theme::grid - 2);
+    column->setSpacing(0);
+    column->addWidget(heading);
+    column->addWidget(number, 1, Qt::AlignVCenter);
+    return number;
+}
 
 } // namespace
 
 PlayArea::PlayArea(GameFlow& flow, const Theme& theme, QWidget* parent)
-    : QWidget(parent), board(new BoardView(flow, theme, this)), flow_(flow), theme_(theme), side_(new QWidget(this))
+    : QWidget(parent), board(new BoardView(flow, theme, this)), flow_(flow), side_(new QWidget(this))
 {
-    clock = new ClockFrame(flow.view().clock, theme, side_);
-    yourScore_ = new NumberCard("YourScore", tr("Your score"), tr("Points that you have scored"), side_);
-    compScore_ = new NumberCard("CompScore", tr("Computer"), tr("Points that the computer has scored"), side_);
-    tilesLeft_ = new NumberCard("TilesLeft", tr("Tiles left"), tr("Letters still to come"), side_);
+    clock = new ClockFrame(flow, theme, side_);
+    yourScore_ = newNumber("YourScore", tr("Your score"), tr("Points that you have scored"));
+    compScore_ = newNumber("CompScore", tr("Computer"), tr("Points that the computer has scored"));
+    tilesLeft_ = newNumber("TilesLeft", tr("Tiles left"), tr("Letters still to come"));
     word_ = new WordBox(flow, theme, side_);
     buttons = new ButtonPanel(flow, side_);
     words = new WordsView(flow.view().state.WordsMade, theme, side_);
@@ -40,8 +65,8 @@ PlayArea::PlayArea(GameFlow& flow, const Theme& theme, QWidget* parent)
     words->activatesOnEnter = false; // Enter is for the word on the board
     buildSide();
 
-    boardCover_ = new PauseCover(theme, this);
-    wordsCover_ = new PauseCover(theme, this);
+    boardCover_ = new PauseCover(theme, tr("Click here to resume"), this);
+    wordsCover_ = new PauseCover(theme, {}, this);
     wordsCover_->setObjectName("PauseCoverOfWords");
     for (const PauseCover* cover : {boardCover_, wordsCover_}) {
         connect(cover, &PauseCover::clicked, this, [this] {
@@ -49,8 +74,6 @@ PlayArea::PlayArea(GameFlow& flow, const Theme& theme, QWidget* parent)
                 flow_.perform(Command::Pause);
         });
     }
-    connect(&theme, &Theme::changed, this, &PlayArea::applyColours);
-    applyColours();
 }
 
 void PlayArea::buildSide()
@@ -58,8 +81,8 @@ void PlayArea::buildSide()
     auto* numbers = new QHBoxLayout;
     numbers->setSpacing(Theme::spacing);
     numbers->addWidget(clock, 4);
-    for (NumberCard* card : {yourScore_, compScore_, tilesLeft_})
-        numbers->addWidget(card, 3);
+    for (const QLabel* number : {yourScore_, compScore_, tilesLeft_})
+        numbers->addWidget(number->parentWidget(), 3);
     auto* column = new QVBoxLayout(side_);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(Theme::gap);
@@ -67,11 +90,6 @@ void PlayArea::buildSide()
     column->addWidget(word_);
     column->addWidget(buttons);
     column->addWidget(words, 1);
-}
-
-void PlayArea::applyColours()
-{
-    compScore_->setNumberColour(toQColor(theme_.colours().computerText));
 }
 
 QSize PlayArea::sizeHint() const
@@ -87,14 +105,9 @@ QSize PlayArea::minimumSizeHint() const
     return {boardSize.width() + sideMinimum + 3 * Theme::margin, height + Theme::margin + topMargin};
 }
 
-void PlayArea::resizeEvent(QResizeEvent* /*event*/)
-{
-    layOut();
-}
-
 /// The board takes all the height, and the side takes the remaining width, up to what it can use; together they are
 /// centred.
-void PlayArea::layOut()
+void PlayArea::resizeEvent(QResizeEvent* /*event*/)
 {
     const int height = this->height() - Theme::margin - topMargin;
     const int width = this->width() - 3 * Theme::margin;
@@ -124,11 +137,10 @@ void PlayArea::synchronise()
     const GameState& state = flow_.view().state;
     board->synchronise();
     clock->synchronise();
-    yourScore_->setNumber(std::to_string(state.yourScore));
-    compScore_->setNumber(std::to_string(state.compScore));
-    tilesLeft_->setNumber(state.tilesLeftText());
-    if (compScore_->isHidden() == state.computerGame) // a solo player needs no second score
-        compScore_->setVisible(state.computerGame);
+    yourScore_->setText(QString::number(state.yourScore));
+    compScore_->setText(QString::number(state.compScore));
+    compScore_->parentWidget()->setVisible(state.computerGame); // a solo player needs no second score
+    tilesLeft_->setText(toQString(state.tilesLeftText()));
     word_->synchronise();
     buttons->synchronise();
     words->synchronise();
@@ -138,7 +150,7 @@ void PlayArea::synchronise()
 void PlayArea::showPause()
 {
     const bool paused = flow_.isPaused();
-    boardCover_->setCaption(toQString(flow_.pauseCaption()), paused ? tr("Click here to resume") : QString());
+    boardCover_->setCaption(toQString(flow_.pauseCaption()));
     if (boardCover_->isHidden() != paused)
         return;
     placeCovers();

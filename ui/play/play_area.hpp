@@ -5,11 +5,12 @@
 #include "ui/look/words_view.hpp"
 #include "ui/play/button_panel.hpp"
 #include "ui/play/clock_view.hpp"
-#include "ui/play/number_card.hpp"
 #include "ui/play/pause_cover.hpp"
 #include "ui/play/word_box.hpp"
 
 #include <QWidget>
+
+class QLabel;
 
 namespace lexigrove
 {
@@ -38,17 +39,14 @@ protected:
 
 private:
     void buildSide();
-    void layOut();
     void placeCovers();
     void showPause();
-    void applyColours();
 
     GameFlow& flow_;
-    const Theme& theme_;
     QWidget* side_;
-    NumberCard* yourScore_;
-    NumberCard* compScore_;
-    NumberCard* tilesLeft_;
+    QLabel* yourScore_;
+    QLabel* compScore_;
+    QLabel* tilesLeft_;
     WordBox* word_;
     PauseCover* boardCover_;
     PauseCover* wordsCover_;

@@ -74,7 +74,6 @@ StatusLineView::StatusLineView(const StatusLine& status, const GameFlow& flow, c
     }
     Label4->setFont(Theme::font(Theme::smallestText));
     Label4->setWordWrap(true);
-    Label4->hide();
     auto* rows = new QGridLayout(this);
     rows->setContentsMargins(Theme::margin, Theme::grid, Theme::margin, Theme::grid);
     rows->setHorizontalSpacing(Theme::grid);
@@ -83,15 +82,13 @@ StatusLineView::StatusLineView(const StatusLine& status, const GameFlow& flow, c
     rows->addWidget(Label4, 1, 0, 1, 2);
     rows->setColumnStretch(1, 1);
     rows->setRowMinimumHeight(0, iconSize + 2);
-    connect(&theme, &Theme::changed, this, [this] { update(); });
 }
 
 void StatusLineView::synchronise()
 {
     const std::string& text = status_.News.empty() ? status_.Label1 : status_.News;
-    if (text != shown_) {
-        shown_ = text;
-        full_ = onOneLine(shown_);
+    if (const QString message = onOneLine(text); message != full_) {
+        full_ = message;
         elide();
     }
     const GameState& state = flow_.view().state;
@@ -101,17 +98,14 @@ void StatusLineView::synchronise()
     if (state.developerMode == Label4->isHidden())
         Label4->setVisible(state.developerMode);
     const int tile = state.developerMode ? state.hoveredTile : 0;
-    const QString description = tile == 0 ? QString() : toQString(flow_.view().board.description(tile));
-    if (description != Label4->text())
-        Label4->setText(description);
+    Label4->setText(tile == 0 ? QString() : toQString(flow_.view().board.description(tile)));
 }
 
 /// Messages that the player has to know stand out from descriptions of what is under the pointer.
 void StatusLineView::setLoud(bool loud)
 {
-    if (loud == loud_)
+    if (Label1->property("quiet").toBool() != loud)
         return;
-    loud_ = loud;
     Label1->setProperty("quiet", !loud);
     Label1->style()->unpolish(Label1);
     Label1->style()->polish(Label1);

@@ -34,9 +34,7 @@ private:
     QWidget* Warn;
     QLabel* Label1;
     QLabel* Label4;
-    std::string shown_;
-    bool loud_ = false;
-    QString full_; ///< the whole message if the label shows only its beginning
+    QString full_; ///< the whole message, of which the label may show only the beginning
 };
 
 } // namespace lexigrove

@@ -6,8 +6,12 @@
 #include "settings/readable_colours.hpp"
 #include "ui/look/text.hpp"
 
+#include <QFontMetricsF>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QPainter>
+
+#include <cmath>
 
 namespace lexigrove
 {
@@ -21,6 +25,76 @@ constexpr double frameWidth = 2;
 
 } // namespace
 
+/// A label whose text is as large as fits, up to a maximum.
+class FittingLabel : public QLabel
+{
+public:
+    /// `largest` is in pixels, `letterSpacing` a fraction of the text's size.
+    FittingLabel(double largest, double letterSpacing, QWidget* parent)
+        : QLabel(parent), largest_(largest), letterSpacing_(letterSpacing)
+    {
+        setTextFormat(Qt::PlainText);
+    }
+
+    void setColour(const QColor& colour)
+    {
+        if (colour == colour_)
+            return;
+        colour_ = colour;
+        update();
+    }
+
+    /// The text shown, smaller and less prominent, while there is none.
+    void setPlaceholder(const QString& text) { placeholder_ = text; }
+
+    void setLargest(double largest)
+    {
+        largest_ = largest;
+        updateGeometry();
+        update();
+    }
+
+    [[nodiscard]] QSize sizeHint() const override
+    {
+        const QFontMetricsF metrics(fontOf(largest_));
+        const double width = text().isEmpty() ? 0 : metrics.horizontalAdvance(text());
+        return {static_cast<int>(std::ceil(width)), static_cast<int>(std::ceil(metrics.height()))};
+    }
+
+    [[nodiscard]] QSize minimumSizeHint() const override { return {0, sizeHint().height()}; }
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override
+    {
+        QPainter painter(this);
+        const Qt::Alignment place = alignment() | Qt::AlignVCenter;
+        if (text().isEmpty()) {
+            painter.setFont(Theme::font(Theme::quietTextSize + 1));
+            painter.setPen(palette().color(QPalette::PlaceholderText));
+            painter.drawText(rect(), static_cast<int>(place) | Qt::TextWordWrap, placeholder_);
+            return;
+        }
+        const double wanted = QFontMetricsF(fontOf(largest_)).horizontalAdvance(text());
+        const double size = wanted > width() ? std::floor(largest_ * width() / wanted) : largest_;
+        painter.setFont(fontOf(size));
+        painter.setPen(colour_);
+        painter.drawText(rect(), static_cast<int>(place), text());
+    }
+
+private:
+    [[nodiscard]] QFont fontOf(double size) const
+    {
+        QFont font = Theme::font(size, true);
+        font.setLetterSpacing(QFont::AbsoluteSpacing, size * letterSpacing_);
+        return font;
+    }
+
+    double largest_;
+    double letterSpacing_;
+    QColor colour_;
+    QString placeholder_;
+};
+
 WordBox::WordBox(const GameFlow& flow, const Theme& theme, QWidget* parent)
     : QWidget(parent),
       flow_(flow),
@@ -30,6 +104,7 @@ WordBox::WordBox(const GameFlow& flow, const Theme& theme, QWidget* parent)
 {
     WordTried->setObjectName("WordTried");
     WordTried->setAccessibleName(tr("The word so far"));
+    WordTried->setPlaceholder(tr("Click or type touching letters"));
     CurrScore->setObjectName("CurrScore");
     CurrScore->setAccessibleName(tr("Its score"));
     CurrScore->setAlignment(Qt::AlignHCenter);
@@ -38,8 +113,6 @@ WordBox::WordBox(const GameFlow& flow, const Theme& theme, QWidget* parent)
     row->setContentsMargins(2 * Theme::grid, Theme::grid, Theme::grid, Theme::grid);
     row->addWidget(WordTried, 1);
     row->addWidget(CurrScore);
-    connect(&theme, &Theme::changed, this, &WordBox::applyColours);
-    applyColours();
 }
 
 void WordBox::setLetterSize(double size)
@@ -51,9 +124,8 @@ void WordBox::setLetterSize(double size)
 void WordBox::synchronise()
 {
     const GameState& state = flow_.view().state;
-    const QString word = toQString(flow_.view().selection.wordTried());
-    if (word != WordTried->text())
-        WordTried->setText(word);
+    const WindowColours& colours = theme_.colours();
+    WordTried->setText(toQString(flow_.view().selection.wordTried()));
     const QString score = toQString(state.currScoreText());
     if (score != CurrScore->text()) {
         CurrScore->setText(score);
@@ -63,20 +135,12 @@ void WordBox::synchronise()
     std::optional<Colour> scoreBack;
     if (state.currScore && multiplier::isBonus(state.currScore->best))
         scoreBack = flow_.view().scheme.tileFace(state.currScore->best);
-    if (state.computerTurnInProgress == computersTurn_ && scoreBack == scoreBack_)
-        return;
+    if (state.computerTurnInProgress != computersTurn_ || scoreBack != scoreBack_)
+        update();
     computersTurn_ = state.computerTurnInProgress;
     scoreBack_ = scoreBack;
-    applyColours();
-}
-
-void WordBox::applyColours()
-{
-    const WindowColours& colours = theme_.colours();
     WordTried->setColour(toQColor(computersTurn_ ? colours.computerFore : colours.cardText));
-    WordTried->setPlaceholder(tr("Click or type touching letters"), toQColor(colours.cardQuietText));
     CurrScore->setColour(toQColor(scoreBack_ ? readableOn(*scoreBack_) : colours.accent));
-    update();
 }
 
 void WordBox::paintEvent(QPaintEvent* /*event*/)

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "flow/game_flow.hpp"
-#include "ui/look/fitting_label.hpp"
 #include "ui/look/theme.hpp"
 
 #include <QWidget>
@@ -10,6 +9,8 @@
 
 namespace lexigrove
 {
+
+class FittingLabel;
 
 /// The word being built with its score: `WordTried` and `CurrScore`, framed in the accent; in the computer's colours
 /// during its turn.
@@ -29,8 +30,6 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    void applyColours();
-
     const GameFlow& flow_;
     const Theme& theme_;
     FittingLabel* WordTried;
