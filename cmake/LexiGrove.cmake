@@ -16,7 +16,8 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_L
         -Wno-unknown-warning-option -Wno-restrict -Wno-maybe-uninitialized) # the first is for tools that know none of them
 endif()
 if(LEXIGROVE_SANITIZE)
-    set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    # The web engine's objects carry no type information that could be checked.
+    set(sanitizers -fsanitize=address,undefined -fno-sanitize=vptr -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_compile_options(lexigrove_flags INTERFACE ${sanitizers})
     target_link_options(lexigrove_flags INTERFACE ${sanitizers})
 endif()

@@ -7,6 +7,8 @@
 #include <cstdint>
 #include <limits>
 #include <optional>
+#include <sstream>
+#include <utility>
 
 namespace lexigrove
 {
@@ -39,10 +41,15 @@ struct ReviewPlace {
     std::optional<int> turn; ///< nothing for the whole game
 };
 
+int gameArgument(Arguments& arguments)
+{
+    return arguments.number("game", 1, static_cast<int>(RecordFolder::most));
+}
+
 ReviewPlace reviewPlace(Arguments& arguments)
 {
     ReviewPlace place;
-    place.game = arguments.number("game", 1, static_cast<int>(RecordFolder::most));
+    place.game = gameArgument(arguments);
     if (const auto typed = arguments.next())
         place.turn = numberIn("turn", *typed, 1, std::numeric_limits<std::int16_t>::max());
     return place;
@@ -91,13 +98,31 @@ Lines turnLines(const Review& review, int number)
     return lines;
 }
 
+/// Game 1 is the newest.
+GameRecord gameAt(CommandContext& context, int number)
+{
+    RecordFolder::Contents contents = RecordFolder(folderOf(context)).list();
+    if (number > static_cast<int>(contents.records.size()))
+        throw CommandError("no such game: " + std::to_string(number));
+    return std::move(contents.records[static_cast<std::size_t>(number) - 1].record);
+}
+
+Lines summary(CommandContext& context, int number)
+{
+    const GameRecord game = gameAt(context, number);
+    if (game.kind != GameKind::Daily)
+        throw CommandError("not a game on the board of a day: " + std::to_string(number));
+    Lines lines;
+    std::istringstream text(dailySummary(game));
+    for (std::string line; std::getline(text, line);)
+        lines.push_back(line);
+    return lines;
+}
+
 Lines reviewGame(CommandContext& context, const ReviewPlace& place)
 {
-    const RecordFolder::Contents contents = RecordFolder(folderOf(context)).list();
-    if (place.game > static_cast<int>(contents.records.size()))
-        throw CommandError("no such game: " + std::to_string(place.game));
     ReviewLists lists(folderOf(context));
-    const Review review(contents.records[static_cast<std::size_t>(place.game) - 1].record, lists);
+    const Review review(gameAt(context, place.game), lists);
     if (!place.turn)
         return gameLines(review);
     if (*place.turn > review.turnCount())
@@ -145,6 +170,7 @@ std::vector<ConsoleCommand> recordCommands()
     return {
         command("games", When::Always, printGames),
         command("review", When::Always, reviewPlace, reviewGame),
+        command("summary", When::Always, gameArgument, summary),
         command("share", When::InGame, shareBoard),
         command("play_shared", When::NotPaused, restArgument, playShared),
         command("daily", When::Always, dayArgument, daily),

@@ -324,8 +324,7 @@ void GameFlow::leave()
             offerScore(*parts_);
     });
     recordGame(GameEnd::Left);
-    if (inGame_)
-        forgetSavedGame(); // one that was not continued waits for the next start, until another game begins
+    forgetSavedGame();
     despiteLeaving([this] { parts_->configuration.save(); });
     parts_->sounds.play(cue::thanks);
     throw ProgramEnd();

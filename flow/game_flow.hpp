@@ -12,6 +12,7 @@ namespace lexigrove
 {
 
 class Board;
+enum class Durability;
 enum class GameEnd;
 class ColourScheme;
 class Dc;
@@ -24,6 +25,7 @@ class OptionsForm;
 class Selection;
 class SoundCues;
 struct GameParts;
+struct GameRecord;
 struct GameState;
 struct Ports;
 struct SystemPalette;
@@ -67,13 +69,12 @@ public:
     void startUp(std::optional<Arrangement> arrangement = {});
     /// Shows the options dialog and starts a game with its choices.
     void openOptionsAndStart();
-    /// Offers to continue the game that was kept; else as `openOptionsAndStart`.
-    void openOrContinue();
     /// Starts a game with the choices as they stand, without the options dialog.
     void startGame();
     /// Starts a game from a position, which is not recorded among the scores.
     void playPosition(const BoardPosition& board);
-    /// Continues the game that was kept, after its question.
+    /// Offers to continue the game that was kept. Without one, or declined, nothing happens until another game begins,
+    /// which takes its place.
     void continueGame();
     [[nodiscard]] bool ended() const { return ended_; }   ///< the program is over: the front end closes
     [[nodiscard]] bool inGame() const { return inGame_; } ///< once a game has started
@@ -130,11 +131,13 @@ private:
     bool giveUpGame();
     void askForSharedBoard();
     bool beginShared(const std::string& text);
+    std::optional<GameRecord> record(const Position& game, GameEnd end);
     void recordGame(GameEnd end);
     void lookBack();
-    bool continueKept();
+    void expectUserDictionary(const Position& position) const;
     void continueFrom(const Position& position);
     void keepForLater();
+    [[nodiscard]] bool save(Durability durability) const;
     void forgetSavedGame();
     void playDaily();
     void startClock(int seconds);
@@ -152,9 +155,11 @@ private:
 
     const std::unique_ptr<GameParts> parts_;
     const GameView view_;
-    std::optional<Position> saved_; ///< the file's, without what time alone changes
-    std::string lastRecord_;        ///< the file of the game that was over last, empty for none
+    std::optional<Position> saved_;    ///< the file's, without what time alone changes; nothing for another game's file
+    std::optional<Position> declined_; ///< the file's, which the player did not want to continue
+    std::string lastRecord_;           ///< the file of the game that was over last, empty for none
     Keeping keeping_ = Keeping::On;
+    bool failureToSaveTold_ = false;
     bool noWordLeft_ = false; ///< which was told
     bool busy_ = false;
     bool ended_ = false;

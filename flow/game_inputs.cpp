@@ -31,7 +31,10 @@ const GameFlow::Entry& GameFlow::entryOf(Command command)
         Entry{Command::CopyBoard, When::InGame, Ends,
               [](Flow&, Parts& p) {
                   p.ports.screen.copyText(p.game.state.start);
-                  p.ports.status.show("The board that this game began with is on the clipboard");
+                  p.ports.status.show(
+                      p.dictionary.loadedLevel() == 0
+                          ? "The board is on the clipboard, but others cannot play it with your own dictionary"
+                          : "The board that this game began with is on the clipboard");
               }},
         Entry{Command::SharedBoard, When::NotPaused, Ends, [](Flow& flow, Parts&) { flow.askForSharedBoard(); }},
         Entry{Command::PastGames, When::NotPaused, Ends,

@@ -4,16 +4,20 @@
 #include "record/continue_form.hpp"
 #include "record/daily.hpp"
 
+#include <algorithm>
+#include <filesystem>
+
 namespace lexigrove
 {
 
 namespace
 {
 
-/// The position without what time alone changes: such a change is not worth a file.
+/// The position without what time alone changes: such a change is not worth a file. Of the clock of a game against the
+/// computer ten seconds count, so that nobody gains more by a crash.
 Position withoutTime(Position position)
 {
-    position.secondsLeft = 0;
+    position.secondsLeft /= 10;
     position.state.tickCount = 0;
     position.state.pressure = 0;
     position.state.secondsPlayed = 0;
@@ -54,27 +58,41 @@ void GameFlow::saveIfChanged()
 {
     if (!inGame_ || busy_ || ended_ || keeping_ == Keeping::Off)
         return;
-    Position now = position();
-    Position compared = withoutTime(now);
-    if (compared == saved_)
+    Position now = withoutTime(position());
+    if (now == saved_)
         return;
-    const std::string date = parts_->ports.clock.shortDate() + " " + parts_->ports.clock.shortTime();
-    if (parts_->savedGame.write(textOf(SavedGame{date, std::move(now)}), Durability::Written))
-        saved_ = std::move(compared);
+    if (save(Durability::Written)) {
+        saved_ = std::move(now);
+    } else if (!failureToSaveTold_) {
+        failureToSaveTold_ = true;
+        parts_->ports.status.tell("This game is not kept: its file cannot be written");
+        parts_->ports.screen.inputEnded();
+    }
 }
 
-/// The game is over: there is nothing to continue.
+bool GameFlow::save(Durability durability) const
+{
+    const Clock& clock = parts_->ports.clock;
+    const std::string date = clock.shortDate() + " " + clock.shortTime();
+    return parts_->savedGame.write(textOf(SavedGame{date, position()}), durability);
+}
+
+/// The game is over: there is nothing to continue. A file that holds another game, of another program or of one that
+/// was not continued, stays.
 void GameFlow::forgetSavedGame()
 {
-    saved_.reset();
-    if (keeping_ == Keeping::On)
+    if (saved_)
         parts_->savedGame.remove();
+    saved_.reset();
 }
 
 void GameFlow::keepForLater()
 {
-    const std::string date = parts_->ports.clock.shortDate() + " " + parts_->ports.clock.shortTime();
-    if (!parts_->savedGame.write(textOf(SavedGame{date, position()}), Durability::Flushed)) {
+    if (keeping_ == Keeping::Off) {
+        parts_->ports.dialogs.message("This game cannot be kept: LexiGrove is open a second time");
+        return;
+    }
+    if (!save(Durability::Flushed)) {
         parts_->ports.dialogs.message("The game could not be kept: its file cannot be written");
         return;
     }
@@ -83,61 +101,54 @@ void GameFlow::keepForLater()
     throw ProgramEnd();
 }
 
-void GameFlow::openOrContinue()
+void GameFlow::continueGame()
 {
-    input(When::Always, [this](GameParts& /*parts*/) {
-        if (continueKept())
+    input(When::Always, [this](GameParts& p) {
+        if (keeping_ == Keeping::Off)
             return;
-        showOptions();
-        beginGame();
+        ContinueForm form;
+        try {
+            const auto text = p.savedGame.read();
+            if (!text)
+                return;
+            form.game = savedGameOf(*text);
+            expectUserDictionary(form.game.position);
+        } catch (const std::exception& failure) {
+            p.ports.dialogs.message("The last game cannot be continued (" + std::string(failure.what()) +
+                                    "). Its file is now " + p.savedGame.setAside() + ".");
+            return;
+        }
+        p.ports.windows.show(form);
+        if (form.accepted)
+            continueFrom(form.game.position);
+        else
+            declined_ = std::move(form.game.position);
     });
 }
 
-void GameFlow::continueGame()
+/// A game of a user dictionary needs its file, without which no game can be played.
+void GameFlow::expectUserDictionary(const Position& position) const
 {
-    input(When::Always, [this](GameParts& /*parts*/) { continueKept(); });
-}
-
-/// True when the game that was kept goes on.
-bool GameFlow::continueKept()
-{
-    GameParts& p = *parts_;
-    if (keeping_ == Keeping::Off)
-        return false;
-    ContinueForm form;
-    try {
-        const auto text = p.savedGame.read();
-        if (!text)
-            return false;
-        form.game = savedGameOf(*text);
-    } catch (const std::exception& failure) {
-        p.ports.dialogs.message("The last game cannot be continued (" + std::string(failure.what()) +
-                                "). Its file is now " + p.savedGame.setAside() + ".");
-        return false;
-    }
-    p.ports.windows.show(form);
-    if (!form.accepted)
-        return false;
-    continueFrom(form.game.position);
-    return true;
+    const std::filesystem::path file = std::filesystem::path(parts_->folder) / position.userDictionary;
+    std::error_code failure;
+    if (position.board.level == 0 && !std::filesystem::exists(file, failure))
+        throw PositionError(position.userDictionary + " is missing");
 }
 
 void GameFlow::continueFrom(const Position& position)
 {
     GameParts& p = *parts_;
-    OptionsForm& options = p.options;
-    options.takeChoices();
-    options.select(position.board.arrangement == Arrangement::Square ? options.s8x8 : options.s7x8);
-    options.setValue(options.Check1, position.state.computerGame);
-    p.services.choose(options);
+    resume();
+    p.options.takeChoices();
+    p.services.choose(p.options);
     p.maintenance.reset();
     p.dictionary.applyChoice(position.board.level, position.userDictionary);
     p.dictionary.read(p.ports.dialogs, p.ports.status, p.ports.random, p.ports.clock);
     restore(p.game, position);
     if (position.state.kind == GameKind::Normal && !position.state.computerGame)
-        options.settings.presetLetters.clear();
+        p.options.settings.presetLetters.clear();
     else
-        options.settings.presetLetters.markUnrecorded();
+        p.options.settings.presetLetters.markUnrecorded();
     startClock(position.secondsLeft);
     inGame_ = true;
     noWordLeft_ = false;
@@ -160,6 +171,8 @@ void GameFlow::beginFrom(const BoardPosition& board, GameKind kind)
     p.dictionary.applyChoice(board.level, p.options.UsrDictName.Text);
     p.dictionary.read(p.ports.dialogs, p.ports.status, p.ports.random, p.ports.clock);
     restore(p.game, board);
+    if (kind != GameKind::Position) // counted as in a game that is dealt
+        p.game.state.tilesLeft = std::min(p.game.state.tilesLeft, LetterSupply::startCount(board.arrangement));
     p.options.settings.presetLetters.markUnrecorded();
     gameBegun();
 }
@@ -209,7 +222,6 @@ bool GameFlow::beginShared(const std::string& text)
     if (!giveUpGame())
         return true;
     beginFrom(board, GameKind::Shared);
-    p.game.state.tilesLeft = LetterSupply::startCount(board.arrangement);
     return true;
 }
 
@@ -218,32 +230,42 @@ void GameFlow::playDaily()
     GameParts& p = *parts_;
     if (!giveUpGame())
         return;
+    p.options.applyDictionaryChoice(); // the last game's may have been another
     const BoardPosition board = boardOfTheDay(p.ports.clock.today(), p.dictionary.level());
     beginFrom(board, GameKind::Daily);
-    p.game.state.tilesLeft = LetterSupply::startCount(board.arrangement);
 }
 
 // ---- Games that are over
 
-/// A game without a word is none. One that was recorded is not recorded again.
+/// A game without a word is none, and one that was recorded is not recorded again. Nothing is returned for these, nor
+/// where no record can be kept, which never stops what the player is doing.
+std::optional<GameRecord> GameFlow::record(const Position& game, GameEnd end)
+{
+    if (game.state.turns.empty() || game.state.begun.empty())
+        return std::nullopt;
+    try {
+        GameRecord record = recordOf(game, end);
+        lastRecord_ = parts_->records.add(record);
+        return record;
+    } catch (const std::exception&) {
+        lastRecord_.clear();
+        return std::nullopt;
+    }
+}
+
 void GameFlow::recordGame(GameEnd end)
 {
-    GameParts& p = *parts_;
-    GameState& state = p.game.state;
-    if (!inGame_ || state.turns.empty() || state.begun.empty())
+    if (!inGame_)
         return;
-    const GameRecord record = recordOf(p.game, end);
-    state.begun.clear();
-    if (state.kind == GameKind::Daily) {
-        p.ports.screen.copyText(dailySummary(record));
-        const std::string last = p.ports.status.Warn ? p.ports.status.Label1 + "\r\n" : "";
-        p.ports.status.show(last + "A summary of this board of the day is on the clipboard");
-    }
-    try {
-        lastRecord_ = p.records.add(record);
-    } catch (const FileError&) {
-        lastRecord_.clear(); // a folder that cannot be written keeps nothing
-    }
+    GameParts& p = *parts_;
+    const std::optional<GameRecord> over = record(position(), end);
+    p.game.state.begun.clear();
+    if (!over || over->kind != GameKind::Daily)
+        return;
+    p.ports.screen.copyText(dailySummary(*over));
+    const StatusLine& status = p.ports.status;
+    const std::string last = status.Warn && !status.Label1.empty() ? status.Label1 + "\r\n" : "";
+    p.ports.status.show(last + "A summary of this board of the day is on the clipboard");
 }
 
 void GameFlow::lookBack()
@@ -251,8 +273,14 @@ void GameFlow::lookBack()
     if (lastRecord_.empty())
         return;
     GameParts& p = *parts_;
-    ReviewForm review(p.records.load(lastRecord_), p.reviewLists, p.meanings);
-    p.ports.windows.show(review);
+    std::optional<ReviewForm> review;
+    try {
+        review.emplace(p.records.load(lastRecord_), p.reviewLists, p.meanings);
+    } catch (const std::exception& failure) {
+        p.ports.dialogs.message(failure.what());
+        return;
+    }
+    p.ports.windows.show(*review);
 }
 
 /// What is begun, for the record and for whoever plays the same board again.
@@ -266,7 +294,11 @@ void GameFlow::gameBegun()
     startClock(gameSeconds);
     inGame_ = true;
     noWordLeft_ = false;
-    forgetSavedGame(); // one that was not continued
+    if (declined_) {
+        record(*declined_, GameEnd::Left);
+        declined_.reset();
+        p.savedGame.remove();
+    }
 }
 
 } // namespace lexigrove

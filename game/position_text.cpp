@@ -67,11 +67,15 @@ void readBoard(FieldReader field, BoardPosition& position)
     for (int col = 1; col <= Board::columns; ++col) {
         if (col > 1)
             field.expect('/');
+        bool hangs = false; // whether a tile stands above
         for (int row = 1; row <= Board::columnHeight(position.arrangement, col); ++row) {
             BoardPosition::Cell& cell = position.cells[static_cast<std::size_t>(Board::Grid(row, col))];
+            if (hangs && field.peek() == BoardPosition::none)
+                field.fail("a tile hangs over this empty cell");
             cell.letter = field.letter("._");
             if (cell.letter == BoardPosition::none)
                 continue;
+            hangs = true;
             if (field.peek() == '*') {
                 cell.multiplier = multiplier::red;
                 field.next();
@@ -83,12 +87,12 @@ void readBoard(FieldReader field, BoardPosition& position)
     field.expectEnd();
 }
 
-/// The fields of a line, which blanks separate.
+/// The fields of a line, which blanks separate; a line that was copied may end in others than blanks.
 std::vector<std::string_view> fieldsOf(std::string_view text)
 {
     std::vector<std::string_view> fields;
     while (!text.empty()) {
-        const std::size_t end = std::min(text.find(' '), text.size());
+        const std::size_t end = std::min(text.find_first_of(" \t\r\n"), text.size());
         if (end > 0)
             fields.push_back(text.substr(0, end));
         text.remove_prefix(std::min(end + 1, text.size()));

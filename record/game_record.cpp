@@ -1,6 +1,5 @@
 #include "record/game_record.hpp"
 
-#include "game/game.hpp"
 #include "game/position.hpp"
 #include "record/day.hpp"
 #include "record/line_fields.hpp"
@@ -51,20 +50,19 @@ bool isMoment(std::string_view text)
 
 } // namespace
 
-GameRecord recordOf(const Game& game, GameEnd end)
+GameRecord recordOf(const Position& game, GameEnd end)
 {
     const GameState& state = game.state;
-    const BoardPosition start = boardPositionOf(state.start);
     return {.begun = state.begun,
-            .userDictionary = start.level == 0 ? game.dictionary.fileTable[0] : "",
+            .userDictionary = game.userDictionary,
             .kind = state.kind,
             .computerGame = state.computerGame,
-            .strategy = game.options.settings.strategy,
+            .strategy = game.strategy,
             .yourScore = state.yourScore,
             .compScore = state.compScore,
             .secondsPlayed = state.secondsPlayed,
             .end = end,
-            .start = start,
+            .start = boardPositionOf(state.start),
             .turns = state.turns,
             .hintsUsed = state.hintsUsed,
             .redTilesMade = state.redTilesMade,

@@ -12,7 +12,7 @@
 namespace lexigrove
 {
 
-struct Game;
+struct Position;
 
 /// How a game came to its end.
 enum class GameEnd {
@@ -43,7 +43,7 @@ struct GameRecord {
 };
 
 /// The record of a game as it stands. Throws PositionError when the board of its start cannot be read.
-GameRecord recordOf(const Game& game, GameEnd end);
+GameRecord recordOf(const Position& game, GameEnd end);
 
 /// The readable text of a record, "LexiGrove record 1" and then a line a field; docs/record.md describes it.
 std::string textOf(const GameRecord& record);

@@ -30,7 +30,8 @@ std::string freeName(const std::string& folder, const std::string& begun)
         const std::string digits = std::to_string(number);
         std::string name = moment;
         name.append(3 - digits.size(), '0').append(digits).append(".txt");
-        if (!fs::exists(folder + name))
+        std::error_code failure;
+        if (!fs::exists(folder + name, failure))
             return name;
     }
     throw FileError("There are too many games of one minute", folder, 0);
@@ -49,8 +50,10 @@ std::string RecordFolder::add(const GameRecord& record) const
     replaceFile(folder_ + name, textOf(record));
 
     const std::vector<std::string> kept = names();
-    for (std::size_t oldest = 0; oldest + most < kept.size(); ++oldest)
-        fs::remove(folder_ + kept[oldest], failure); // one that cannot be removed stays
+    for (std::size_t oldest = 0; oldest + most < kept.size(); ++oldest) {
+        if (kept[oldest] != name) // a game that was kept for long may be the oldest
+            fs::remove(folder_ + kept[oldest], failure);
+    }
     return name;
 }
 

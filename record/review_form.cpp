@@ -1,5 +1,7 @@
 #include "record/review_form.hpp"
 
+#include "record/daily.hpp"
+
 namespace lexigrove
 {
 
@@ -15,6 +17,12 @@ std::vector<TurnRow> ReviewForm::mostLeftBehind() const
     for (const int turn : review_.mostLeftBehind(list_))
         left.push_back(rowOf(review_, list_, turn));
     return left;
+}
+
+std::string ReviewForm::dailySummary() const
+{
+    const GameRecord& record = review_.record();
+    return record.kind == GameKind::Daily ? lexigrove::dailySummary(record) : std::string();
 }
 
 std::vector<TurnRow> ReviewForm::rows() const

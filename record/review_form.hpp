@@ -31,6 +31,8 @@ public:
     [[nodiscard]] std::vector<TurnRow> mostLeftBehind() const;
     [[nodiscard]] static std::string textOf(const TurnRow& left) { return leftBehindText(left); }
     [[nodiscard]] std::string rarestText() const { return lexigrove::rarestText(review_); }
+    /// What a game on the board of a day tells others, in UTF-8; empty for other games.
+    [[nodiscard]] std::string dailySummary() const;
     [[nodiscard]] std::string notice() const { return noticeText(review_, list_); }
     [[nodiscard]] std::vector<TurnRow> rows() const; ///< every turn, in order
 

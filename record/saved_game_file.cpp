@@ -38,10 +38,11 @@ void SavedGameFile::remove() const
 
 std::string SavedGameFile::setAside() const
 {
-    const char* const name = "LexigroveGame-damaged.txt";
     std::error_code failure;
-    std::filesystem::rename(path_, std::filesystem::path(path_).replace_filename(name), failure);
-    return name;
+    const std::filesystem::path path(path_);
+    const std::filesystem::path aside = path.parent_path() / "LexigroveGame-damaged.txt";
+    std::filesystem::rename(path, aside, failure);
+    return (failure ? path : aside).filename().string();
 }
 
 } // namespace lexigrove

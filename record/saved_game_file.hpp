@@ -25,7 +25,7 @@ public:
     void remove() const;
 
     /// Gives the file another name beside it, "LexigroveGame-damaged.txt", in place of one set aside before. Returns
-    /// the new name without the folder.
+    /// the new name without the folder; the old one when the file could not be renamed.
     std::string setAside() const;
 
 private:

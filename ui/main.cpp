@@ -20,8 +20,9 @@ bool goesOnBeside(const OneGame& oneGame)
 {
     QMessageBox box(QMessageBox::NoIcon, "LexiGrove",
                     "LexiGrove is already open. The game is kept there; one that you play here is not kept.");
-    const QPushButton* const go = box.addButton("Go to its window", QMessageBox::AcceptRole);
+    QPushButton* const go = box.addButton("Go to its window", QMessageBox::AcceptRole);
     box.addButton("Play here", QMessageBox::RejectRole);
+    box.setEscapeButton(go);
     box.exec();
     return box.clickedButton() != go || !oneGame.showFirst();
 }
@@ -51,12 +52,15 @@ int play(const StartOptions& options)
     if (flow.ended())
         return EXIT_SUCCESS;
     const auto begin = [&] {
+        flow.continueGame();
+        if (flow.inGame() || flow.ended())
+            return;
         if (options.position)
             flow.playPosition(*options.position);
         else if (options.startAtOnce)
             flow.startGame();
         else
-            flow.openOrContinue();
+            flow.openOptionsAndStart();
     };
     // Once the window has its place on the screen, so that a dialog finds its own over it.
     QObject::connect(&window, &MainWindow::painted, &window, begin,

@@ -166,12 +166,22 @@ TEST(KeptGames, StayUntilTheyAreGivenUp)
     EXPECT_TRUE(first.flow.ended() && isKept());
     EXPECT_TRUE(first.dialogs.questions.empty() && first.windows.shown.empty()) << "nothing is asked";
 
+    GameFlow beside(first.ports(), first.folder.path(), SystemPalette()); // while the first is still open
+    beside.setKeeping(GameFlow::Keeping::Off);
+    beside.startUp();
+    beside.startGame();
+    beside.perform(Command::KeepForLater);
+    EXPECT_EQ(first.dialogs.messages.back(), "This game cannot be kept: LexiGrove is open a second time");
+    beside.perform(Command::Exit);
+
     const auto startAgain = [&](bool accepted, auto onOptions) {
         GameFlow flow(first.ports(), first.folder.path(), SystemPalette());
         first.windows.onContinue = [=](ContinueForm& form) { form.accepted = accepted; };
         first.windows.onOptions = onOptions;
         flow.startUp();
-        flow.openOrContinue();
+        flow.continueGame();
+        if (!flow.inGame())
+            flow.openOptionsAndStart();
         return flow.ended() ? Position() : flow.position();
     };
     const auto start = [](OptionsForm& form) { form.pressStart(); };
@@ -181,6 +191,7 @@ TEST(KeptGames, StayUntilTheyAreGivenUp)
     EXPECT_TRUE(isKept()) << "no other game has begun";
     EXPECT_EQ(startAgain(false, start).state.yourScore, 0);
     EXPECT_FALSE(isKept());
+    EXPECT_EQ(RecordFolder(first.folder.path()).list().records.size(), 1U) << "it can be looked back on";
 
     PlayedGame last;
     last.start(Arrangement::Square);

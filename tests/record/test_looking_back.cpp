@@ -117,19 +117,19 @@ TEST(Review, AddsUpWhatWasThere)
     folder.write("L3Ascii.txt", "AT\nCAT\nCOG\nDO\nDOC\nQI\n");
     ReviewLists lists(folder.path());
     const BoardPosition board = boardPositionOf(
-        "square 1 CDQ...../AOI3...../T*G....../......../......../......../......../........ ........ -");
+        "square 1 .....CDQ/.....AOI3/......T*G/......../......../......../......../........ ........ -");
     GameRecord record{.start = board};
-    record.turns = {{board, "AT", {9, 17}, 2},
-                    {board, "COG", {1, 10, 18}, 6},
-                    {board, "CAT", {1, 9, 17}, 5, Maker::Computer},
-                    {board, "DOC", {2, 10, 1}, 50},
-                    {board, "DO", {2, 10}, 3}};
-    record.turns[1].before.cells[11] = {};
+    record.turns = {{board, "AT", {14, 23}, 2},
+                    {board, "COG", {6, 15, 24}, 6},
+                    {board, "CAT", {6, 14, 23}, 5, Maker::Computer},
+                    {board, "DOC", {7, 15, 6}, 50},
+                    {board, "DO", {7, 15}, 3}};
+    record.turns[1].before.cells[16] = {};
     const Review review(record, lists);
     EXPECT_EQ(review.there(ReviewList::Own, 1).count, 3);
     EXPECT_EQ(review.there(ReviewList::Own, 1).longest.word, "CAT");
     EXPECT_EQ(review.there(ReviewList::LevelThree, 1).best.score, 33);
-    EXPECT_THAT(review.there(ReviewList::LevelThree, 1).best.path, ElementsAre(3, 11));
+    EXPECT_THAT(review.there(ReviewList::LevelThree, 1).best.path, ElementsAre(8, 16));
     EXPECT_EQ(review.there(ReviewList::LevelThree, 2).best.word, "COG"); // the I is gone
     EXPECT_EQ(review.there(ReviewList::Own, 4).best.score, 50);
 

@@ -23,7 +23,8 @@ BoardPosition randomBoard(Random& random)
         if (board.cells[tile].letter != BoardPosition::none)
             board.cells[tile] = {BoardPosition::blank, multiplier::all[random() % 5]};
     }
-    board.cells[1 + random() % 64] = {};
+    for (auto tile = 1 + random() % 8 * 8, last = tile + random() % 8; tile < last; ++tile)
+        board.cells[tile] = {};
     board.waiting[1 + random() % 8] = BoardPosition::none;
     board.queue.resize(random() % board.queue.size());
     return board;

@@ -40,7 +40,7 @@ TEST_F(KeptGamesTest, GoOnAfterACrash)
         Script::clickOn(dialog, "Yes");
     });
     flow().startUp();
-    flow().openOrContinue();
+    flow().continueGame();
     window().show();
     EXPECT_EQ(flow().position(), left);
     EXPECT_EQ(shown("YourScore"), "5");

@@ -5,7 +5,9 @@
 #include "ui/look/text.hpp"
 
 #include <QButtonGroup>
+#include <QClipboard>
 #include <QGridLayout>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -66,7 +68,12 @@ public:
         QPushButton* const close = newButton("Close", "Close");
         connect(meaning, &QPushButton::clicked, this, [this] { input([this] { form_.pressMeaning(); }); });
         connect(close, &QPushButton::clicked, this, [this] { reject(); });
-        column->addLayout(newButtonRow({meaning, close}));
+        const QString summary = QString::fromStdString(form_.dailySummary());
+        QPushButton* const copy =
+            newButton("CopySummary", "Copy Summary", "Copy what tells others how this day's board went");
+        connect(copy, &QPushButton::clicked, this, [summary] { QGuiApplication::clipboard()->setText(summary); });
+        copy->setHidden(summary.isEmpty());
+        column->addLayout(newButtonRow({copy, meaning, close}));
         fillTurns();
         showForm();
         turns_->setFocus();
