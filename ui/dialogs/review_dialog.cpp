@@ -28,11 +28,12 @@ namespace
 struct TurnColumn {
     const char* heading;
     Qt::Alignment alignment;
+    bool isWord = false;
 };
 constexpr int turnColumns = 6;
-const TurnColumn columns[turnColumns] = {{"#", Qt::AlignRight},   {"Who", Qt::AlignLeft},
-                                         {"Word", Qt::AlignLeft}, {"Points", Qt::AlignRight},
-                                         {"Best", Qt::AlignLeft}, {"Points", Qt::AlignRight}};
+const TurnColumn columns[turnColumns] = {{"#", Qt::AlignRight},         {"Who", Qt::AlignLeft},
+                                         {"Word", Qt::AlignLeft, true}, {"Points", Qt::AlignRight},
+                                         {"Best", Qt::AlignLeft, true}, {"Points", Qt::AlignRight}};
 
 class ReviewDialog : public FormDialog
 {
@@ -228,13 +229,14 @@ private:
         turns_->setTabKeyNavigation(false);
         turns_->setShowGrid(false);
         turns_->verticalHeader()->hide();
-        turns_->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
-        turns_->horizontalHeader()->setStretchLastSection(true);
         turns_->installEventFilter(this);
         QStringList headings;
         for (const TurnColumn& column : columns)
             headings.append(column.heading);
         turns_->setHorizontalHeaderLabels(headings);
+        for (int column = 0; column < turnColumns; ++column) // the words share what the others leave
+            turns_->horizontalHeader()->setSectionResizeMode(
+                column, columns[column].isWord ? QHeaderView::Stretch : QHeaderView::ResizeToContents);
         connect(turns_, &QTableWidget::currentCellChanged, this, [this](int row) {
             if (row >= 0 && row + 1 != form_.turn())
                 input([this, row] { form_.goTo(row + 1); });
