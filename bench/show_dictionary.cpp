@@ -9,6 +9,7 @@
 #include "ui/machine/host.hpp"
 
 #include <QApplication>
+#include <QDialog>
 #include <QListView>
 #include <QListWidget>
 #include <QPushButton>
@@ -23,11 +24,10 @@ namespace
 constexpr double frame = 1000.0 / 60;
 
 /// Runs in the open window: fills its list and a list widget of the same size in turn.
-void measure(const WordList& words)
+void measure(const WordList& words, const QWidget& window)
 {
-    QWidget* const window = QApplication::activeModalWidget();
-    auto* const show = window->findChild<QPushButton*>("Command1");
-    auto* const List1 = window->findChild<QListView*>("List1");
+    auto* const show = window.findChild<QPushButton*>("Command1");
+    auto* const List1 = window.findChild<QListView*>("List1");
     QListWidget items;
     items.setUniformItemSizes(true);
     items.resize(List1->size());
@@ -70,10 +70,10 @@ int main(int argumentCount, char** arguments)
     dictionary.applyChoice(3, {});
     dictionary.read(dialogs, status, random, clock);
     DictionaryMaintenance form(dictionary, dialogs, screen, clock);
-    Host host;
+    Host host(folder.prefix());
     QTimer::singleShot(0, [&] {
-        measure(dictionary.words);
-        QApplication::activeModalWidget()->close();
+        measure(dictionary.words, *host.gate.onTop());
+        host.gate.onTop()->close();
     });
     GameWindows(host).show(form);
     return 0;

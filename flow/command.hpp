@@ -26,6 +26,8 @@ enum class Command {
     EnterWord,    ///< `EnterWord`
     ClearWord,    ///< Esc: cancels a letter swap, else clears the path
     TakeBack,     ///< removes the last tile from the path
+    OtherPath,    ///< spells the word so far over other tiles
+    SwapLetter,   ///< requests a swap of the path's last tile
     GetHint,      ///< `Hintx`
     CheckWord,    ///< `CheckDict`
     ShowMeaning,  ///< of the current word of `WordsMade`

@@ -73,6 +73,25 @@ bool GameFlow::isTime(When when) const
     return false;
 }
 
+/// False when the input is refused. What was said of the one before is over.
+bool GameFlow::beginInput(When when)
+{
+    if (busy_ || ended_)
+        return false;
+    StatusLine& status = parts_->ports.status;
+    if (!isTime(when)) {
+        if (paused_ && !ticking_) {
+            status.tell("The game is paused");
+            parts_->ports.screen.inputEnded();
+        }
+        return false;
+    }
+    busy_ = true;
+    if (!ticking_)
+        status.actionBegins();
+    return true;
+}
+
 /// An input has thrown. If the player closed the window, the leaving sequence follows; an unforeseen failure ends only
 /// the input that met it.
 void GameFlow::endEarly()

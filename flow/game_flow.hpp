@@ -7,6 +7,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace lexigrove
 {
@@ -120,6 +121,7 @@ private:
 
     template <typename Rule>
     void input(When when, Rule rule);
+    [[nodiscard]] bool beginInput(When when);
     void endEarly();
     void tellIfNoWordIsLeft();
     void endInput();
@@ -149,6 +151,9 @@ private:
     void endOfGame(GameEnd end);
     void clockExpired();
     void prepareWindow();
+    void runTick(Timer timer);
+    void dropInto(int col);
+    void enterWord();
     void pauseOrResume();
     void resume();
     [[noreturn]] void leave();
@@ -157,11 +162,13 @@ private:
     const GameView view_;
     std::optional<Position> saved_;    ///< the file's, without what time alone changes; nothing for another game's file
     std::optional<Position> declined_; ///< the file's, which the player did not want to continue
+    std::vector<int> refused_; ///< the path of a word that is in no dictionary
     std::string lastRecord_;           ///< the file of the game that was over last, empty for none
     Keeping keeping_ = Keeping::On;
     bool failureToSaveTold_ = false;
     bool noWordLeft_ = false; ///< which was told
     bool busy_ = false;
+    bool ticking_ = false; ///< while a timer runs, not the player
     bool ended_ = false;
     bool inGame_ = false;
     bool paused_ = false;
@@ -173,9 +180,8 @@ private:
 template <typename Rule>
 void GameFlow::input(When when, Rule rule)
 {
-    if (busy_ || ended_ || !isTime(when))
+    if (!beginInput(when))
         return;
-    busy_ = true;
     try {
         rule(*parts_);
     } catch (...) {

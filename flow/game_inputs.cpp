@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 #include <limits>
+#include <utility>
 
 namespace lexigrove
 {
@@ -48,7 +49,7 @@ const GameFlow::Entry& GameFlow::entryOf(Command command)
         Entry{Command::Pause, When::InGame, Ends, [](Flow& flow, Parts&) { flow.pauseOrResume(); }},
         Entry{Command::Sound, When::Always, Ends, [](Flow&, Parts& p) { p.options.soundButton(); }},
         Entry{Command::Exit, When::Always, Stays, [](Flow& flow, Parts&) { flow.leave(); }},
-        Entry{Command::EnterWord, When::InPlay, Ends, [](Flow&, Parts& p) { enterWord(p.game, p.computerTurn); }},
+        Entry{Command::EnterWord, When::InPlay, Ends, [](Flow& flow, Parts&) { flow.enterWord(); }},
         Entry{Command::ClearWord, When::InPlay, Stays,
               [](Flow&, Parts& p) {
                   if (p.game.letterSwap.isPending())
@@ -58,8 +59,26 @@ const GameFlow::Entry& GameFlow::entryOf(Command command)
               }},
         Entry{Command::TakeBack, When::InPlay, Stays,
               [](Flow&, Parts& p) {
-                  if (!p.game.selection.isEmpty())
+                  if (p.game.selection.isEmpty())
+                      p.ports.status.tell("There is no letter to take back");
+                  else
                       p.game.selection.tileClicked(p.game.selection.lastTile(), MouseButton::Left);
+              }},
+        Entry{Command::OtherPath, When::InPlay, Ends,
+              [](Flow&, Parts& p) {
+                  if (const auto path = otherPath(p.game.board, p.game.selection))
+                      pickPath(p.game.selection, *path);
+                  else
+                      p.ports.status.tell("There is no other way to spell it");
+              }},
+        Entry{Command::SwapLetter, When::InPlay, Stays,
+              [](Flow&, Parts& p) {
+                  if (p.game.letterSwap.isPending())
+                      p.game.letterSwap.cancel();
+                  else if (p.game.selection.isEmpty())
+                      p.ports.status.tell("Pick the letter first that you want to swap");
+                  else
+                      p.game.letterSwap.request(p.game.selection.lastTile());
               }},
         Entry{Command::GetHint, When::InPlay, Ends, [](Flow&, Parts& p) { p.hints.getHint(); }},
         Entry{Command::CheckWord, When::InPlay, Ends,
@@ -126,7 +145,7 @@ void GameFlow::perform(Command command)
 
 void GameFlow::clickTile(int tile, MouseButton button, bool shift)
 {
-    input(When::InPlay, [=](GameParts& p) {
+    input(When::InPlay, [=, this](GameParts& p) {
         if (!p.game.board.isVisible(tile))
             return;
         const bool again = p.game.letterSwap.isPending() && p.game.letterSwap.tile() == tile;
@@ -137,7 +156,7 @@ void GameFlow::clickTile(int tile, MouseButton button, bool shift)
         p.game.letterSwap.cancel();
         if (button == MouseButton::Right && p.game.selection.entryPending) {
             p.game.selection.entryPending = false;
-            enterWord(p.game, p.computerTurn);
+            enterWord();
         } else {
             p.game.selection.tileClicked(tile, button);
         }
@@ -146,6 +165,8 @@ void GameFlow::clickTile(int tile, MouseButton button, bool shift)
 
 void GameFlow::hoverTile(int tile)
 {
+    if (paused_)
+        return; // the board is covered
     input(When::InPlay, [=](GameParts& p) {
         if (!p.game.board.isVisible(tile))
             return;
@@ -157,19 +178,43 @@ void GameFlow::hoverTile(int tile)
 
 void GameFlow::drop(int col)
 {
-    input(When::InPlay, [=](GameParts& p) {
+    input(When::InPlay, [=, this](GameParts& p) {
         if (p.game.letterSwap.isPending())
             p.game.letterSwap.exchange(col);
-        else if (p.game.board.waiting(col).Visible())
-            p.game.dropRow.dropIntoColumn(col);
+        else if (!p.game.board.waiting(col).Visible())
+            p.ports.status.tell("No letter waits over column " + std::to_string(col));
+        else
+            dropInto(col);
     });
+}
+
+void GameFlow::dropInto(int col)
+{
+    GameParts& p = *parts_;
+    if (p.game.board.isVisible(Board::Grid(1, col)))
+        p.ports.status.tell("Column " + std::to_string(col) + " is full");
+    p.game.dropRow.dropIntoColumn(col);
+}
+
+void GameFlow::enterWord()
+{
+    GameParts& p = *parts_;
+    const EnterResult result = lexigrove::enterWord(p.game, p.computerTurn);
+    if (result == EnterResult::TooShort)
+        p.ports.status.tell("A word needs two letters");
+    refused_ = result == EnterResult::NotFound ? p.game.selection.tiles() : std::vector<int>{};
 }
 
 void GameFlow::typeLetter(char letter)
 {
-    input(When::InPlay, [=](GameParts& p) {
+    input(When::InPlay, [=, this](GameParts& p) {
         p.game.letterSwap.cancel(); // typing counts as another action
-        extendWord(p.game, letter);
+        if (!refused_.empty() && p.game.selection.tiles() == refused_)
+            p.game.selection.clear(); // who goes on typing after a refused word begins another one
+        if (extendWord(p.game, letter))
+            return;
+        p.sounds.play(cue::error);
+        p.ports.screen.refuse();
     });
 }
 
@@ -261,6 +306,13 @@ void GameFlow::resume()
 // ---- The timers
 
 void GameFlow::tick(Timer timer)
+{
+    const bool outer = std::exchange(ticking_, true);
+    runTick(timer);
+    ticking_ = outer;
+}
+
+void GameFlow::runTick(Timer timer)
 {
     switch (timer) {
     case Timer::Red:

@@ -82,6 +82,9 @@ public:
 
     [[nodiscard]] BoxControl& tile(int number) { return Tiles[index(number)]; }
     [[nodiscard]] const BoxControl& tile(int number) const { return Tiles[index(number)]; }
+    /// How many pushes of its column take a tile out.
+    [[nodiscard]] int pushesLeft(int tile) const { return columnHeight(col(tile)) - row(tile) + 1; }
+
     [[nodiscard]] BoxControl& tile(int row, int col) { return tile(Grid(row, col)); }
     [[nodiscard]] const BoxControl& tile(int row, int col) const { return tile(Grid(row, col)); }
     /// The waiting tile over a column.

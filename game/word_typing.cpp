@@ -3,6 +3,7 @@
 #include "game/game.hpp"
 
 #include <algorithm>
+#include <numeric>
 #include <string>
 
 namespace lexigrove
@@ -18,14 +19,18 @@ public:
     PathFinder(const Board& board, std::string word) : board_(board), word_(std::move(word)) {}
 
     /// The first path found, trying tiles in order of preference.
-    std::optional<std::vector<int>> find()
+    std::optional<std::vector<int>> find() { return goOn(anywhere()) ? std::optional(path_) : std::nullopt; }
+
+    /// The path found behind this one, after the last one the first; nothing without another.
+    std::optional<std::vector<int>> findAfter(const std::vector<int>& path)
     {
-        std::vector<int> starts;
-        for (int tile = 1; tile <= Board::tileCount; ++tile)
-            starts.push_back(tile);
-        if (!goOn(starts))
-            return std::nullopt;
-        return path_;
+        after_ = &path;
+        if (goOn(anywhere()))
+            return path_;
+        after_ = nullptr;
+        path_.clear();
+        steps_ = 0;
+        return goOn(anywhere()) && path_ != path ? std::optional(path_) : std::nullopt;
     }
 
     /// Those of these tiles that could come next on `path`, preferred ones first.
@@ -43,10 +48,21 @@ public:
     }
 
 private:
+    static std::vector<int> anywhere()
+    {
+        std::vector<int> tiles(Board::tileCount);
+        std::iota(tiles.begin(), tiles.end(), 1);
+        return tiles;
+    }
+
     bool goOn(const std::vector<int>& from)
     {
-        if (path_.size() == word_.size())
-            return true;
+        if (path_.size() == word_.size()) {
+            const bool wanted = after_ == nullptr;
+            if (!wanted && path_ == *after_)
+                after_ = nullptr; // the next one is
+            return wanted;
+        }
         if (++steps_ > maxSteps)
             return false;
         for (const int tile : candidates(from, path_, word_[path_.size()])) {
@@ -65,6 +81,7 @@ private:
     const Board& board_;
     const std::string word_;
     std::vector<int> path_;
+    const std::vector<int>* after_ = nullptr; ///< no path counts before this one was found
     int steps_ = 0;
 };
 
@@ -85,6 +102,20 @@ std::optional<std::vector<int>> typedPath(const Board& board, const Selection& p
     return finder.find();
 }
 
+std::optional<std::vector<int>> otherPath(const Board& board, const Selection& path)
+{
+    return path.isEmpty() ? std::nullopt : PathFinder(board, path.word()).findAfter(path.tiles());
+}
+
+void pickPath(Selection& selection, const std::vector<int>& path)
+{
+    const std::vector<int>& before = selection.tiles();
+    if (before.size() >= path.size() || !std::equal(before.begin(), before.end(), path.begin()))
+        selection.clear();
+    for (std::size_t i = before.size(); i < path.size(); ++i)
+        selection.tileClicked(path[i], MouseButton::Left);
+}
+
 bool extendWord(Game& game, char letter)
 {
     const auto path = typedPath(game.board, game.selection, letter);
@@ -92,12 +123,7 @@ bool extendWord(Game& game, char letter)
         game.ports.status.show(game.selection.word() + letter + " cannot be spelled on the board");
         return false;
     }
-    const std::vector<int>& before = game.selection.tiles();
-    if (before.size() >= path->size() || !std::equal(before.begin(), before.end(), path->begin()))
-        game.selection.clear();
-    const std::size_t kept = before.size();
-    for (std::size_t i = kept; i < path->size(); ++i)
-        game.selection.tileClicked((*path)[i], MouseButton::Left);
+    pickPath(game.selection, *path);
     return true;
 }
 

@@ -33,6 +33,9 @@ public:
     /// Must not throw. The text on the clipboard in UTF-8, empty where there is none.
     [[nodiscard]] virtual std::string copiedText() const = 0;
 
+    /// Must not throw. An input was refused: a front end with a picture shows it.
+    virtual void refuse() {}
+
     /// Must not throw. An input or a tick of the game has ended: the models may differ from what is shown.
     virtual void inputEnded() = 0;
 };

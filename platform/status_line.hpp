@@ -23,15 +23,32 @@ public:
     void write(const std::string& caption)
     {
         Label1 = caption;
-        News.clear();
+        current = Current::Caption;
         written(caption);
     }
 
-    /// Tells what has happened without the player: stands in place of the caption until the next one is written.
-    void tell(const std::string& news) { News = news; }
+    /// Tells what has happened without the player, or why nothing has: stands in place of the caption for a while.
+    void tell(const std::string& news)
+    {
+        News = news;
+        ++told;
+        current = Current::News;
+    }
+
+    /// The player goes on: what was said before the action is over.
+    void actionBegins()
+    {
+        if (current == Current::News || Warn)
+            current = Current::Nothing;
+    }
+
+    /// What a window shows; the texts themselves stay.
+    enum class Current { Caption, News, Nothing };
 
     std::string Label1;
     std::string News;
+    unsigned told = 0; ///< number of news so far
+    Current current = Current::Caption;
     bool Warn = false;
 
 protected:

@@ -25,6 +25,7 @@ public:
     /// `folder` is the program folder with its trailing separator.
     explicit FrontEnd(const std::string& folder)
         : random_(std::random_device{}()),
+          host(folder),
           flow({dialogs_, screen_, sound_, clock_, random_, status_, windows_}, folder, host.theme.desktop())
     {
     }

@@ -49,7 +49,8 @@ TEST_F(OptionsDialogTest, HandlersRunOnTheRelease)
                   "Tiles Drop: Select how tiles will drop after making a word\n"
                   "Word Meanings from: Internet source for getting word meanings\n"
                   "Color Scheme: Select a color scheme for display\nDictionary: Set game level\n"
-                  "Play with the Computer: Play against the computer, scores are not counted\nComputer Plays");
+                  "Play with the Computer: Play against the computer, scores are not counted\nComputer Plays\n"
+                  "While You Play");
         EXPECT_EQ(dialog.findChild<QWidget*>("PSBoard")->toolTip(), "Set board to letters of your choice");
     });
     click("Option16");
@@ -89,9 +90,9 @@ TEST_F(OptionsDialogTest, HandlersRunOnTheRelease)
     openAndStart();
 }
 
-// Guards players without a mouse: the arrow keys choose, nothing happens at once, and Start reads the choice; Esc ends
-// no program, but closing the dialog does.
-TEST_F(OptionsDialogTest, AKeyboardChoiceCountsAtTheStart)
+// Guards players without a mouse: a key that chooses does what the mouse does; Esc ends no program, but closing the
+// dialog does.
+TEST_F(OptionsDialogTest, AKeyboardChoiceIsAMouseChoice)
 {
     then([&](QDialog& dialog) {
         EXPECT_EQ(QApplication::focusWidget(), dialog.findChild<QWidget*>("Startx"));
@@ -99,7 +100,10 @@ TEST_F(OptionsDialogTest, AKeyboardChoiceCountsAtTheStart)
         on->setFocus();
         QTest::keyClick(on, Qt::Key_Down);
         EXPECT_TRUE(view().options.Option16.Value && !view().options.Option15.Value);
-        EXPECT_TRUE(view().sounds.isOn());
+        EXPECT_FALSE(view().sounds.isOn());
+        QTest::keyClick(dialog.findChild<QWidget*>("Check1"), Qt::Key_Space);
+        EXPECT_TRUE(dialog.findChild<QWidget*>("Option14")->isEnabled());
+        QTest::keyClick(dialog.findChild<QWidget*>("Check1"), Qt::Key_Space);
         QTest::keyClick(&dialog, Qt::Key_Escape);
         EXPECT_TRUE(dialog.isVisible());
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);

@@ -239,8 +239,45 @@ TEST_F(Course, PressureIsTold)
     QTest::keyClicks(&window(), "ca");
     flow().tick(Timer::Push);
     EXPECT_EQ(shown("Label1"), "Column " + column + " was pushed down, and your word was cleared");
-    hover(20);
-    EXPECT_EQ(shown("Label1"), "Letter V - score =4");
+    hover(20); // the pointer only wanders
+    EXPECT_EQ(shown("Label1"), "Column " + column + " was pushed down, and your word was cleared");
+}
+
+// Guards somebody who types: a letter that cannot follow is refused aloud, the next action takes the message away,
+// another word begins after a refused one, and other ways to spell it are walked through. And the arrow keys.
+TEST_F(Course, TheKeyboardAloneIsEnough)
+{
+    start({{9, "QCATS"}, {17, "ATSSS"}});
+    window().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
+    QTest::keyClicks(&window(), "cax");
+    EXPECT_EQ(shown("Label1"), "CAX cannot be spelled on the board");
+    EXPECT_EQ(shown("WordTried"), "CA");
+    QTest::keyClicks(&window(), "t");
+    EXPECT_EQ(shown("Label1"), "");
+    const std::vector<int> first = view().selection.tiles();
+    QTest::keyClick(&window(), Qt::Key_O, Qt::ControlModifier);
+    EXPECT_EQ(shown("WordTried"), "CAT");
+    EXPECT_NE(view().selection.tiles(), first);
+    QTest::keyClicks(&window(), "s");
+    QTest::keyClick(&window(), Qt::Key_Backspace);
+    QTest::keyClick(&window(), Qt::Key_Backspace);
+    QTest::keyClick(&window(), Qt::Key_Return);
+    EXPECT_EQ(shown("Label1"), "CA not in dictionary");
+    QTest::keyClicks(&window(), "t");
+    EXPECT_EQ(shown("WordTried"), "T");
+    QTest::keyClick(&window(), Qt::Key_Return);
+    EXPECT_EQ(shown("Label1"), "A word needs two letters");
+
+    QTest::keyClick(&window(), Qt::Key_Escape);
+    board().setFocus();
+    board().moveCursor({10, 0});
+    for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Down, Qt::Key_Space, Qt::Key_Down, Qt::Key_Space, Qt::Key_Return})
+        QTest::keyClick(&board(), key);
+    EXPECT_EQ(shown("YourScore"), "5");
+    for (const Qt::Key key : {Qt::Key_Up, Qt::Key_Up, Qt::Key_Up, Qt::Key_Up, Qt::Key_Space})
+        QTest::keyClick(&board(), key);
+    EXPECT_TRUE(view().board.isVisible(9)) << "dropped from the row on top";
 }
 
 // Guards an animation from what the player does meanwhile, and the player who closes the window from waiting for it.

@@ -26,27 +26,27 @@ double lowered(int top)
 
 void BoardGeometry::fit(QSizeF room, double ratio)
 {
-    const double scale = std::min(room.width() / unitsWide, room.height() / unitsHigh);
+    const double scale = std::min(room.width() / unitsWide, room.height() / (unitsHigh + headRoom_));
     ratio_ = ratio;
     cell_ = std::max(1.0, std::floor(scale * layout::cellSize * ratio)) / ratio;
 }
 
-QSizeF BoardGeometry::sizeFor(double cell)
+QSizeF BoardGeometry::sizeFor(double cell, int headRoom)
 {
     const double scale = cell / layout::cellSize;
-    return {unitsWide * scale, unitsHigh * scale};
+    return {unitsWide * scale, (unitsHigh + headRoom) * scale};
 }
 
 QSizeF BoardGeometry::size() const
 {
-    return sizeFor(cell_);
+    return sizeFor(cell_, headRoom_);
 }
 
 QRectF BoardGeometry::place(int left, int top, int width, int height) const
 {
     const double scale = cell_ / layout::cellSize;
     const auto snap = [this](double logical) { return std::round(logical * ratio_) / ratio_; };
-    return {snap(left * scale), snap(lowered(top) * scale), snap(width * scale), snap(height * scale)};
+    return {snap(left * scale), snap((lowered(top) + headRoom_) * scale), snap(width * scale), snap(height * scale)};
 }
 
 QRectF BoardGeometry::tilePlace(const BoxControl& control, int left, int top) const
@@ -57,8 +57,9 @@ QRectF BoardGeometry::tilePlace(const BoxControl& control, int left, int top) co
 
 QRectF BoardGeometry::strip() const
 {
-    return {QPointF(0, 0), QSizeF(size().width(), place(0, layout::dropRowTop, 0, layout::cellSize).bottom() +
-                                                      place(0, layout::dropRowTop, 0, 0).top())};
+    const QRectF row = place(0, layout::dropRowTop, 0, layout::cellSize);
+    const double margin = layout::dropRowTop * cell_ / layout::cellSize;
+    return {0, 0, size().width(), row.bottom() + std::round(margin * ratio_) / ratio_};
 }
 
 } // namespace lexigrove

@@ -16,6 +16,11 @@ namespace lexigrove
 class BoardGeometry
 {
 public:
+    /// Room above the drop row for the numbers of its columns, in units.
+    static constexpr int numberRoom = 120;
+
+    explicit BoardGeometry(int headRoom = 0) : headRoom_(headRoom) {}
+
     /// Fits the largest board into `room`. `ratio` is device pixels per logical pixel.
     void fit(QSizeF room, double ratio);
 
@@ -39,9 +44,10 @@ public:
     [[nodiscard]] QRectF strip() const;
 
     /// The size of a board with cells of this size.
-    static QSizeF sizeFor(double cell);
+    static QSizeF sizeFor(double cell, int headRoom = 0);
 
 private:
+    int headRoom_;
     double cell_ = 0;
     double ratio_ = 1;
 };

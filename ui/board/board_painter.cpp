@@ -12,7 +12,9 @@ namespace lexigrove
 namespace
 {
 
-constexpr double slotRadius = 0.08; ///< of a cell
+// As fractions of a cell.
+constexpr double slotRadius = 0.08;
+constexpr double numberShare = 0.2;
 
 /// A control as it looks while it is pressed.
 BoxControl heldDown(BoxControl control)
@@ -26,6 +28,14 @@ BoxControl heldDown(BoxControl control)
 QRectF BoardPainter::waitingPlace(int col) const
 {
     return shape_.tilePlace(board_.waiting(col), Board::columnLeft(col), layout::dropRowTop);
+}
+
+QRectF BoardPainter::placeOf(const BoardSpot& spot) const
+{
+    if (spot.tile == 0)
+        return waitingPlace(spot.col);
+    const int col = Board::col(spot.tile);
+    return shape_.tilePlace(board_.tile(spot.tile), Board::columnLeft(col), board_.cellTop(Board::row(spot.tile), col));
 }
 
 void BoardPainter::paint(QPainter& painter, const BoardMarks& marks, const QRectF& dirty) const
@@ -42,6 +52,37 @@ void BoardPainter::paint(QPainter& painter, const BoardMarks& marks, const QRect
         tiles_.paintLetter(painter, waiting, place);
     }
     paintPanel(painter);
+    if (marks.numbersColumns)
+        paintNumbers(painter);
+    if (marks.cursor != BoardSpot{})
+        paintCursor(painter, placeOf(marks.cursor));
+}
+
+/// The keys that let the letters drop.
+void BoardPainter::paintNumbers(QPainter& painter) const
+{
+    painter.setFont(Theme::font(shape_.cell() * numberShare));
+    painter.setPen(toQColor(theme_.colours().quietText));
+    for (int col = 1; col <= Board::columns; ++col) {
+        const QRectF waiting = waitingPlace(col);
+        painter.drawText(QRectF(waiting.left(), 0, waiting.width(), waiting.top()), Qt::AlignCenter,
+                         QString::number(col));
+    }
+}
+
+/// A ring around the cell, with a gap, so that it is seen on any face.
+void BoardPainter::paintCursor(QPainter& painter, const QRectF& place) const
+{
+    constexpr double ring = 2;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(Qt::NoBrush);
+    const double radius = shape_.cell() * slotRadius;
+    painter.setPen(QPen(toQColor(theme_.colours().background), ring));
+    painter.drawRoundedRect(place.adjusted(ring / 2, ring / 2, -ring / 2, -ring / 2), radius, radius);
+    painter.setPen(QPen(toQColor(theme_.colours().text), ring));
+    painter.drawRoundedRect(place.adjusted(-ring / 2, -ring / 2, ring / 2, ring / 2), radius, radius);
+    painter.restore();
 }
 
 /// The strip of the drop row, what can drop, and the empty cells.
@@ -116,6 +157,8 @@ void BoardPainter::paintTiles(QPainter& painter, const BoardMarks& marks, const 
     paintLinks(painter, marks.path);
     forEachDirty([&](int tile, const QRectF& place) {
         tiles_.paintLetter(painter, board_.tile(tile), place);
+        if (board_.maskcolor(tile) == multiplier::red && marks.redDistance == board_.pushesLeft(tile))
+            tiles_.paintRedDistance(painter, board_.tile(tile), place, marks.redDistance);
         if (tile == marks.swapTile)
             tiles_.paintSwapMark(painter, place);
     });

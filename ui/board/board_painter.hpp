@@ -1,6 +1,7 @@
 #pragma once
 
 #include "game/board.hpp"
+#include "ui/board/board_cursor.hpp"
 #include "ui/board/board_geometry.hpp"
 #include "ui/board/tile_painter.hpp"
 
@@ -9,13 +10,6 @@
 namespace lexigrove
 {
 
-/// A place of the board: a tile, or a column of the drop row.
-struct BoardSpot {
-    int tile = 0;
-    int col = 0;
-    bool operator==(const BoardSpot&) const = default;
-};
-
 /// What is shown of a board beside its tiles.
 struct BoardMarks {
     std::vector<int> path; ///< joined by links
@@ -23,7 +17,10 @@ struct BoardMarks {
     int guideColumn = 0;
     unsigned openColumns = 0; ///< bit c: a letter waits over column c, and there is room for it
     bool showsSlots = false;  ///< of empty cells
-    BoardSpot lifted;         ///< under the pointer
+    bool numbersColumns = false;
+    int redDistance = 0; ///< pushes until the nearest red tile is out, 0 for none; it stands on each that is as near
+    BoardSpot cursor;
+    BoardSpot lifted; ///< under the pointer
     BoardSpot pressed;
     bool operator==(const BoardMarks&) const = default;
 };
@@ -43,12 +40,17 @@ public:
     /// Where the waiting tile of a column is shown while it waits.
     [[nodiscard]] QRectF waitingPlace(int col) const;
 
+    /// Where a spot is, with or without a tile.
+    [[nodiscard]] QRectF placeOf(const BoardSpot& spot) const;
+
 private:
     void paintBackground(QPainter& painter, const BoardMarks& marks, const QRectF& dirty) const;
     void paintDropMarks(QPainter& painter, const BoardMarks& marks) const;
     void paintTiles(QPainter& painter, const BoardMarks& marks, const QRectF& dirty) const;
     void paintLinks(QPainter& painter, const std::vector<int>& path) const;
     void paintPanel(QPainter& painter) const;
+    void paintNumbers(QPainter& painter) const;
+    void paintCursor(QPainter& painter, const QRectF& place) const;
 
     const Board& board_;
     const BoardGeometry& shape_;

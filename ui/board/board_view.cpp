@@ -7,16 +7,23 @@
 #include "opponent/hints_form.hpp"
 #include "ui/machine/mouse.hpp"
 
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 
 #include <algorithm>
+#include <map>
 
 namespace lexigrove
 {
 
 BoardView::BoardView(GameFlow& flow, const Theme& theme, QWidget* parent)
-    : QWidget(parent), flow_(flow), theme_(theme), board_(flow.view().board), painter_(board_, shape_, theme)
+    : QWidget(parent),
+      flow_(flow),
+      theme_(theme),
+      board_(flow.view().board),
+      painter_(board_, shape_, theme),
+      cursor_(board_)
 {
     setObjectName("Picture1");
     setAccessibleName(tr("Board"));
@@ -69,7 +76,7 @@ BoardSpot BoardView::spotAt(const QPointF& place) const
 QRectF BoardView::placeOf(const BoardSpot& spot) const
 {
     if (spot.tile != 0)
-        return shape_.tilePlace(board_.tile(spot.tile));
+        return shape_.tilePlace(board_.tile(spot.tile)); // where it is now
     return spot.col != 0 ? QRectF(dropRect(spot.col)) : QRectF();
 }
 
@@ -93,7 +100,20 @@ BoardMarks BoardView::currentMarks() const
     if (selection.isEmpty())
         marks.path = flow_.view().hints.shownPath();
     marks.showsSlots = flow_.inGame();
+    marks.numbersColumns = flow_.inGame();
+    marks.redDistance = redDistance();
+    marks.cursor = cursor();
     return marks;
+}
+
+int BoardView::redDistance() const
+{
+    int nearest = 0;
+    for (int tile = 1; tile <= Board::tileCount; ++tile) {
+        if (board_.isVisible(tile) && board_.maskcolor(tile) == multiplier::red)
+            nearest = nearest == 0 ? board_.pushesLeft(tile) : std::min(nearest, board_.pushesLeft(tile));
+    }
+    return nearest;
 }
 
 void BoardView::repaintIfChanged(const BoxControl& control, Shown& shown)
@@ -142,6 +162,7 @@ void BoardView::setSpot(BoardSpot& spot, BoardSpot value)
 
 void BoardView::mousePressEvent(QMouseEvent* event)
 {
+    cursorShown_ = false;
     setSpot(pressed_, spotAt(event->position()));
 }
 
@@ -165,11 +186,61 @@ void BoardView::leaveEvent(QEvent* /*event*/)
 void BoardView::mouseReleaseEvent(QMouseEvent* event)
 {
     setSpot(pressed_, {});
-    const BoardSpot spot = spotAt(event->position());
+    press(spotAt(event->position()), mouseButton(event->button()), event->modifiers().testFlag(Qt::ShiftModifier));
+}
+
+void BoardView::press(const BoardSpot& spot, MouseButton button, bool shift)
+{
     if (spot.tile != 0)
-        flow_.clickTile(spot.tile, mouseButton(event->button()), event->modifiers().testFlag(Qt::ShiftModifier));
+        flow_.clickTile(spot.tile, button, shift);
     else if (spot.col != 0)
         flow_.drop(spot.col);
+}
+
+// ---- The keyboard
+
+void BoardView::moveCursor(const BoardSpot& spot)
+{
+    cursorShown_ = true;
+    cursor_.moveTo(spot);
+    if (spot.tile != 0)
+        flow_.hoverTile(spot.tile); // the status line describes it
+    synchronise();
+}
+
+/// The arrow keys move the cursor, and the keys at the corners of the number pad slantwise. Other keys are the
+/// window's.
+void BoardView::keyPressEvent(QKeyEvent* event)
+{
+    using enum BoardCursor::Step;
+    static const std::map<int, BoardCursor::Step> steps{
+        {Qt::Key_Up, Up},       {Qt::Key_Down, Down},      {Qt::Key_Left, Left},    {Qt::Key_Right, Right},
+        {Qt::Key_Home, UpLeft}, {Qt::Key_PageUp, UpRight}, {Qt::Key_End, DownLeft}, {Qt::Key_PageDown, DownRight},
+    };
+    const auto step = steps.find(event->key());
+    const Qt::KeyboardModifiers modifiers = event->modifiers() & ~Qt::KeyboardModifiers(Qt::KeypadModifier);
+    if (step != steps.end() && modifiers == Qt::NoModifier) {
+        cursor_.move(step->second);
+        moveCursor(cursor_.spot());
+    } else if (event->key() == Qt::Key_Space && (modifiers & ~Qt::KeyboardModifiers(Qt::ShiftModifier)) == 0) {
+        if (cursor() == BoardSpot{})
+            moveCursor(cursor_.spot());
+        else
+            press(cursor(), MouseButton::Left, modifiers == Qt::ShiftModifier);
+    } else {
+        QWidget::keyPressEvent(event);
+    }
+}
+
+void BoardView::focusInEvent(QFocusEvent* event)
+{
+    cursorShown_ = cursorShown_ || event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+    synchronise();
+}
+
+void BoardView::focusOutEvent(QFocusEvent* /*event*/)
+{
+    synchronise();
 }
 
 // ---- Painting

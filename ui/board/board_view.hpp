@@ -37,6 +37,11 @@ public:
 
     [[nodiscard]] const BoardGeometry& geometryOfBoard() const { return shape_; }
 
+    /// Where the arrow keys have come to; none while the keyboard is not used on the board.
+    [[nodiscard]] BoardSpot cursor() const { return cursorShown_ && hasFocus() ? cursor_.spot() : BoardSpot{}; }
+    /// Shows the cursor at a spot.
+    void moveCursor(const BoardSpot& spot);
+
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
@@ -45,6 +50,9 @@ protected:
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void leaveEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
 
 private:
     /// What was last painted of a control.
@@ -56,6 +64,8 @@ private:
     [[nodiscard]] BoardSpot spotAt(const QPointF& place) const;
     [[nodiscard]] QRectF placeOf(const BoardSpot& spot) const;
     void setSpot(BoardSpot& spot, BoardSpot value);
+    void press(const BoardSpot& spot, MouseButton button, bool shift);
+    [[nodiscard]] int redDistance() const;
     [[nodiscard]] BoardMarks currentMarks() const;
     void repaintIfChanged(const BoxControl& control, Shown& shown);
     [[nodiscard]] bool takesInput() const;
@@ -63,8 +73,10 @@ private:
     GameFlow& flow_;
     const Theme& theme_;
     const Board& board_;
-    BoardGeometry shape_;
+    BoardGeometry shape_{BoardGeometry::numberRoom};
     BoardPainter painter_;
+    BoardCursor cursor_;
+    bool cursorShown_ = false;
     std::array<Shown, Board::tileCount + 1> shownTiles_;
     std::array<Shown, Board::columns + 1> shownWaiting_;
     QRectF shownPanel_;

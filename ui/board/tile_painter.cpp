@@ -61,6 +61,16 @@ void TilePainter::paintRedMark(QPainter& painter, const QRectF& place) const
     painter.restore();
 }
 
+void TilePainter::paintRedDistance(QPainter& painter, const BoxControl& tile, const QRectF& place, int pushes) const
+{
+    const double margin = place.width() * marginShare;
+    const double mark = std::max(6.0, place.width() * smallShare) * 1.2;
+    painter.setPen(theme_.colour(tile.ForeColor()));
+    painter.setFont(Theme::font(place.width() * smallShare, true));
+    painter.drawText(place.adjusted(margin + mark, margin * 0.6, -margin, 0), Qt::AlignLeft | Qt::AlignTop,
+                     QString::number(pushes));
+}
+
 void TilePainter::paintLink(QPainter& painter, const QRectF& from, const QRectF& to) const
 {
     const QLineF whole(from.center(), to.center());

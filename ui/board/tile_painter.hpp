@@ -24,6 +24,9 @@ public:
 
     void paintLetter(QPainter& painter, const BoxControl& tile, const QRectF& place) const;
 
+    /// Beside a red tile's mark: how many pushes of its column it is from being out.
+    void paintRedDistance(QPainter& painter, const BoxControl& tile, const QRectF& place, int pushes) const;
+
     /// The bar that joins two successive tiles of a path. It reaches a little into both, but not as far as their
     /// letters.
     void paintLink(QPainter& painter, const QRectF& from, const QRectF& to) const;

@@ -28,7 +28,7 @@ namespace
 {
 
 /// A radio button or check box that reports what was done to it and leaves the meaning to the form: it was `selected`
-/// by any means, or any mouse button was `released` over it.
+/// by any means, or any mouse button was `released` over it, as which a choice by other means counts.
 template <typename Button>
 class ChoiceButton : public Button
 {
@@ -47,15 +47,26 @@ public:
     }
 
 protected:
-    void nextCheckState() override { selected(); }
+    /// Keys and assistive tools have no button to release: with them the choice is the release.
+    void nextCheckState() override
+    {
+        selected();
+        if (!byMouse_)
+            released();
+    }
 
     void mouseReleaseEvent(QMouseEvent* event) override
     {
         const bool over = this->hitButton(event->position().toPoint());
+        byMouse_ = true;
         Button::mouseReleaseEvent(event);
+        byMouse_ = false;
         if (over)
             released();
     }
+
+private:
+    bool byMouse_ = false;
 };
 
 /// The combo box of the schemes: it reports when its list is closed.
@@ -99,7 +110,8 @@ public:
           Combo1_(new SchemeBox(gameHost.theme)),
           preview_(new SchemePreview(gameHost.theme)),
           UsrDictName_(new QLineEdit),
-          GetUserDictName_(new BoxButton(form.GetUserDictName, gameHost.theme))
+          GetUserDictName_(new BoxButton(form.GetUserDictName, gameHost.theme)),
+          pace_(new ArrowBox(gameHost.theme))
     {
         setUpSchemeBox();
         setUpUserDictionary();
@@ -113,6 +125,7 @@ public:
 
         auto* const column = newColumn();
         column->addLayout(columns);
+        column->addWidget(newPlayingFrame());
         column->addLayout(newButtons());
         findChild<QPushButton*>("Startx")->setFocus();
         showForm();
@@ -255,6 +268,41 @@ private:
                 [this] { input([this] { form_.browseUserDictionary(); }); });
     }
 
+    /// What the configuration has no line for.
+    QGroupBox* newPlayingFrame()
+    {
+        auto* const box = new QGroupBox(tr("While You Play"), this);
+        auto* const row = new QHBoxLayout(box);
+        row->setSpacing(Theme::gap);
+        auto* const pauses = new QCheckBox(tr("Pause when the window is left"));
+        pauses->setObjectName("PauseWhenLeft");
+        pauses->setChecked(host.settings.pausesWhenLeft());
+        connect(pauses, &QCheckBox::toggled, this, [this](bool on) { host.settings.setPausesWhenLeft(on); });
+        pace_->setObjectName("Pace");
+        pace_->addItems({tr("Slow"), tr("Medium"), tr("Fast")});
+        pace_->setCurrentIndex(static_cast<int>(host.settings.pace()));
+        pace_->setToolTip(tr("How fast letters move with \"Animation\""));
+        connect(pace_, &QComboBox::activated, this, [this](int pace) {
+            host.settings.setPace(static_cast<SettingsFile::Pace>(pace));
+            paceChosen_ = true;
+        });
+        auto* const caption = new QLabel(tr("&Pace of the animation"));
+        caption->setBuddy(pace_);
+        row->addWidget(pauses);
+        row->addStretch(1);
+        row->addWidget(caption);
+        row->addWidget(pace_);
+        return box;
+    }
+
+    /// An animation that was just switched on has no delay yet.
+    void start()
+    {
+        if (form_.animates() && (paceChosen_ || form_.settings.dropDelay == 0))
+            form_.settings.dropDelay = SettingsFile::delayOf(host.settings.pace());
+        form_.pressStart();
+    }
+
     QHBoxLayout* newButtons()
     {
         auto* const Startx = newButton("Startx", form_.Startx.Caption, form_.Startx.ToolTipText);
@@ -262,7 +310,7 @@ private:
         auto* const Exitx = newButton("Exitx", form_.Exitx.Caption, form_.Exitx.ToolTipText);
         Startx->setProperty("primary", true);
         Startx->setDefault(true);
-        connect(Startx, &QPushButton::clicked, this, [this] { input([this] { form_.pressStart(); }); });
+        connect(Startx, &QPushButton::clicked, this, [this] { input([this] { start(); }); });
         connect(PSBoard, &QPushButton::clicked, this, [this] { input([this] { form_.presetBoard(); }); });
         connect(Exitx, &QPushButton::clicked, this, [this] { reject(); });
         if (!form_.offersLookBack())
@@ -278,6 +326,8 @@ private:
     QLineEdit* UsrDictName_;
     BoxButton* GetUserDictName_;
     QLabel* missing_ = new QLabel("There is no such file: a game cannot start with it.");
+    ArrowBox* pace_;
+    bool paceChosen_ = false;
     NoDialogs noDialogs_;
     std::vector<ColourScheme> listed_;         ///< the schemes of the box
     std::vector<std::function<void()>> shown_; ///< each shows one control of the form

@@ -2,6 +2,7 @@
 
 #include "ui/look/theme.hpp"
 #include "ui/machine/event_gate.hpp"
+#include "ui/machine/settings_file.hpp"
 
 #include <QObject>
 #include <QPointer>
@@ -17,8 +18,12 @@ class Host : public QObject
     Q_OBJECT
 
 public:
+    /// `folder` is the program folder with its trailing separator.
+    explicit Host(const std::string& folder) : settings(folder) {}
+
     Theme theme;
     EventGate gate;
+    SettingsFile settings;
     QPointer<QWidget> mainWindow; ///< null before it exists
 
     /// The parent for a dialog that is about to be shown: the topmost open dialog, else the main window (a question
@@ -30,6 +35,8 @@ signals:
     void modelsChanged();
     /// An input or a tick of the game has ended.
     void inputEnded();
+    /// A letter was typed that cannot follow.
+    void inputRefused();
 };
 
 } // namespace lexigrove

@@ -36,6 +36,7 @@ public:
 
     void copyText(const std::string& text) override;
     [[nodiscard]] std::string copiedText() const override;
+    void refuse() override { emit host_.inputRefused(); }
     void inputEnded() override { emit host_.inputEnded(); }
 
     /// 250 rounds, the delay that the game starts with, make a step of ten milliseconds.

@@ -34,6 +34,8 @@ std::vector<Menu> mainMenus()
          {
              {Command::EnterWord, text("&Enter Word"), {}, text("Enter"), false},
              {Command::ClearWord, text("&Clear Word"), {}, text("Esc"), false},
+             {Command::OtherPath, text("&Other Path"), {Qt::CTRL | Qt::Key_O}, {}, false},
+             {Command::SwapLetter, text("&Swap Letter"), {Qt::CTRL | Qt::Key_W}, {}, false},
              {Command::GetHint, text("Get &Hint..."), {Qt::CTRL | Qt::Key_H}, {}, true},
              {Command::CheckWord, text("Chec&k Spelling"), {Qt::CTRL | Qt::Key_K}, {}, false},
              {Command::ShowMeaning, text("&Meaning..."), {Qt::CTRL | Qt::Key_I}, {}, false},

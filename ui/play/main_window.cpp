@@ -42,10 +42,21 @@ MainWindow::MainWindow(Host& host, GameFlow& flow, const StatusLine& status) : h
     saving_ = new QTimer(this);
     saving_->setSingleShot(true);
     connect(saving_, &QTimer::timeout, this, [this] { flow_.saveIfChanged(); });
+    left_ = new QTimer(this);
+    left_->setInterval(3'000);
+    connect(left_, &QTimer::timeout, this, &MainWindow::pauseIfLeft);
+    connect(qApp, &QGuiApplication::applicationStateChanged, this, &MainWindow::watchLeaving);
+    restoreGeometry(host_.settings.windowPlace());
     host_.mainWindow = this;
     connect(&host_, &Host::modelsChanged, this, &MainWindow::showModels);
     connect(&host_, &Host::inputEnded, this, &MainWindow::inputEnded);
+    connect(&host_, &Host::inputRefused, area_->word, &WordBox::shake);
     showModels();
+}
+
+MainWindow::~MainWindow()
+{
+    host_.settings.setWindowPlace(saveGeometry());
 }
 
 void MainWindow::addMenus()
@@ -188,6 +199,30 @@ void MainWindow::closeEvent(QCloseEvent* event)
             flow_.perform(Command::Exit);
     }
     event->setAccepted(flow_.ended());
+}
+
+void MainWindow::changeEvent(QEvent* event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange)
+        watchLeaving();
+}
+
+/// A glance at another window does not count.
+void MainWindow::watchLeaving()
+{
+    if (!isMinimized() && QGuiApplication::applicationState() == Qt::ApplicationActive)
+        left_->stop();
+    else if (!left_->isActive())
+        left_->start();
+}
+
+/// Tries again after whatever the game is busy with.
+void MainWindow::pauseIfLeft()
+{
+    if (flow_.isBusy() || !flow_.inGame() || flow_.isPaused() || !host_.settings.pausesWhenLeft())
+        return;
+    flow_.perform(Command::Pause);
 }
 
 void MainWindow::paintEvent(QPaintEvent* event)

@@ -23,6 +23,7 @@ class MainWindow : public QMainWindow
 
 public:
     MainWindow(Host& host, GameFlow& flow, const StatusLine& status);
+    ~MainWindow() override;
 
     [[nodiscard]] BoardView& board() { return *area_->board; }
 
@@ -36,6 +37,7 @@ protected:
     void keyReleaseEvent(QKeyEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
     struct MenuEntry {
@@ -49,6 +51,8 @@ private:
     void addCornerButton(QHBoxLayout& row, const QString& name, const QString& caption, Command command);
     void connectArea();
     void addTimer(const QString& name, Timer timer);
+    void watchLeaving();
+    void pauseIfLeft();
     [[nodiscard]] bool typed(const QKeyEvent& event);
 
     Host& host_;
@@ -56,6 +60,7 @@ private:
     PlayArea* area_;
     StatusLineView* status_;
     std::vector<MenuEntry> menuEntries_;
+    QTimer* left_;   ///< runs while the window is minimised or another program's has the keys
     QTimer* saving_; ///< fires once the events of an input are done
     bool endReported_ = false;
 };

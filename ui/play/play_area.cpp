@@ -55,7 +55,7 @@ PlayArea::PlayArea(GameFlow& flow, const Theme& theme, QWidget* parent)
     yourScore_ = newNumber("YourScore", tr("Your score"), tr("Points that you have scored"));
     compScore_ = newNumber("CompScore", tr("Computer"), tr("Points that the computer has scored"));
     tilesLeft_ = newNumber("TilesLeft", tr("Tiles left"), tr("Letters still to come"));
-    word_ = new WordBox(flow, theme, side_);
+    word = new WordBox(flow, theme, side_);
     buttons = new ButtonPanel(flow, side_);
     words = new WordsView(flow.view().state.WordsMade, theme, side_);
     words->setObjectName("WordsMade");
@@ -87,20 +87,20 @@ void PlayArea::buildSide()
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(Theme::gap);
     column->addLayout(numbers);
-    column->addWidget(word_);
+    column->addWidget(word);
     column->addWidget(buttons);
     column->addWidget(words, 1);
 }
 
 QSize PlayArea::sizeHint() const
 {
-    const QSize boardSize = BoardGeometry::sizeFor(usualCell).toSize();
+    const QSize boardSize = BoardGeometry::sizeFor(usualCell, BoardGeometry::numberRoom).toSize();
     return {boardSize.width() + 62 * Theme::grid + 3 * Theme::margin, boardSize.height() + Theme::margin + topMargin};
 }
 
 QSize PlayArea::minimumSizeHint() const
 {
-    const QSize boardSize = BoardGeometry::sizeFor(smallestCell).toSize();
+    const QSize boardSize = BoardGeometry::sizeFor(smallestCell, BoardGeometry::numberRoom).toSize();
     const int height = std::max(boardSize.height(), side_->minimumSizeHint().height());
     return {boardSize.width() + sideMinimum + 3 * Theme::margin, height + Theme::margin + topMargin};
 }
@@ -111,7 +111,7 @@ void PlayArea::resizeEvent(QResizeEvent* /*event*/)
 {
     const int height = this->height() - Theme::margin - topMargin;
     const int width = this->width() - 3 * Theme::margin;
-    BoardGeometry shape;
+    BoardGeometry shape{BoardGeometry::numberRoom};
     shape.fit(QSizeF(width - sideMinimum, height), devicePixelRatioF());
     const QSizeF boardSize = shape.size();
     const int boardWidth = static_cast<int>(std::ceil(boardSize.width()));
@@ -121,7 +121,7 @@ void PlayArea::resizeEvent(QResizeEvent* /*event*/)
 
     board->setGeometry(left, topMargin, boardWidth, boardHeight);
     side_->setGeometry(left + boardWidth + Theme::margin, topMargin, sideWidth, height);
-    word_->setLetterSize(std::clamp(shape.cell() * 0.55, 24.0, 44.0));
+    word->setLetterSize(std::clamp(shape.cell() * 0.55, 24.0, 44.0));
     placeCovers();
 }
 
@@ -141,7 +141,7 @@ void PlayArea::synchronise()
     compScore_->setText(QString::number(state.compScore));
     compScore_->parentWidget()->setVisible(state.computerGame); // a solo player needs no second score
     tilesLeft_->setText(toQString(state.tilesLeftText()));
-    word_->synchronise();
+    word->synchronise();
     buttons->synchronise();
     words->synchronise();
     showPause();

@@ -28,6 +28,7 @@ public:
 
     BoardView* board;
     ClockFrame* clock;
+    WordBox* word;
     ButtonPanel* buttons;
     WordsView* words;
 
@@ -47,7 +48,6 @@ private:
     QLabel* yourScore_;
     QLabel* compScore_;
     QLabel* tilesLeft_;
-    WordBox* word_;
     PauseCover* boardCover_;
     PauseCover* wordsCover_;
 };

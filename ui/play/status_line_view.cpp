@@ -9,6 +9,7 @@
 #include <QGridLayout>
 #include <QPainter>
 #include <QStyle>
+#include <QTimer>
 
 namespace lexigrove
 {
@@ -60,7 +61,8 @@ StatusLineView::StatusLineView(const StatusLine& status, const GameFlow& flow, c
       theme_(theme),
       Warn(new WarnIcon(theme, this)),
       Label1(new QLabel(this)),
-      Label4(new QLabel(this))
+      Label4(new QLabel(this)),
+      newsTime_(new QTimer(this))
 {
     setObjectName("StatusLine");
     Label1->setObjectName("Label1");
@@ -82,19 +84,31 @@ StatusLineView::StatusLineView(const StatusLine& status, const GameFlow& flow, c
     rows->addWidget(Label4, 1, 0, 1, 2);
     rows->setColumnStretch(1, 1);
     rows->setRowMinimumHeight(0, iconSize + 2);
+    newsTime_->setSingleShot(true);
+    newsTime_->setInterval(3'000);
+    connect(newsTime_, &QTimer::timeout, this, &StatusLineView::synchronise);
 }
 
 void StatusLineView::synchronise()
 {
-    const std::string& text = status_.News.empty() ? status_.Label1 : status_.News;
+    if (told_ != status_.told) {
+        told_ = status_.told;
+        newsTime_->start(); // time to read it, even for a pointer that wanders over the board
+    }
+    using enum StatusLine::Current;
+    const bool warns = status_.current == Caption && status_.Warn;
+    const bool tells =
+        !warns && !flow_.view().state.computerTurnInProgress && (newsTime_->isActive() || status_.current == News);
+    const std::string none;
+    const std::string& text = tells ? status_.News : status_.current == Caption ? status_.Label1 : none;
     if (const QString message = onOneLine(text); message != full_) {
         full_ = message;
         elide();
     }
     const GameState& state = flow_.view().state;
-    setLoud(status_.Warn || !status_.News.empty() || state.computerTurnInProgress);
-    if (status_.Warn == Warn->isHidden())
-        Warn->setVisible(status_.Warn);
+    setLoud(warns || tells || state.computerTurnInProgress);
+    if (warns == Warn->isHidden())
+        Warn->setVisible(warns);
     if (state.developerMode == Label4->isHidden())
         Label4->setVisible(state.developerMode);
     const int tile = state.developerMode ? state.hoveredTile : 0;

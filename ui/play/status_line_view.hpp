@@ -7,6 +7,8 @@
 #include <QLabel>
 #include <QWidget>
 
+class QTimer;
+
 namespace lexigrove
 {
 
@@ -34,6 +36,8 @@ private:
     QWidget* Warn;
     QLabel* Label1;
     QLabel* Label4;
+    QTimer* newsTime_; ///< runs while the last news stands
+    unsigned told_ = 0;
     QString full_; ///< the whole message, of which the label may show only the beginning
 };
 

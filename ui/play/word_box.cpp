@@ -10,8 +10,11 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
+#include <QStyle>
+#include <QVariantAnimation>
 
 #include <cmath>
+#include <numbers>
 
 namespace lexigrove
 {
@@ -42,6 +45,23 @@ public:
             return;
         colour_ = colour;
         update();
+    }
+
+    /// Moves the text aside for a moment, to and fro; a desktop without animations leaves it where it is.
+    void shake()
+    {
+        if (style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, this) == 0)
+            return;
+        auto* const shaking = new QVariantAnimation(this);
+        shaking->setDuration(240);
+        shaking->setStartValue(0.0);
+        shaking->setEndValue(1.0);
+        connect(shaking, &QVariantAnimation::valueChanged, this, [this](const QVariant& share) {
+            constexpr double reach = 7;
+            aside_ = reach * (1 - share.toDouble()) * std::sin(share.toDouble() * 6 * std::numbers::pi);
+            update();
+        });
+        shaking->start(QAbstractAnimation::DeleteWhenStopped);
     }
 
     /// The text shown, smaller and less prominent, while there is none.
@@ -78,7 +98,7 @@ protected:
         const double size = wanted > width() ? std::floor(largest_ * width() / wanted) : largest_;
         painter.setFont(fontOf(size));
         painter.setPen(colour_);
-        painter.drawText(rect(), static_cast<int>(place), text());
+        painter.drawText(QRectF(rect()).translated(aside_, 0), static_cast<int>(place), text());
     }
 
 private:
@@ -91,6 +111,7 @@ private:
 
     double largest_;
     double letterSpacing_;
+    double aside_ = 0;
     QColor colour_;
     QString placeholder_;
 };
@@ -113,6 +134,11 @@ WordBox::WordBox(const GameFlow& flow, const Theme& theme, QWidget* parent)
     row->setContentsMargins(2 * Theme::grid, Theme::grid, Theme::grid, Theme::grid);
     row->addWidget(WordTried, 1);
     row->addWidget(CurrScore);
+}
+
+void WordBox::shake()
+{
+    WordTried->shake();
 }
 
 void WordBox::setLetterSize(double size)

@@ -23,6 +23,9 @@ public:
 
     void synchronise();
 
+    /// The word shakes its head: a letter cannot follow.
+    void shake();
+
     /// The size of the word's letters in pixels.
     void setLetterSize(double size);
 

@@ -1,0 +1,49 @@
+#include "ui/machine/settings_file.hpp"
+
+#include "settings/game_settings.hpp"
+#include "ui/look/text.hpp"
+
+namespace lexigrove
+{
+
+namespace
+{
+
+const char* const paceNames[] = {"slow", "medium", "fast"};
+
+} // namespace
+
+SettingsFile::SettingsFile(const std::string& folder)
+    : file_(pathToQString(folder + "LexigroveSettings.ini"), QSettings::IniFormat)
+{
+}
+
+SettingsFile::Pace SettingsFile::pace() const
+{
+    const QString name = file_.value("play/pace").toString();
+    for (const Pace pace : {Pace::Slow, Pace::Fast}) {
+        if (name == paceNames[static_cast<int>(pace)])
+            return pace;
+    }
+    return Pace::Medium;
+}
+
+void SettingsFile::setPace(Pace pace)
+{
+    file_.setValue("play/pace", paceNames[static_cast<int>(pace)]);
+}
+
+int SettingsFile::delayOf(Pace pace)
+{
+    switch (pace) {
+    case Pace::Slow:
+        return 2 * GameSettings::startDelay;
+    case Pace::Fast:
+        return GameSettings::startDelay / 3;
+    case Pace::Medium:
+        break;
+    }
+    return GameSettings::startDelay;
+}
+
+} // namespace lexigrove

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QByteArray>
+#include <QSettings>
+
+#include <string>
+
+namespace lexigrove
+{
+
+/// What the player has chosen beside the configuration, whose lines are fixed: "LexigroveSettings.ini" of the program
+/// folder. A missing file or value means the default; one that cannot be written is not kept.
+class SettingsFile
+{
+public:
+    /// How fast letters slide and fall where they are animated.
+    enum class Pace { Slow, Medium, Fast };
+
+    /// `folder` ends with its separator.
+    explicit SettingsFile(const std::string& folder);
+
+    /// Whether the game pauses when its window is left.
+    [[nodiscard]] bool pausesWhenLeft() const { return file_.value("play/pause-when-left", true).toBool(); }
+    void setPausesWhenLeft(bool pauses) { file_.setValue("play/pause-when-left", pauses); }
+
+    [[nodiscard]] Pace pace() const;
+    void setPace(Pace pace);
+    /// The drop-animation delay of a pace, in rounds.
+    [[nodiscard]] static int delayOf(Pace pace);
+
+    /// The main window's place and size in the toolkit's own form; empty before they were kept.
+    [[nodiscard]] QByteArray windowPlace() const { return file_.value("window/place").toByteArray(); }
+    void setWindowPlace(const QByteArray& place) { file_.setValue("window/place", place); }
+
+private:
+    QSettings file_;
+};
+
+} // namespace lexigrove
