@@ -114,10 +114,12 @@ const GameFlow::Entry& GameFlow::entryOf(Command command)
                   p.ports.windows.showAbout();
               }},
         Entry{Command::AskPassword, When::Always, Ends,
-              [](Flow&, Parts& p) {
+              [](Flow& flow, Parts& p) {
                   p.game.state.developerMode = false;
-                  if (p.ports.dialogs.input("LexiGrove", "Enter password", "") == "718kestr")
-                      p.game.state.developerMode = true;
+                  const auto answer = p.ports.dialogs.inputOrHelp("LexiGrove", "Enter password");
+                  if (!answer)
+                      entryOf(Command::Help).run(flow, p);
+                  p.game.state.developerMode = answer == "718kestr";
               }},
         Entry{Command::ExportWords, When::InPlay, Ends,
               [](Flow&, Parts& p) { (void)p.dictionary.exportWords(p.ports.dialogs, p.ports.random, p.ports.clock); }},

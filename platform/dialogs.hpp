@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 namespace lexigrove
@@ -28,6 +29,12 @@ public:
     /// An input box. Cancel and an empty answer both return an empty string.
     virtual std::string input(const std::string& title, const std::string& prompt,
                               const std::string& defaultAnswer) = 0;
+
+    /// An input box for developers, which players find by accident: nothing when help is wanted instead.
+    virtual std::optional<std::string> inputOrHelp(const std::string& title, const std::string& prompt)
+    {
+        return input(title, prompt, "");
+    }
 
     /// A file-open dialog. Returns the full path chosen, or an empty string for Cancel.
     virtual std::string openFile(const OpenFileRequest& request) = 0;

@@ -96,6 +96,18 @@ std::vector<fs::path> filesToSync(const std::string& installed)
 
 } // namespace
 
+void placeFirstFiles(const std::string& installed, const std::string& target)
+{
+    const fs::path first = fs::path(installed) / "first";
+    if (!fs::is_directory(first))
+        return;
+    for (const fs::path& file : filesToSync(first.string())) {
+        const fs::path copy = fs::path(target) / file.filename();
+        if (!fs::exists(copy))
+            copyFile(file.string(), copy.string());
+    }
+}
+
 void syncInstalledFiles(const std::string& installed, const std::string& target)
 {
     const std::string manifestPath = (fs::path(target) / manifestName).string();

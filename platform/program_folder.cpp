@@ -82,7 +82,8 @@ std::string filledUserFolder(const ProgramFolderRequest& request)
     const fs::path installed = installedData(request);
     try {
         if (!installed.empty()) {
-            fs::create_directories(folder);
+            if (fs::create_directories(folder))
+                placeFirstFiles(installed.string(), folder.string());
             syncInstalledFiles(installed.string(), folder.string());
         }
     } catch (const fs::filesystem_error& error) {

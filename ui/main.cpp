@@ -1,4 +1,5 @@
 #include "platform/program_folder.hpp"
+#include "ui/first_start.hpp"
 #include "ui/front_end.hpp"
 #include "ui/machine/one_game.hpp"
 #include "ui/start_options.hpp"
@@ -41,6 +42,7 @@ int play(const StartOptions& options)
     const OneGame oneGame(folder);
     if (!oneGame.isFirst() && !goesOnBeside(oneGame))
         return EXIT_SUCCESS;
+    prepareFirstStart(folder);
     FrontEnd game(folder);
     GameFlow& flow = game.flow;
     MainWindow& window = game.window;

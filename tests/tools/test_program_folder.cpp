@@ -19,7 +19,7 @@ class ProgramFolder : public testing::Test
 protected:
     ProgramFolder()
     {
-        for (const char* name : {"usr/bin", "usr/share/lexigrove", "home"})
+        for (const char* name : {"usr/bin", "usr/share/lexigrove/first", "home"})
             fs::create_directories(path(name));
         install("L1Ascii.txt", "ONE\r\n");
         install("Default.sch", "first colours");
@@ -111,11 +111,15 @@ TEST_F(ProgramFolder, WhatTheUserChangedOrBroughtStays)
 // Guards against players who keep the word lists of their first version forever.
 TEST_F(ProgramFolder, WhatTheUserLeftAloneFollowsTheInstalledFiles)
 {
+    install("first/Lexigrove.cfg", "kind");
     start();
+    EXPECT_EQ(readFile(user("Lexigrove.cfg")), "kind");
     install("L1Ascii.txt", "ONE\r\nTWO\r\n");
     install("New.sch", "new");
     fs::remove(user("Default.sch"));
+    fs::remove(user("Lexigrove.cfg"));
     start();
+    EXPECT_FALSE(fs::exists(user("Lexigrove.cfg"))) << "the first start is over";
     EXPECT_EQ(readFile(user("L1Ascii.txt")), "ONE\r\nTWO\r\n");
     EXPECT_EQ(readFile(user("New.sch")), "new");
     EXPECT_EQ(readFile(user("Default.sch")), "first colours") << "a deleted file is put back";

@@ -15,44 +15,50 @@ constexpr int unitsWide = 2 * sideRoom + Board::columns * layout::cellSize;
 constexpr int unitsHigh = layout::boardTop + boardGap + 8 * layout::cellSize + sideRoom;
 constexpr double tileGap = 0.03; ///< of a cell, on each side of a tile
 
+} // namespace
+
 /// The drop row stays where the model has it, the board is lower, and whatever is between them is in proportion.
-double lowered(int top)
+double BoardGeometry::lowered(int top) const
 {
     const double share = static_cast<double>(top - layout::dropRowTop) / (layout::boardTop - layout::dropRowTop);
-    return top + boardGap * std::clamp(share, 0.0, 1.0);
+    return headRoom_ + top + (boardGap + middleRoom_) * std::clamp(share, 0.0, 1.0);
 }
-
-} // namespace
 
 void BoardGeometry::fit(QSizeF room, double ratio)
 {
-    const double scale = std::min(room.width() / unitsWide, room.height() / (unitsHigh + headRoom_));
+    const double scale = std::min(room.width() / unitsWide, room.height() / (unitsHigh + headRoom_ + middleRoom_));
     ratio_ = ratio;
     cell_ = std::max(1.0, std::floor(scale * layout::cellSize * ratio)) / ratio;
 }
 
-QSizeF BoardGeometry::sizeFor(double cell, int headRoom)
+QSizeF BoardGeometry::sizeFor(double cell) const
 {
     const double scale = cell / layout::cellSize;
-    return {unitsWide * scale, (unitsHigh + headRoom) * scale};
+    return {unitsWide * scale, (unitsHigh + headRoom_ + middleRoom_) * scale};
 }
 
 QSizeF BoardGeometry::size() const
 {
-    return sizeFor(cell_, headRoom_);
+    return sizeFor(cell_);
 }
 
 QRectF BoardGeometry::place(int left, int top, int width, int height) const
 {
     const double scale = cell_ / layout::cellSize;
     const auto snap = [this](double logical) { return std::round(logical * ratio_) / ratio_; };
-    return {snap(left * scale), snap((lowered(top) + headRoom_) * scale), snap(width * scale), snap(height * scale)};
+    return {snap(left * scale), snap(lowered(top) * scale), snap(width * scale), snap(height * scale)};
 }
 
 QRectF BoardGeometry::tilePlace(const BoxControl& control, int left, int top) const
 {
     const double gap = std::max(1.0, std::round(cell_ * tileGap * ratio_)) / ratio_;
     return place(left, top, control.Width(), control.Height()).adjusted(gap, gap, -gap, -gap);
+}
+
+QRectF BoardGeometry::hintPlace() const
+{
+    const double top = strip().bottom();
+    return {0, top, size().width(), place(0, layout::boardTop, 0, 0).top() - top};
 }
 
 QRectF BoardGeometry::strip() const

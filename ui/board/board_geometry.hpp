@@ -19,7 +19,10 @@ public:
     /// Room above the drop row for the numbers of its columns, in units.
     static constexpr int numberRoom = 120;
 
-    explicit BoardGeometry(int headRoom = 0) : headRoom_(headRoom) {}
+    /// Room between the drop row and the board for a line of text, in units.
+    static constexpr int hintRoom = 270;
+
+    explicit BoardGeometry(int headRoom = 0, int middleRoom = 0) : headRoom_(headRoom), middleRoom_(middleRoom) {}
 
     /// Fits the largest board into `room`. `ratio` is device pixels per logical pixel.
     void fit(QSizeF room, double ratio);
@@ -40,14 +43,20 @@ public:
         return tilePlace(control, control.Left(), control.Top());
     }
 
+    /// Between the drop row and the board.
+    [[nodiscard]] QRectF hintPlace() const;
+
     /// The strip behind the drop row.
     [[nodiscard]] QRectF strip() const;
 
     /// The size of a board with cells of this size.
-    static QSizeF sizeFor(double cell, int headRoom = 0);
+    [[nodiscard]] QSizeF sizeFor(double cell) const;
 
 private:
+    [[nodiscard]] double lowered(int top) const;
+
     int headRoom_;
+    int middleRoom_;
     double cell_ = 0;
     double ratio_ = 1;
 };

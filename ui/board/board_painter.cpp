@@ -15,6 +15,7 @@ namespace
 // As fractions of a cell.
 constexpr double slotRadius = 0.08;
 constexpr double numberShare = 0.2;
+constexpr double hintShare = 0.28;
 
 /// A control as it looks while it is pressed.
 BoxControl heldDown(BoxControl control)
@@ -54,6 +55,8 @@ void BoardPainter::paint(QPainter& painter, const BoardMarks& marks, const QRect
     paintPanel(painter);
     if (marks.numbersColumns)
         paintNumbers(painter);
+    if (!marks.hint.isEmpty())
+        paintHint(painter, marks.hint);
     if (marks.cursor != BoardSpot{})
         paintCursor(painter, placeOf(marks.cursor));
 }
@@ -68,6 +71,22 @@ void BoardPainter::paintNumbers(QPainter& painter) const
         painter.drawText(QRectF(waiting.left(), 0, waiting.width(), waiting.top()), Qt::AlignCenter,
                          QString::number(col));
     }
+}
+
+void BoardPainter::paintHint(QPainter& painter, const QString& hint) const
+{
+    const QRectF place = shape_.hintPlace();
+    painter.setFont(Theme::font(std::min(15.0, shape_.cell() * hintShare), true));
+    const QRectF text = painter.boundingRect(place, Qt::AlignCenter, hint);
+    const QRectF bubble = text.adjusted(-Theme::gap, -2, Theme::gap, 2).intersected(place);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(toQColor(theme_.colours().accent));
+    painter.drawRoundedRect(bubble, bubble.height() / 2, bubble.height() / 2);
+    painter.setPen(toQColor(theme_.colours().accentText));
+    painter.drawText(place, Qt::AlignCenter, hint);
+    painter.restore();
 }
 
 /// A ring around the cell, with a gap, so that it is seen on any face.

@@ -5,6 +5,8 @@
 #include "ui/board/board_geometry.hpp"
 #include "ui/board/tile_painter.hpp"
 
+#include <QString>
+
 #include <vector>
 
 namespace lexigrove
@@ -20,6 +22,7 @@ struct BoardMarks {
     bool numbersColumns = false;
     int redDistance = 0; ///< pushes until the nearest red tile is out, 0 for none; it stands on each that is as near
     BoardSpot cursor;
+    QString hint;     ///< between the drop row and the board
     BoardSpot lifted; ///< under the pointer
     BoardSpot pressed;
     bool operator==(const BoardMarks&) const = default;
@@ -50,6 +53,7 @@ private:
     void paintLinks(QPainter& painter, const std::vector<int>& path) const;
     void paintPanel(QPainter& painter) const;
     void paintNumbers(QPainter& painter) const;
+    void paintHint(QPainter& painter, const QString& hint) const;
     void paintCursor(QPainter& painter, const QRectF& place) const;
 
     const Board& board_;

@@ -33,7 +33,7 @@ void BoardPicture::show(const BoardPosition& position, const std::vector<int>& p
 QSize BoardPicture::sizeHint() const
 {
     constexpr double cell = 42;
-    return BoardGeometry::sizeFor(cell).toSize();
+    return shape_.sizeFor(cell).toSize();
 }
 
 void BoardPicture::paintEvent(QPaintEvent* event)

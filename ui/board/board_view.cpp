@@ -17,12 +17,14 @@
 namespace lexigrove
 {
 
-BoardView::BoardView(GameFlow& flow, const Theme& theme, QWidget* parent)
+BoardView::BoardView(GameFlow& flow, Host& host, QWidget* parent)
     : QWidget(parent),
       flow_(flow),
-      theme_(theme),
+      theme_(host.theme),
       board_(flow.view().board),
-      painter_(board_, shape_, theme),
+      firstSteps_(flow, host.settings),
+      shape_(BoardGeometry::numberRoom, firstSteps_.areLeft() ? BoardGeometry::hintRoom : 0),
+      painter_(board_, shape_, host.theme),
       cursor_(board_)
 {
     setObjectName("Picture1");
@@ -82,7 +84,7 @@ QRectF BoardView::placeOf(const BoardSpot& spot) const
 
 // ---- The models
 
-BoardMarks BoardView::currentMarks() const
+BoardMarks BoardView::currentMarks()
 {
     BoardMarks marks;
     marks.swapTile = flow_.view().letterSwap.tile();
@@ -103,6 +105,7 @@ BoardMarks BoardView::currentMarks() const
     marks.numbersColumns = flow_.inGame();
     marks.redDistance = redDistance();
     marks.cursor = cursor();
+    marks.hint = firstSteps_.next();
     return marks;
 }
 

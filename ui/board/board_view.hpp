@@ -3,6 +3,8 @@
 #include "flow/game_flow.hpp"
 #include "game/board.hpp"
 #include "ui/board/board_painter.hpp"
+#include "ui/board/first_steps.hpp"
+#include "ui/machine/host.hpp"
 
 #include <QWidget>
 
@@ -21,7 +23,7 @@ class BoardView : public QWidget
     Q_OBJECT
 
 public:
-    BoardView(GameFlow& flow, const Theme& theme, QWidget* parent = nullptr);
+    BoardView(GameFlow& flow, Host& host, QWidget* parent = nullptr);
 
     /// Repaints whatever has changed.
     void synchronise();
@@ -66,14 +68,15 @@ private:
     void setSpot(BoardSpot& spot, BoardSpot value);
     void press(const BoardSpot& spot, MouseButton button, bool shift);
     [[nodiscard]] int redDistance() const;
-    [[nodiscard]] BoardMarks currentMarks() const;
+    [[nodiscard]] BoardMarks currentMarks();
     void repaintIfChanged(const BoxControl& control, Shown& shown);
     [[nodiscard]] bool takesInput() const;
 
     GameFlow& flow_;
     const Theme& theme_;
     const Board& board_;
-    BoardGeometry shape_{BoardGeometry::numberRoom};
+    FirstSteps firstSteps_;
+    BoardGeometry shape_;
     BoardPainter painter_;
     BoardCursor cursor_;
     bool cursorShown_ = false;

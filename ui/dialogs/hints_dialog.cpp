@@ -46,6 +46,8 @@ public:
         column->addWidget(WordsMade_, 1);
         column->addLayout(newButtonRow({Select_, Meaning_, Close_}));
         WordsMade_->setFocus();
+        if (form_.WordsMade.Rows() > 1)
+            form_.pickRow(1);
         showForm();
         placeBesideBoard();
     }

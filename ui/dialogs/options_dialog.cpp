@@ -286,7 +286,7 @@ private:
             host.settings.setPace(static_cast<SettingsFile::Pace>(pace));
             paceChosen_ = true;
         });
-        auto* const caption = new QLabel(tr("&Pace of the animation"));
+        auto* const caption = new QLabel(tr("Pace of the animation"));
         caption->setBuddy(pace_);
         row->addWidget(pauses);
         row->addStretch(1);

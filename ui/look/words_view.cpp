@@ -16,6 +16,7 @@ namespace
 
 constexpr int cellTextSize = 13;
 constexpr int heightOfRow = 3 * Theme::grid;
+const char* const spokenHeadings[WordsGrid::columnCount] = {"Number", "Score", "Length", "Word"};
 
 /// Where a column begins, in the grid's units; that of the column after the last one is the grid's width.
 int leftOf(int column)
@@ -124,6 +125,8 @@ public:
         switch (role) {
         case Qt::DisplayRole:
             return toQString(grid_.text(0, section));
+        case Qt::ToolTipRole:
+            return QObject::tr("%1: click or press Ctrl+%2 to sort").arg(spokenHeadings[section]).arg(section + 1);
         case Qt::TextAlignmentRole:
             return alignmentOf(section);
         case Qt::ForegroundRole:
@@ -241,7 +244,11 @@ void WordsView::keyPressEvent(QKeyEvent* event)
             event->ignore();
         return;
     default:
-        event->ignore(); // letters are for the board
+        const int column = event->key() - Qt::Key_1;
+        if (event->modifiers() == Qt::ControlModifier && column >= 0 && column < WordsGrid::columnCount)
+            emit headingClicked(leftOf(column));
+        else
+            event->ignore(); // letters are for the board
     }
 }
 

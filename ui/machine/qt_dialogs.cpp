@@ -2,9 +2,11 @@
 
 #include "ui/look/text.hpp"
 
+#include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QShortcut>
 
 #include <algorithm>
 
@@ -55,6 +57,25 @@ std::string QtDialogs::input(const std::string& title, const std::string& prompt
     box.setTextValue(toQString(defaultAnswer));
     box.resize(std::max(box.sizeHint().width(), 56 * Theme::grid), box.sizeHint().height());
     return host_.gate.exec(box) == QDialog::Accepted ? fromQString(box.textValue()) : std::string();
+}
+
+std::optional<std::string> QtDialogs::inputOrHelp(const std::string& title, const std::string& prompt)
+{
+    constexpr int helpWanted = 2; // neither accepted nor rejected
+    QInputDialog box(host_.dialogParent());
+    box.setWindowTitle(toQString(title));
+    box.setLabelText(withNewlines(prompt) + "\n\n" + QInputDialog::tr("Looking for help? Press F1 again"));
+    box.resize(box.sizeHint()); // makes the buttons
+    const auto help = [&box] { box.done(helpWanted); };
+    if (auto* const buttons = box.findChild<QDialogButtonBox*>()) {
+        buttons->addButton(QDialogButtonBox::Help);
+        QObject::connect(buttons, &QDialogButtonBox::helpRequested, &box, help);
+    }
+    QObject::connect(new QShortcut(Qt::Key_F1, &box), &QShortcut::activated, &box, help);
+    const int answer = host_.gate.exec(box);
+    if (answer == helpWanted)
+        return std::nullopt;
+    return answer == QDialog::Accepted ? fromQString(box.textValue()) : std::string();
 }
 
 std::string QtDialogs::openFile(const OpenFileRequest& request)

@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QSettings>
+#include <QString>
 
 #include <string>
 
@@ -27,6 +28,10 @@ public:
     void setPace(Pace pace);
     /// The drop-animation delay of a pace, in rounds.
     [[nodiscard]] static int delayOf(Pace pace);
+
+    /// Whether a hint of the first games was followed.
+    [[nodiscard]] bool isHintDone(const char* name) const { return file_.value(QString("hints/") + name).toBool(); }
+    void setHintDone(const char* name) { file_.setValue(QString("hints/") + name, true); }
 
     /// The main window's place and size in the toolkit's own form; empty before they were kept.
     [[nodiscard]] QByteArray windowPlace() const { return file_.value("window/place").toByteArray(); }

@@ -5,6 +5,7 @@
 #include "flow/game_flow.hpp"
 #include "ui/machine/mouse.hpp"
 
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QVBoxLayout>
@@ -49,7 +50,8 @@ ClockFrame::ClockFrame(GameFlow& flow, const Theme& theme, QWidget* parent)
     : QWidget(parent), flow_(flow), theme_(theme), view_(new ClockView(flow, this))
 {
     setObjectName("Frame10");
-    setToolTip(tr("Click for thicker digits, right-click for another colour"));
+    setToolTip(tr("Click (Space) for thicker digits, right-click (Shift+Space) for another colour"));
+    setFocusPolicy(Qt::TabFocus);
     auto* const room = new QVBoxLayout(this);
     room->setContentsMargins(Theme::grid, Theme::grid, Theme::grid, Theme::grid);
     room->addWidget(view_);
@@ -77,6 +79,16 @@ void ClockFrame::paintEvent(QPaintEvent* /*event*/)
     QPainter painter(this);
     const bool themed = background.fill != theme_.colours().background; // otherwise the line shows where the clock is
     Theme::paintCard(painter, rect(), background.fill, themed ? background.border : theme_.colours().line);
+    if (hasFocus())
+        Theme::paintCard(painter, rect(), background.fill, theme_.colours().text, 2);
+}
+
+void ClockFrame::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() != Qt::Key_Space)
+        return QWidget::keyPressEvent(event);
+    const bool shift = event->modifiers().testFlag(Qt::ShiftModifier);
+    flow_.releaseClockFrame(shift ? MouseButton::Right : MouseButton::Left);
 }
 
 void ClockFrame::mouseReleaseEvent(QMouseEvent* event)

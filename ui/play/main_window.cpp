@@ -22,7 +22,7 @@ MainWindow::MainWindow(Host& host, GameFlow& flow, const StatusLine& status) : h
     setObjectName("MainWindow");
     host_.theme.apply(flow_.view().scheme); // before the widgets, so that each is styled only once
     auto* centre = new QWidget(this);
-    area_ = new PlayArea(flow, host.theme, centre);
+    area_ = new PlayArea(flow, host, centre);
     status_ = new StatusLineView(status, flow, host.theme, centre);
     auto* column = new QVBoxLayout(centre);
     column->setContentsMargins(0, 0, 0, 0);

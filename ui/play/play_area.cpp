@@ -48,9 +48,10 @@ QLabel* newNumber(const char* name, const QString& caption, const QString& toolT
 
 } // namespace
 
-PlayArea::PlayArea(GameFlow& flow, const Theme& theme, QWidget* parent)
-    : QWidget(parent), board(new BoardView(flow, theme, this)), flow_(flow), side_(new QWidget(this))
+PlayArea::PlayArea(GameFlow& flow, Host& host, QWidget* parent)
+    : QWidget(parent), board(new BoardView(flow, host, this)), flow_(flow), side_(new QWidget(this))
 {
+    const Theme& theme = host.theme;
     clock = new ClockFrame(flow, theme, side_);
     yourScore_ = newNumber("YourScore", tr("Your score"), tr("Points that you have scored"));
     compScore_ = newNumber("CompScore", tr("Computer"), tr("Points that the computer has scored"));
@@ -94,13 +95,13 @@ void PlayArea::buildSide()
 
 QSize PlayArea::sizeHint() const
 {
-    const QSize boardSize = BoardGeometry::sizeFor(usualCell, BoardGeometry::numberRoom).toSize();
+    const QSize boardSize = board->geometryOfBoard().sizeFor(usualCell).toSize();
     return {boardSize.width() + 62 * Theme::grid + 3 * Theme::margin, boardSize.height() + Theme::margin + topMargin};
 }
 
 QSize PlayArea::minimumSizeHint() const
 {
-    const QSize boardSize = BoardGeometry::sizeFor(smallestCell, BoardGeometry::numberRoom).toSize();
+    const QSize boardSize = board->geometryOfBoard().sizeFor(smallestCell).toSize();
     const int height = std::max(boardSize.height(), side_->minimumSizeHint().height());
     return {boardSize.width() + sideMinimum + 3 * Theme::margin, height + Theme::margin + topMargin};
 }
@@ -111,7 +112,7 @@ void PlayArea::resizeEvent(QResizeEvent* /*event*/)
 {
     const int height = this->height() - Theme::margin - topMargin;
     const int width = this->width() - 3 * Theme::margin;
-    BoardGeometry shape{BoardGeometry::numberRoom};
+    BoardGeometry shape = board->geometryOfBoard();
     shape.fit(QSizeF(width - sideMinimum, height), devicePixelRatioF());
     const QSizeF boardSize = shape.size();
     const int boardWidth = static_cast<int>(std::ceil(boardSize.width()));

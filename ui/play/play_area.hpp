@@ -22,7 +22,7 @@ class PlayArea : public QWidget
     Q_OBJECT
 
 public:
-    PlayArea(GameFlow& flow, const Theme& theme, QWidget* parent);
+    PlayArea(GameFlow& flow, Host& host, QWidget* parent);
 
     void synchronise();
 
