@@ -289,6 +289,7 @@ void GameFlow::loseGame(int col)
     parts_->game.redTiles.pushOutRedTile(col);
     parts_->ports.status.show("A red tile was pushed out. Game over.");
     parts_->ports.screen.yield();
+    parts_->ports.screen.showEnd("A red tile was pushed out", parts_->game.state.yourScore);
     endOfGame(GameEnd::Lost);
 }
 
@@ -325,6 +326,7 @@ void GameFlow::clockExpired()
     parts_->game.letterSwap.cancel();
     parts_->ports.dialogs.message("Game over\r\n5 minutes have elapsed");
     showWinner(parts_->game.state, parts_->ports.status);
+    parts_->ports.screen.showEnd(parts_->ports.status.Label1, parts_->game.state.yourScore);
     endOfGame(GameEnd::ClockExpired);
 }
 

@@ -12,9 +12,9 @@ namespace lexigrove
 /// std::filesystem::filesystem_error.
 void syncInstalledFiles(const std::string& installed, const std::string& target);
 
-/// Copies the files of the installed folder's subfolder "first", with which a new player's folder begins, where they are
-/// missing: a configuration and a score list. Whoever removes them later gets what the game does without them. Throws
-/// as above.
+/// Copies the files of the installed folder's subfolder "first", with which a new player's folder begins, where they
+/// are missing: a configuration and a score list. Whoever removes them later gets what the game does without them.
+/// Throws as above.
 void placeFirstFiles(const std::string& installed, const std::string& target);
 
 } // namespace lexigrove

@@ -33,6 +33,10 @@ public:
     /// Must not throw. The text on the clipboard in UTF-8, empty where there is none.
     [[nodiscard]] virtual std::string copiedText() const = 0;
 
+    /// The game is over: a front end with a picture makes it a moment before the questions come. `reason` and `score`
+    /// are the player's.
+    virtual void showEnd(const std::string& /*reason*/, int /*score*/) {}
+
     /// Must not throw. An input was refused: a front end with a picture shows it.
     virtual void refuse() {}
 

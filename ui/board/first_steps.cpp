@@ -84,8 +84,11 @@ void FirstSteps::noteWhatWasFollowed()
 
 QString FirstSteps::next()
 {
+    if (flow_.isBusy())
+        return shown_; // tiles come and go while letters slide
+    shown_ = {};
     if (!flow_.inGame() || !areLeft())
-        return {};
+        return shown_;
     noteWhatWasFollowed();
     using enum Step;
     const GameView& view = flow_.view();
@@ -96,9 +99,11 @@ QString FirstSteps::next()
     };
     for (const auto& [step, helps] : steps) {
         if (helps && !isDone(step))
-            return QCoreApplication::translate("BoardView", stepTexts[static_cast<int>(step)].text);
+            shown_ = QCoreApplication::translate("BoardView", stepTexts[static_cast<int>(step)].text);
+        if (!shown_.isEmpty())
+            break;
     }
-    return {};
+    return shown_;
 }
 
 } // namespace lexigrove

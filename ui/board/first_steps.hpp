@@ -31,6 +31,7 @@ private:
 
     const GameFlow& flow_;
     SettingsFile& settings_;
+    QString shown_;
     int tilesBefore_ = 0;
     bool hadRedTile_ = false;
     bool hadBonusTile_ = false;

@@ -37,6 +37,9 @@ signals:
     void inputEnded();
     /// A letter was typed that cannot follow.
     void inputRefused();
+    /// The rules wait for any key or mouse button, or no longer do.
+    void waitingChanged(bool waits);
+    void gameOver(const QString& reason, int score);
 };
 
 } // namespace lexigrove

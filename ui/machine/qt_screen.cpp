@@ -1,10 +1,13 @@
 #include "ui/machine/qt_screen.hpp"
 
+#include "ui/look/text.hpp"
+
 #include <QApplication>
 #include <QClipboard>
 #include <QEventLoop>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QScopeGuard>
 #include <QScopedValueRollback>
 #include <QTimer>
 
@@ -77,6 +80,18 @@ void QtScreen::waitForAnyInput()
     emit host_.modelsChanged();
     QEventLoop loop;
     const QScopedValueRollback waiting(waiting_, &loop);
+    emit host_.waitingChanged(true);
+    const auto over = qScopeGuard([this] { emit host_.waitingChanged(false); });
+    host_.gate.exec(loop);
+}
+
+void QtScreen::showEnd(const std::string& reason, int score)
+{
+    constexpr auto momentLength = 1'600ms;
+    emit host_.modelsChanged();
+    emit host_.gameOver(toQString(reason), score);
+    QEventLoop loop;
+    QTimer::singleShot(momentLength, &loop, &QEventLoop::quit);
     host_.gate.exec(loop);
 }
 

@@ -36,6 +36,7 @@ public:
 
     void copyText(const std::string& text) override;
     [[nodiscard]] std::string copiedText() const override;
+    void showEnd(const std::string& reason, int score) override;
     void refuse() override { emit host_.inputRefused(); }
     void inputEnded() override { emit host_.inputEnded(); }
 

@@ -69,6 +69,15 @@ PlayArea::PlayArea(GameFlow& flow, Host& host, QWidget* parent)
     boardCover_ = new PauseCover(theme, tr("Click here to resume"), this);
     wordsCover_ = new PauseCover(theme, {}, this);
     wordsCover_->setObjectName("PauseCoverOfWords");
+    waits_ = new Banner(theme, "AnyKey", this);
+    end_ = new Banner(theme, "End", this);
+    connect(&host, &Host::waitingChanged, this, [this](bool waits) {
+        if (waits)
+            waits_->tell(tr("Press any key to continue"));
+        else
+            waits_->hide();
+    });
+    connect(&host, &Host::gameOver, end_, [this](const QString& reason, int score) { end_->tell(reason, score); });
     for (const PauseCover* cover : {boardCover_, wordsCover_}) {
         connect(cover, &PauseCover::clicked, this, [this] {
             if (flow_.isPaused())
@@ -131,6 +140,9 @@ void PlayArea::placeCovers()
     side_->layout()->activate();
     boardCover_->setGeometry(board->geometry());
     wordsCover_->setGeometry(words->geometry().translated(side_->pos()));
+    waits_->setGeometry(board->geometryOfBoard().strip().toAlignedRect().translated(board->pos()));
+    const int height = board->height() / 3;
+    end_->setGeometry(board->geometry().adjusted(Theme::margin, height, -Theme::margin, -height));
 }
 
 void PlayArea::synchronise()
@@ -145,6 +157,8 @@ void PlayArea::synchronise()
     word->synchronise();
     buttons->synchronise();
     words->synchronise();
+    if (!flow_.inGame())
+        end_->hide();
     showPause();
 }
 

@@ -3,6 +3,7 @@
 #include "flow/game_flow.hpp"
 #include "ui/board/board_view.hpp"
 #include "ui/look/words_view.hpp"
+#include "ui/play/banner.hpp"
 #include "ui/play/button_panel.hpp"
 #include "ui/play/clock_view.hpp"
 #include "ui/play/pause_cover.hpp"
@@ -48,6 +49,8 @@ private:
     QLabel* yourScore_;
     QLabel* compScore_;
     QLabel* tilesLeft_;
+    Banner* waits_; ///< over the drop row: any key goes on
+    Banner* end_;   ///< over the board: why the game is over
     PauseCover* boardCover_;
     PauseCover* wordsCover_;
 };
