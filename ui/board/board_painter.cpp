@@ -2,6 +2,7 @@
 
 #include "settings/readable_colours.hpp"
 
+#include <QFontMetricsF>
 #include <QPainter>
 
 #include <algorithm>
@@ -76,7 +77,9 @@ void BoardPainter::paintNumbers(QPainter& painter) const
 void BoardPainter::paintHint(QPainter& painter, const QString& hint) const
 {
     const QRectF place = shape_.hintPlace();
-    painter.setFont(Theme::font(std::min(15.0, shape_.cell() * hintShare), true));
+    const double wanted = std::min(15.0, shape_.cell() * hintShare);
+    const double width = QFontMetricsF(Theme::font(wanted, true)).horizontalAdvance(hint) + 2 * Theme::gap;
+    painter.setFont(Theme::font(std::min(wanted, wanted * place.width() / width), true));
     const QRectF text = painter.boundingRect(place, Qt::AlignCenter, hint);
     const QRectF bubble = text.adjusted(-Theme::gap, -2, Theme::gap, 2).intersected(place);
     painter.save();

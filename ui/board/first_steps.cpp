@@ -20,7 +20,7 @@ constexpr StepText stepTexts[] = {
     {"touching-letters", QT_TRANSLATE_NOOP("BoardView", "Click letters that touch, or type a word")},
     {"enter", QT_TRANSLATE_NOOP("BoardView", "Press Enter to enter the word")},
     {"waiting-letter", QT_TRANSLATE_NOOP("BoardView", "Click a waiting letter over a gap: it drops in")},
-    {"red-tile", QT_TRANSLATE_NOOP("BoardView", "Use the red tile in a word before it sinks out of its column")},
+    {"red-tile", QT_TRANSLATE_NOOP("BoardView", "Use the red tile in a word before it sinks out")},
     {"bonus-tile", QT_TRANSLATE_NOOP("BoardView", "A word over the coloured tile scores double or more")},
 };
 

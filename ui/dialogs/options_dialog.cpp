@@ -225,7 +225,10 @@ private:
     QGroupBox* newComputerFrame()
     {
         QGroupBox* const box = newFrame(form_.ComputerFrame);
-        box->layout()->addWidget(newChoice<QCheckBox>(form_.Check1));
+        auto* const yes = newChoice<QCheckBox>(form_.Check1);
+        yes->setAccessibleName(toQString(form_.ComputerFrame.Caption)); // "YES" says nothing alone
+        yes->setToolTip(toQString(form_.ComputerFrame.ToolTipText));
+        box->layout()->addWidget(yes);
         return box;
     }
 
@@ -242,6 +245,8 @@ private:
     void setUpSchemeBox()
     {
         Combo1_->setObjectName("Combo1");
+        Combo1_->setAccessibleName(toQString(form_.SchemeFrame.Caption));
+        Combo1_->setToolTip(tr("The colours of everything: each file is a scheme"));
         Combo1_->setPlaceholderText(pathToQString(form_.Combo1.Text));
         Combo1_->setIconSize(SchemePreview::iconSize);
         for (const std::string& name : form_.Combo1.list) {
@@ -261,9 +266,11 @@ private:
     void setUpUserDictionary()
     {
         UsrDictName_->setObjectName("UsrDictName");
+        UsrDictName_->setAccessibleName(tr("File of your own dictionary"));
         connect(UsrDictName_, &QLineEdit::textEdited, this,
                 [this](const QString& text) { input([&] { form_.typeUserDictName(pathFromQString(text)); }); });
         GetUserDictName_->setObjectName("GetUserDictName");
+        GetUserDictName_->setAccessibleName(tr("Choose the file of your own dictionary"));
         connect(GetUserDictName_, &QAbstractButton::clicked, this,
                 [this] { input([this] { form_.browseUserDictionary(); }); });
     }
@@ -279,6 +286,7 @@ private:
         pauses->setChecked(host.settings.pausesWhenLeft());
         connect(pauses, &QCheckBox::toggled, this, [this](bool on) { host.settings.setPausesWhenLeft(on); });
         pace_->setObjectName("Pace");
+        pace_->setAccessibleName(tr("Pace of the animation"));
         pace_->addItems({tr("Slow"), tr("Medium"), tr("Fast")});
         pace_->setCurrentIndex(static_cast<int>(host.settings.pace()));
         pace_->setToolTip(tr("How fast letters move with \"Animation\""));

@@ -55,6 +55,9 @@ public:
         inTick_ = outer;
     }
 
+    /// Whether a timer is what runs.
+    [[nodiscard]] bool inTick() const { return inTick_; }
+
     /// Runs a dialog slot's action on a model that may ask a question or yield.
     template <std::invocable Action>
     void run(Action action)

@@ -2,6 +2,7 @@
 
 #include "ui/look/text.hpp"
 
+#include <QAbstractButton>
 #include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QInputDialog>
@@ -45,6 +46,10 @@ bool QtDialogs::confirm(const std::string& text)
     box.setTextFormat(Qt::PlainText);
     box.setDefaultButton(QMessageBox::Yes);
     box.setEscapeButton(QMessageBox::No);
+    if (host_.gate.inTick()) { // whoever types a word is not offered letters
+        for (QAbstractButton* const button : box.buttons())
+            button->setText(button->text().remove(u'&'));
+    }
     return host_.gate.exec(box) == QMessageBox::Yes;
 }
 
