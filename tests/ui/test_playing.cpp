@@ -278,6 +278,14 @@ TEST_F(Course, TheKeyboardAloneIsEnough)
     for (const Qt::Key key : {Qt::Key_Up, Qt::Key_Up, Qt::Key_Up, Qt::Key_Up, Qt::Key_Space})
         QTest::keyClick(&board(), key);
     EXPECT_TRUE(view().board.isVisible(9)) << "dropped from the row on top";
+
+    const auto answer = [](QDialog&) { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return); };
+    script.in("QMessageBox", answer);
+    script.in("Form7", answer);
+    key(Qt::Key_N, Qt::ControlModifier);
+    EXPECT_EQ(shown("YourScore"), "0");
+    key(Qt::Key_Q, Qt::ControlModifier);
+    EXPECT_TRUE(flow().ended());
 }
 
 // Guards an animation from what the player does meanwhile, and the player who closes the window from waiting for it.
