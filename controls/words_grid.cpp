@@ -42,6 +42,7 @@ WordsGrid& WordsGrid::operator=(const WordsGrid& other)
 {
     rows_ = other.rows_;
     row_ = other.row_;
+    sortedColumn_ = other.sortedColumn_;
     Tag = other.Tag;
     ++revision_;
     return *this;
@@ -49,20 +50,21 @@ WordsGrid& WordsGrid::operator=(const WordsGrid& other)
 
 void WordsGrid::clear()
 {
-    rows_.clear();
-    setCurrent(0);
+    assign({});
 }
 
 void WordsGrid::add(WordsRow row)
 {
     row.number = Rows();
     rows_.push_back(std::move(row));
+    sortedColumn_ = -1;
     ++revision_;
 }
 
 void WordsGrid::assign(std::vector<WordsRow> rows)
 {
     rows_ = std::move(rows);
+    sortedColumn_ = -1;
     setCurrent(0);
 }
 
@@ -72,6 +74,7 @@ void WordsGrid::insertOnTop(WordsRow row)
     rows_.insert(rows_.begin(), std::move(row));
     if (row_ > 0)
         ++row_;
+    sortedColumn_ = -1;
     ++revision_;
 }
 
@@ -132,6 +135,7 @@ void WordsGrid::headingClicked(int x)
     if (current > 0) // no two rows have the same number
         row_ = static_cast<int>(std::ranges::find(rows_, current, &WordsRow::number) - rows_.begin()) + 1;
     Tag = descending ? "D" : "A";
+    sortedColumn_ = column;
     ++revision_;
 }
 

@@ -86,6 +86,9 @@ public:
     /// The sort mark: "A", "D", or empty before the first sort.
     std::string Tag;
 
+    /// The column by which the rows stand sorted, in the direction of the mark; -1 if rows came in after the sort.
+    [[nodiscard]] int sortedColumn() const { return sortedColumn_; }
+
     /// Increases with every visible change: a front end refills its table when it differs.
     [[nodiscard]] std::uint32_t revision() const { return revision_; }
 
@@ -98,6 +101,7 @@ public:
 private:
     std::vector<WordsRow> rows_; ///< without the heading
     int row_ = 0;
+    int sortedColumn_ = -1;
     std::uint32_t revision_ = 0;
 };
 

@@ -34,6 +34,18 @@ struct ChartText {
     int pointSize;
 };
 
+/// The chart's colours; a front end may paint others in their place. The first four have a number in the sixteen-colour
+/// palette.
+namespace chart_colour
+{
+inline constexpr Colour provided = rgb(0, 0, 0);    ///< 0, black
+inline constexpr Colour used = rgb(255, 0, 0);      ///< 12, light red
+inline constexpr Colour numbers = rgb(255, 255, 0); ///< 14, yellow
+inline constexpr Colour frame = rgb(255, 255, 255); ///< 15, white
+inline constexpr Colour background = rgb(120, 120, 120);
+inline constexpr Colour letters = rgb(220, 220, 220);
+} // namespace chart_colour
+
 /// What `Picture1` of the statistics window shows: items in the order in which they are painted over the background.
 /// All places are in units of 1/1440 inch, with y increasing downwards. Whatever runs past the picture's edge is
 /// clipped.

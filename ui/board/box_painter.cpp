@@ -116,7 +116,8 @@ void BoxPainter::paintFace(QPainter& painter, const BoxControl& control, const Q
     painter.restore();
 }
 
-void BoxPainter::paintCaption(QPainter& painter, const BoxControl& control, const QRectF& place, double pixelSize) const
+void BoxPainter::paintCaption(QPainter& painter, const BoxControl& control, const QRectF& place, double pixelSize,
+                              const QRectF& taken) const
 {
     if (control.Caption().empty())
         return;
@@ -132,7 +133,10 @@ void BoxPainter::paintCaption(QPainter& painter, const BoxControl& control, cons
     const double height = metrics.capHeight();
     const ExactPoint at = control.captionPlace(
         {static_cast<int>(std::lround(width / shape.scale())), static_cast<int>(std::lround(height / shape.scale()))});
-    const QPointF corner = shape.inner().topLeft() + QPointF(at.x, at.y) * shape.scale();
+    QPointF corner = shape.inner().topLeft() + QPointF(at.x, at.y) * shape.scale();
+    const QRectF ink = metrics.tightBoundingRect(caption).translated(corner.x(), corner.y() + height);
+    if (ink.intersects(taken)) // the tail of a Q
+        corner.ry() -= ink.bottom() - taken.top();
     painter.setFont(font);
     painter.setPen(theme_.colour(control.ForeColor()));
     painter.drawText(QPointF(shape.snap(corner.x()), shape.snap(corner.y() + height)), caption);

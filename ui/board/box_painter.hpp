@@ -21,8 +21,9 @@ public:
     void paintFace(QPainter& painter, const BoxControl& control, const QRectF& place, bool lifted = false) const;
 
     /// The caption in its place, bold if the control says so. `pixelSize` is the letter's height in logical pixels; 0
-    /// means the control's own font size.
-    void paintCaption(QPainter& painter, const BoxControl& control, const QRectF& place, double pixelSize = 0) const;
+    /// means the control's own font size. A caption whose ink would touch `taken` moves up until it does not.
+    void paintCaption(QPainter& painter, const BoxControl& control, const QRectF& place, double pixelSize = 0,
+                      const QRectF& taken = {}) const;
 
     /// The colour with which the face is painted, lifted or not.
     [[nodiscard]] Colour faceColour(const BoxControl& control, bool lifted) const;

@@ -4,6 +4,7 @@
 #include "game/board.hpp"
 #include "settings/readable_colours.hpp"
 
+#include <QFontMetricsF>
 #include <QLineF>
 #include <QPainter>
 #include <QPolygonF>
@@ -20,6 +21,7 @@ namespace
 constexpr double letterShare = 0.52;
 constexpr double smallShare = 0.21; ///< value and mark
 constexpr double marginShare = 0.09;
+constexpr double gapShare = 0.015; ///< between letter and value
 constexpr double linkShare = 0.11;
 constexpr double linkReach = 0.14; ///< of the tiles' distance, from the middle between them to each end
 
@@ -30,19 +32,24 @@ void TilePainter::paintLetter(QPainter& painter, const BoxControl& tile, const Q
     if (tile.Caption().empty())
         return;
     const double size = place.width();
-    box_.paintCaption(painter, tile, place, size * letterShare);
-
-    const QColor letter = theme_.colour(tile.ForeColor());
     const double margin = size * marginShare;
-    const QRectF inside = place.adjusted(margin, margin * 0.6, -margin, -margin * 0.6);
-    painter.setPen(letter);
-    painter.setFont(Theme::font(size * smallShare));
-    painter.drawText(inside, Qt::AlignRight | Qt::AlignBottom, QString::number(letterValue(tile.Caption().front())));
+    const QRectF inside = place.adjusted(margin, margin * 0.85, -margin, -margin * 0.85);
+    const QFont valueFont = Theme::font(size * smallShare);
+    const QFontMetricsF metrics(valueFont);
+    const QString value = QString::number(letterValue(tile.Caption().front()));
+    const double left = inside.right() - metrics.horizontalAdvance(value);
+    const double gap = size * gapShare;
+    const QRectF taken(QPointF(left - gap, inside.bottom() - metrics.capHeight() - gap), inside.bottomRight());
+    box_.paintCaption(painter, tile, place, size * letterShare, taken);
+
+    painter.setPen(theme_.colour(tile.ForeColor()));
+    painter.setFont(valueFont);
+    painter.drawText(QPointF(left, inside.bottom()), value);
 
     const Colour mark = tile.MaskColor();
     if (multiplier::isBonus(mark)) {
         painter.setFont(Theme::font(size * smallShare, true));
-        painter.drawText(inside, Qt::AlignLeft | Qt::AlignTop, QString::number(mark) + QChar(u'\u00D7'));
+        painter.drawText(inside.topLeft() + QPointF(0, metrics.capHeight()), QString::number(mark) + QChar(u'\u00D7'));
     } else if (mark == multiplier::red) {
         paintRedMark(painter, inside);
     }
@@ -52,7 +59,7 @@ void TilePainter::paintLetter(QPainter& painter, const BoxControl& tile, const Q
 void TilePainter::paintRedMark(QPainter& painter, const QRectF& place) const
 {
     const double size = std::max(6.0, place.width() * smallShare);
-    const QPointF corner = place.topLeft() + QPointF(0, size * 0.3);
+    const QPointF corner = place.topLeft() + QPointF(0, size * 0.15);
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setBrush(painter.pen().color());

@@ -1,8 +1,8 @@
 #include "ui/dialogs/chart_view.hpp"
 
 #include "controls/geometry.hpp"
+#include "settings/readable_colours.hpp"
 #include "ui/look/text.hpp"
-#include "ui/look/theme.hpp"
 
 #include <QFontInfo>
 #include <QFontMetricsF>
@@ -31,10 +31,28 @@ QFont chartFontOf(const std::string& name, int pointSize)
     return font;
 }
 
+/// What is painted in place of one of the chart's own colours: every bar and text reads on the card.
+QColor paintedColour(Colour colour, const Theme& theme)
+{
+    const WindowColours& colours = theme.colours();
+    switch (colour) {
+    case chart_colour::used:
+        return toQColor(
+            shadeFor(theme.scheme().tileFace(multiplier::red), colours.card, colours.card, minimumContrast));
+    case chart_colour::numbers:
+    case chart_colour::letters:
+        return toQColor(colours.cardQuietText);
+    case chart_colour::frame:
+        return toQColor(colours.line);
+    default:
+        return toQColor(colours.cardText);
+    }
+}
+
 class ChartPainter
 {
 public:
-    explicit ChartPainter(QPainter& painter) : painter_(painter) {}
+    ChartPainter(QPainter& painter, const Theme& theme) : painter_(painter), theme_(theme) {}
 
     void operator()(const ChartLine& line) const
     {
@@ -50,7 +68,7 @@ public:
 
     void operator()(const ChartText& text) const
     {
-        painter_.setPen(toQColor(text.colour));
+        painter_.setPen(paintedColour(text.colour, theme_));
         painter_.setFont(chartFontOf(text.font, text.pointSize));
         const QPointF corner = place(text.x, text.y);
         painter_.drawText(corner + QPointF(0, QFontMetricsF(painter_.font()).ascent()), toQString(text.text));
@@ -59,17 +77,19 @@ public:
 private:
     static QPointF place(int x, int y) { return {x * unit, y * unit}; }
 
-    static QPen penOf(Colour colour, int width)
+    [[nodiscard]] QPen penOf(Colour colour, int width) const
     {
-        return {toQColor(colour), width * zoom, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin};
+        return {paintedColour(colour, theme_), width * zoom, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin};
     }
 
     QPainter& painter_;
+    const Theme& theme_;
 };
 
 } // namespace
 
-ChartView::ChartView(const StatisticsForm& form, QWidget* parent) : QWidget(parent), form_(form)
+ChartView::ChartView(const StatisticsForm& form, const Theme& theme, QWidget* parent)
+    : QWidget(parent), form_(form), theme_(theme)
 {
     setObjectName("Picture1");
     const Chart chart = form.chart(1);
@@ -81,9 +101,9 @@ void ChartView::paintEvent(QPaintEvent*)
     const QFontMetricsF metrics(chartFontOf(chartFont, chartFontSize));
     const Chart chart = form_.chart(static_cast<int>(std::lround(metrics.horizontalAdvance('W') / unit)));
     QPainter painter(this);
-    painter.fillRect(rect(), toQColor(chart.background));
+    Theme::paintCard(painter, rect(), theme_.colours().card, theme_.colours().line);
     for (const auto& item : chart.items)
-        std::visit(ChartPainter(painter), item);
+        std::visit(ChartPainter(painter, theme_), item);
 }
 
 } // namespace lexigrove

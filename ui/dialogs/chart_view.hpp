@@ -1,26 +1,28 @@
 #pragma once
 
 #include "scores/statistics_form.hpp"
+#include "ui/look/theme.hpp"
 
 #include <QWidget>
 
 namespace lexigrove
 {
 
-/// `Picture1`: paints the chart of the statistics half as large again as at the design resolution, so that its small
-/// print is readable.
+/// `Picture1`: paints the chart of the statistics half as large again as at the design resolution, and in the colours
+/// of the windows, so that its bars and its small print are readable.
 class ChartView : public QWidget
 {
     Q_OBJECT
 
 public:
-    explicit ChartView(const StatisticsForm& form, QWidget* parent = nullptr);
+    ChartView(const StatisticsForm& form, const Theme& theme, QWidget* parent = nullptr);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
     const StatisticsForm& form_;
+    const Theme& theme_;
 };
 
 } // namespace lexigrove

@@ -38,7 +38,7 @@ public:
         areas->addWidget(newValues("YourColumn", "Your", 1));
         areas->addWidget(newValues("Frame2", "Computer", 9));
         areas->addSpacing(Theme::grid);
-        areas->addWidget(new ChartView(form), 0, Qt::AlignTop);
+        areas->addWidget(new ChartView(form, gameHost.theme), 0, Qt::AlignTop);
 
         auto* const Exitx = newButton("Exitx", "Exit");
         Exitx->setDefault(true);

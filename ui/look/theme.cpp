@@ -194,6 +194,11 @@ Theme::Theme() : desktop_(systemColoursOf(QApplication::palette()))
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/lexigrove.svg")));
 }
 
+bool Theme::desktopIsDark() const
+{
+    return readableOn(desktop_.resolve(system_colour::windowBackground)) == rgb(255, 255, 255);
+}
+
 void Theme::apply(const ColourScheme& scheme)
 {
     if (scheme_ == &scheme && shown_ == scheme.entries())

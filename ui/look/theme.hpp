@@ -42,6 +42,9 @@ public:
     /// The desktop's colours, for a scheme that names system colours.
     [[nodiscard]] const SystemPalette& desktop() const { return desktop_; }
 
+    /// Whether the desktop's windows are dark, whatever these windows show.
+    [[nodiscard]] bool desktopIsDark() const;
+
     /// Colours the application by the scheme; does nothing if its table has not changed.
     void apply(const ColourScheme& scheme);
 

@@ -177,6 +177,9 @@ void WordsView::synchronise()
     if (grid_.revision() == shownRevision_)
         return;
     shownRevision_ = grid_.revision();
+    horizontalHeader()->setSortIndicatorShown(grid_.sortedColumn() >= 0);
+    horizontalHeader()->setSortIndicator(grid_.sortedColumn(),
+                                         grid_.Tag == "A" ? Qt::AscendingOrder : Qt::DescendingOrder);
     const bool rowsCame = grid_.Rows() - 1 > model_->rowCount();
     model_->refresh();
     showCurrent(); // and scrolls there

@@ -15,17 +15,33 @@ namespace lexigrove
 namespace
 {
 
-/// The window colours under the help page's names for them.
-PageColours pageColours(const WindowColours& colours)
+/// The colours of windows and tiles under the help page's names for them.
+PageColours pageColours(const Theme& theme)
 {
-    return {
+    const WindowColours& colours = theme.colours();
+    const ColourScheme& scheme = theme.scheme();
+    PageColours named{
         {"--background", toQColor(colours.background)},
         {"--text", toQColor(colours.text)},
         {"--quiet", toQColor(colours.quietText)},
         {"--line", toQColor(colours.line)},
         {"--card", toQColor(colours.card)},
         {"--accent", toQColor(colours.accent)},
+        {"--hi", toQColor(colours.tileTop)},
+        {"--lo", toQColor(colours.tileBottom)},
+        {"--link", toQColor(colours.link)},
+        {"--face", toQColor(scheme.tileFace(multiplier::plain))},
+        {"--letter", toQColor(scheme.tileLetter(multiplier::plain))},
     };
+    const std::pair<const char*, Colour> tiles[] = {{"two", multiplier::doubled},
+                                                    {"three", multiplier::tripled},
+                                                    {"four", multiplier::quadrupled},
+                                                    {"red", multiplier::red}};
+    for (const auto& [name, multiplier] : tiles) {
+        named[QString("--") + name] = toQColor(scheme.tileFace(multiplier));
+        named[QString("--on-") + name] = toQColor(scheme.tileLetter(multiplier));
+    }
+    return named;
 }
 
 } // namespace
@@ -34,7 +50,7 @@ HelpWindow::HelpWindow(const Theme& theme, BrowserLoader& loader, const std::str
     : address_(QUrl::fromLocalFile(pathToQString(address))),
       WebBrowser1_(new BrowserView(loader, BrowserRules::forLocalPage(pathToQString(address)), this))
 {
-    const auto colourPage = [this, &theme] { WebBrowser1_->setPageColours(pageColours(theme.colours())); };
+    const auto colourPage = [this, &theme] { WebBrowser1_->setPageColours(pageColours(theme)); };
     connect(&theme, &Theme::changed, this, colourPage);
     colourPage();
     setObjectName("Form5");

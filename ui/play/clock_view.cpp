@@ -3,6 +3,7 @@
 #include "controls/dc.hpp"
 #include "controls/geometry.hpp"
 #include "flow/game_flow.hpp"
+#include "settings/readable_colours.hpp"
 #include "ui/machine/mouse.hpp"
 
 #include <QKeyEvent>
@@ -15,7 +16,19 @@
 namespace lexigrove
 {
 
-ClockView::ClockView(GameFlow& flow, QWidget* parent) : QWidget(parent), flow_(flow)
+namespace
+{
+
+/// The digits' colour as it is painted: their own, or the nearest shade of it that reads.
+Colour readableDigits(Colour digits, Colour panel)
+{
+    constexpr double digitContrast = 4;
+    return shadeFor(digits, panel, panel, digitContrast);
+}
+
+} // namespace
+
+ClockView::ClockView(GameFlow& flow, const Theme& theme, QWidget* parent) : QWidget(parent), flow_(flow), theme_(theme)
 {
     setObjectName("Dc1");
     setFocusPolicy(Qt::NoFocus);
@@ -24,7 +37,11 @@ ClockView::ClockView(GameFlow& flow, QWidget* parent) : QWidget(parent), flow_(f
 
 void ClockView::paintEvent(QPaintEvent* /*event*/)
 {
+    constexpr double unlitShare = 0.1;
     const Dc& clock = flow_.view().clock;
+    const Colour panel = clock.Shapet().fill;
+    const bool windowColours = clock.ClockColor() == "DEFAULT";
+    const Colour windowDigits = readableDigits(theme_.colours().accent, panel);
     const double scale = std::min(static_cast<double>(width()) / Dc::Width, static_cast<double>(height()) / Dc::Height);
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
@@ -35,7 +52,10 @@ void ClockView::paintEvent(QPaintEvent* /*event*/)
             continue;
         const ClockLine line = clock.lin2(index);
         const double thickness = line.thickness * unitsPerPixel;
-        painter.setPen(QPen(toQColor(line.colour), thickness, Qt::SolidLine, Qt::RoundCap));
+        Colour colour = clock.lit(index) ? readableDigits(line.colour, panel) : line.colour;
+        if (windowColours)
+            colour = clock.lit(index) ? windowDigits : mixed(panel, windowDigits, unlitShare);
+        painter.setPen(QPen(toQColor(colour), thickness, Qt::SolidLine, Qt::RoundCap));
         painter.drawLine(line.from.x, line.from.y, line.to.x, line.to.y);
     }
 }
@@ -47,7 +67,7 @@ void ClockView::focusInEvent(QFocusEvent* event)
 }
 
 ClockFrame::ClockFrame(GameFlow& flow, const Theme& theme, QWidget* parent)
-    : QWidget(parent), flow_(flow), theme_(theme), view_(new ClockView(flow, this))
+    : QWidget(parent), flow_(flow), theme_(theme), view_(new ClockView(flow, theme, this))
 {
     setObjectName("Frame10");
     setToolTip(tr("Click (Space) for thicker digits, right-click (Shift+Space) for another colour"));

@@ -11,14 +11,15 @@ namespace lexigrove
 
 class GameFlow;
 
-/// The face of the clock `Dc1`, as large as fits. It never takes the focus by itself; a container that gives it the
-/// focus makes it expire.
+/// The face of the clock `Dc1`, as large as fits. Digits too close to their panel's colour are painted in a shade that
+/// reads; the clock's own colours stay. With "DEFAULT", they are painted in the window's accent. It never takes the
+/// focus by itself; a container that gives it the focus makes it expire.
 class ClockView : public QWidget
 {
     Q_OBJECT
 
 public:
-    ClockView(GameFlow& flow, QWidget* parent);
+    ClockView(GameFlow& flow, const Theme& theme, QWidget* parent);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -26,6 +27,7 @@ protected:
 
 private:
     GameFlow& flow_;
+    const Theme& theme_;
 };
 
 /// The frame `Frame10` around the clock, in the clock's own background colour.
