@@ -65,7 +65,7 @@ void BoardPainter::paint(QPainter& painter, const BoardMarks& marks, const QRect
 /// The keys that let the letters drop.
 void BoardPainter::paintNumbers(QPainter& painter) const
 {
-    painter.setFont(Theme::font(shape_.cell() * numberShare));
+    painter.setFont(Theme::fontOfSize(shape_.cell() * numberShare));
     painter.setPen(toQColor(theme_.colours().quietText));
     for (int col = 1; col <= Board::columns; ++col) {
         const QRectF waiting = waitingPlace(col);
@@ -78,8 +78,8 @@ void BoardPainter::paintHint(QPainter& painter, const QString& hint) const
 {
     const QRectF place = shape_.hintPlace();
     const double wanted = std::min(15.0, shape_.cell() * hintShare);
-    const double width = QFontMetricsF(Theme::font(wanted, true)).horizontalAdvance(hint) + 2 * Theme::gap;
-    painter.setFont(Theme::font(std::min(wanted, wanted * place.width() / width), true));
+    const double width = QFontMetricsF(Theme::fontOfSize(wanted, true)).horizontalAdvance(hint) + 2 * Theme::gap;
+    painter.setFont(Theme::fontOfSize(std::min(wanted, wanted * place.width() / width), true));
     const QRectF text = painter.boundingRect(place, Qt::AlignCenter, hint);
     const QRectF bubble = text.adjusted(-Theme::gap, -2, Theme::gap, 2).intersected(place);
     painter.save();

@@ -124,7 +124,7 @@ void BoxPainter::paintCaption(QPainter& painter, const BoxControl& control, cons
     const Stretched shape(painter, control, place);
     constexpr double pixelsPerPoint = designDotsPerInch / 72.0;
     const double ownSize = control.FontSize() * pixelsPerPoint * unitsPerPixel * shape.scale();
-    const QFont font = Theme::font(pixelSize > 0 ? pixelSize : ownSize, control.FontBold());
+    const QFont font = Theme::fontOfSize(pixelSize > 0 ? pixelSize : ownSize, control.FontBold());
     const QString caption = toQString(control.Caption());
 
     // The label's height is that of its capitals, so that they are centred, without the room for accents above.

@@ -34,7 +34,7 @@ void TilePainter::paintLetter(QPainter& painter, const BoxControl& tile, const Q
     const double size = place.width();
     const double margin = size * marginShare;
     const QRectF inside = place.adjusted(margin, margin * 0.85, -margin, -margin * 0.85);
-    const QFont valueFont = Theme::font(size * smallShare);
+    const QFont valueFont = Theme::fontOfSize(size * smallShare);
     const QFontMetricsF metrics(valueFont);
     const QString value = QString::number(letterValue(tile.Caption().front()));
     const double left = inside.right() - metrics.horizontalAdvance(value);
@@ -48,7 +48,7 @@ void TilePainter::paintLetter(QPainter& painter, const BoxControl& tile, const Q
 
     const Colour mark = tile.MaskColor();
     if (multiplier::isBonus(mark)) {
-        painter.setFont(Theme::font(size * smallShare, true));
+        painter.setFont(Theme::fontOfSize(size * smallShare, true));
         painter.drawText(inside.topLeft() + QPointF(0, metrics.capHeight()), QString::number(mark) + QChar(u'\u00D7'));
     } else if (mark == multiplier::red) {
         paintRedMark(painter, inside);
@@ -73,7 +73,7 @@ void TilePainter::paintRedDistance(QPainter& painter, const BoxControl& tile, co
     const double margin = place.width() * marginShare;
     const double mark = std::max(6.0, place.width() * smallShare) * 1.2;
     painter.setPen(theme_.colour(tile.ForeColor()));
-    painter.setFont(Theme::font(place.width() * smallShare, true));
+    painter.setFont(Theme::fontOfSize(place.width() * smallShare, true));
     painter.drawText(place.adjusted(margin + mark, margin * 0.6, -margin, 0), Qt::AlignLeft | Qt::AlignTop,
                      QString::number(pushes));
 }

@@ -34,7 +34,7 @@ public:
         QPushButton* const AboutOk = newButton("AboutOk", "OK");
         AboutOk->setProperty("primary", true);
         AboutOk->setDefault(true);
-        AboutOk->setMinimumWidth(14 * Theme::grid);
+        AboutOk->setMinimumWidth(Theme::scaled(14 * Theme::grid));
         connect(AboutOk, &QPushButton::clicked, this, &QDialog::accept);
 
         auto* const areas = new QHBoxLayout;

@@ -60,7 +60,7 @@ void BoxButton::paintEvent(QPaintEvent* /*event*/)
     QPainter painter(this);
     const BoxPainter box(theme_);
     box.paintFace(painter, control_, rect(), underMouse() && isEnabled());
-    box.paintCaption(painter, control_, rect(), Theme::quietTextSize + 1);
+    box.paintCaption(painter, control_, rect(), Theme::font(Theme::quietTextSize + 1).pixelSize());
     if (hasFocus()) {
         painter.setPen(toQColor(theme_.colours().accent));
         painter.drawRect(QRectF(rect()).adjusted(2.5, 2.5, -2.5, -2.5));

@@ -16,8 +16,16 @@ namespace lexigrove
 namespace
 {
 
-constexpr double zoom = 1.5;
-constexpr double unit = zoom / unitsPerPixel; ///< logical pixels
+double zoom()
+{
+    return 1.5 * Theme::textScale();
+}
+
+/// In logical pixels.
+double unit()
+{
+    return zoom() / unitsPerPixel;
+}
 constexpr int unitsPerPoint = 20;
 constexpr int substituteStretch = 87; ///< per cent: other sans-serif fonts run wider than the intended one
 
@@ -25,7 +33,7 @@ QFont chartFontOf(const std::string& name, int pointSize)
 {
     QFont font(toQString(name));
     font.setStyleHint(name == chartFont ? QFont::Monospace : QFont::SansSerif);
-    font.setPixelSize(static_cast<int>(std::lround(pointSize * unitsPerPoint * unit)));
+    font.setPixelSize(static_cast<int>(std::lround(pointSize * unitsPerPoint * unit())));
     if (name != chartFont && !QFontInfo(font).exactMatch())
         font.setStretch(substituteStretch);
     return font;
@@ -75,11 +83,11 @@ public:
     }
 
 private:
-    static QPointF place(int x, int y) { return {x * unit, y * unit}; }
+    static QPointF place(int x, int y) { return {x * unit(), y * unit()}; }
 
     [[nodiscard]] QPen penOf(Colour colour, int width) const
     {
-        return {paintedColour(colour, theme_), width * zoom, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin};
+        return {paintedColour(colour, theme_), width * zoom(), Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin};
     }
 
     QPainter& painter_;
@@ -93,13 +101,13 @@ ChartView::ChartView(const StatisticsForm& form, const Theme& theme, QWidget* pa
 {
     setObjectName("Picture1");
     const Chart chart = form.chart(1);
-    setFixedSize(static_cast<int>(chart.width * unit), static_cast<int>(chart.height * unit));
+    setFixedSize(static_cast<int>(chart.width * unit()), static_cast<int>(chart.height * unit()));
 }
 
 void ChartView::paintEvent(QPaintEvent*)
 {
     const QFontMetricsF metrics(chartFontOf(chartFont, chartFontSize));
-    const Chart chart = form_.chart(static_cast<int>(std::lround(metrics.horizontalAdvance('W') / unit)));
+    const Chart chart = form_.chart(static_cast<int>(std::lround(metrics.horizontalAdvance('W') / unit())));
     QPainter painter(this);
     Theme::paintCard(painter, rect(), theme_.colours().card, theme_.colours().line);
     for (const auto& item : chart.items)

@@ -2,9 +2,11 @@
 
 #include "ui/look/text.hpp"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QScreen>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 namespace lexigrove
@@ -20,7 +22,7 @@ FormDialog::FormDialog(Host& gameHost, const char* objectName, std::string_view 
 void FormDialog::resizeOnScreen(int width, int height)
 {
     const QSize frame(2 * Theme::grid, 5 * Theme::grid); // what a window manager adds
-    resize(QSize(width, height).boundedTo(screen()->availableSize() - frame));
+    resize(QSize(Theme::scaled(width), Theme::scaled(height)).boundedTo(screen()->availableSize() - frame));
 }
 
 QVBoxLayout* FormDialog::newColumn()
@@ -29,6 +31,36 @@ QVBoxLayout* FormDialog::newColumn()
     column->setContentsMargins(Theme::margin, Theme::margin, Theme::margin, Theme::margin);
     column->setSpacing(Theme::gap);
     return column;
+}
+
+ScrollPart::ScrollPart(QWidget* content)
+{
+    setFrameShape(NoFrame);
+    setFocusPolicy(Qt::NoFocus);
+    setWidgetResizable(true);
+    setWidget(content);
+    content->installEventFilter(this);
+    for (QWidget* const background : {static_cast<QWidget*>(this), viewport(), content})
+        background->setAutoFillBackground(false);
+}
+
+QSize ScrollPart::sizeHint() const
+{
+    return widget()->sizeHint();
+}
+
+QSize ScrollPart::minimumSizeHint() const
+{
+    return {widget()->minimumSizeHint().width() + verticalScrollBar()->sizeHint().width(),
+            Theme::scaled(14 * Theme::grid)};
+}
+
+/// The content may have grown.
+bool ScrollPart::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::LayoutRequest)
+        updateGeometry();
+    return QScrollArea::eventFilter(watched, event);
 }
 
 QPushButton* newButton(const char* objectName, std::string_view caption, std::string_view toolTip)

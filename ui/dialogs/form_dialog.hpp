@@ -3,6 +3,7 @@
 #include "ui/machine/host.hpp"
 
 #include <QDialog>
+#include <QScrollArea>
 
 #include <concepts>
 #include <string_view>
@@ -38,6 +39,19 @@ protected:
     QVBoxLayout* newColumn();
 
     Host& host;
+};
+
+/// The part of a window that scrolls where the screen has no room for it; the buttons stay below.
+class ScrollPart : public QScrollArea
+{
+public:
+    explicit ScrollPart(QWidget* content);
+
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
 };
 
 /// A push button with its object name.

@@ -92,7 +92,7 @@ private:
         if (board == nullptr)
             return;
         const QRect place(board->mapToGlobal(QPoint(0, 0)), board->size());
-        resize(44 * Theme::grid, place.height());
+        resize(Theme::scaled(44 * Theme::grid), place.height());
         setGeometry(beside(place, size(), main->screen()->availableGeometry()));
     }
 

@@ -44,6 +44,8 @@ public:
         this->setAutoExclusive(false); // otherwise the selected one could not be cleared
         this->setChecked(value);
         this->setAutoExclusive(exclusive);
+        if constexpr (std::is_same_v<Button, QRadioButton>) // the Tab key enters a group at the chosen one
+            this->setFocusPolicy(value ? Qt::StrongFocus : Qt::ClickFocus);
     }
 
 protected:
@@ -116,6 +118,10 @@ public:
         setUpSchemeBox();
         setUpUserDictionary();
 
+        auto* const choices = new QWidget;
+        auto* const rows = new QVBoxLayout(choices);
+        rows->setContentsMargins(0, 0, 0, 0);
+        rows->setSpacing(Theme::gap);
         auto* const columns = new QHBoxLayout;
         columns->setSpacing(Theme::gap);
         columns->addLayout(newFrames({newFrame(form.SoundFrame), newFrame(form.ArrangementFrame),
@@ -123,9 +129,10 @@ public:
         columns->addLayout(
             newFrames({newSchemeFrame(), newDictionaryFrame(), newComputerFrame(), newFrame(form.StrategyFrame)}));
 
+        rows->addLayout(columns);
+        rows->addWidget(newPlayingFrame());
         auto* const column = newColumn();
-        column->addLayout(columns);
-        column->addWidget(newPlayingFrame());
+        column->addWidget(new ScrollPart(choices));
         column->addLayout(newButtons());
         findChild<QPushButton*>("Startx")->setFocus();
         showForm();

@@ -15,7 +15,10 @@ namespace lexigrove
 namespace
 {
 
-constexpr int daySize = 3 * Theme::grid;
+int daySize()
+{
+    return Theme::scaled(3 * Theme::grid);
+}
 constexpr int daysInRow = 10;
 
 } // namespace
@@ -23,7 +26,7 @@ constexpr int daysInRow = 10;
 ScoreChart::ScoreChart(const Theme& theme, QWidget* parent) : QWidget(parent), theme_(theme)
 {
     setObjectName("ScoreChart");
-    setMinimumHeight(14 * Theme::grid);
+    setMinimumHeight(Theme::scaled(14 * Theme::grid));
 }
 
 void ScoreChart::show(std::vector<PastGamesForm::ChartPoint> points)
@@ -38,7 +41,7 @@ void ScoreChart::show(std::vector<PastGamesForm::ChartPoint> points)
 
 QSize ScoreChart::sizeHint() const
 {
-    return {30 * Theme::grid, 16 * Theme::grid};
+    return {Theme::scaled(30 * Theme::grid), Theme::scaled(16 * Theme::grid)};
 }
 
 void ScoreChart::paintEvent(QPaintEvent* /*event*/)
@@ -55,11 +58,13 @@ void ScoreChart::paintEvent(QPaintEvent* /*event*/)
     int best = 1;
     for (const auto& point : points_)
         best = std::max(best, point.score);
-    const QRectF area = QRectF(rect()).adjusted(5 * Theme::grid, Theme::gap, -Theme::gap, -Theme::gap);
-    painter.drawText(QRectF(0, area.top() - Theme::grid, area.left() - Theme::grid / 2.0, 2 * Theme::grid),
-                     Qt::AlignRight | Qt::AlignVCenter, QString::number(best));
-    painter.drawText(QRectF(0, area.bottom() - Theme::grid, area.left() - Theme::grid / 2.0, 2 * Theme::grid),
-                     Qt::AlignRight | Qt::AlignVCenter, "0");
+    const QRectF area = QRectF(rect()).adjusted(Theme::scaled(5 * Theme::grid), Theme::gap, -Theme::gap, -Theme::gap);
+    painter.drawText(
+        QRectF(0, area.top() - Theme::grid, area.left() - Theme::grid / 2.0, Theme::scaled(2 * Theme::grid)),
+        Qt::AlignRight | Qt::AlignVCenter, QString::number(best));
+    painter.drawText(
+        QRectF(0, area.bottom() - Theme::grid, area.left() - Theme::grid / 2.0, Theme::scaled(2 * Theme::grid)),
+        Qt::AlignRight | Qt::AlignVCenter, "0");
     painter.setRenderHint(QPainter::Antialiasing);
     QPolygonF line;
     for (std::size_t i = 0; i < points_.size(); ++i) {
@@ -88,14 +93,14 @@ void DayCalendar::show(std::vector<PastGamesForm::CalendarDay> days)
 
 QSize DayCalendar::sizeHint() const
 {
-    return {daysInRow * daySize, 3 * daySize};
+    return {daysInRow * daySize(), 3 * daySize()};
 }
 
 QRect DayCalendar::placeOf(std::size_t day) const
 {
     const int column = static_cast<int>(day) % daysInRow;
     const int row = static_cast<int>(day) / daysInRow;
-    return {column * daySize, row * daySize, daySize - 3, daySize - 3};
+    return {column * daySize(), row * daySize(), daySize() - 3, daySize() - 3};
 }
 
 void DayCalendar::paintEvent(QPaintEvent* /*event*/)

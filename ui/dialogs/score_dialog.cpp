@@ -24,7 +24,7 @@ QFont listFont()
     QFont font("Courier New");
     if (!QFontInfo(font).fixedPitch())
         font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-    font.setPixelSize(16);
+    font.setPixelSize(Theme::scaled(16));
     return font;
 }
 
@@ -73,7 +73,7 @@ public:
         List2_->setFocusPolicy(Qt::NoFocus);
         List2_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
         List2_->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
-        List2_->setMinimumSize(48 * Theme::grid, 41 * Theme::grid);
+        List2_->setMinimumSize(Theme::scaled(48 * Theme::grid), Theme::scaled(41 * Theme::grid));
 
         AnotherGame_->setProperty("primary", true);
         connect(AnotherGame_, &QPushButton::clicked, this, [this] { input([this] { form_.pressAnotherGame(); }); });

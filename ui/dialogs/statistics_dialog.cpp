@@ -42,7 +42,7 @@ public:
 
         auto* const Exitx = newButton("Exitx", "Exit");
         Exitx->setDefault(true);
-        Exitx->setMinimumWidth(14 * Theme::grid);
+        Exitx->setMinimumWidth(Theme::scaled(14 * Theme::grid));
         connect(Exitx, &QPushButton::clicked, this, &QDialog::accept);
 
         QVBoxLayout* const column = newColumn();
@@ -55,7 +55,7 @@ private:
     static QLabel* newLabel(const QString& text, Qt::Alignment alignment)
     {
         auto* const label = new QLabel(text);
-        label->setFixedHeight(rowHeight);
+        label->setFixedHeight(Theme::scaled(rowHeight));
         label->setAlignment(alignment | Qt::AlignVCenter);
         label->setTextFormat(Qt::PlainText);
         return label;
@@ -79,7 +79,7 @@ private:
         auto* const column = new QFrame;
         column->setObjectName(objectName);
         column->setProperty("card", true);
-        column->setMinimumWidth(14 * Theme::grid);
+        column->setMinimumWidth(Theme::scaled(14 * Theme::grid));
         auto* const rows = new QVBoxLayout(column);
         rows->setContentsMargins(Theme::gap, Theme::grid, Theme::gap, Theme::grid);
         rows->setSpacing(0);

@@ -3,6 +3,7 @@
 #include "settings/readable_colours.hpp"
 
 #include <QApplication>
+#include <QFontInfo>
 #include <QIcon>
 #include <QPainter>
 #include <QPalette>
@@ -91,7 +92,7 @@ QPushButton { background: @button; color: @buttonText; border: 1px solid @line; 
     padding: 6px 8px; min-height: 18px; }
 QPushButton:hover { background: @buttonHover; }
 QPushButton:pressed { background: @buttonPressed; }
-QPushButton:focus { border-color: @accent; }
+QPushButton:focus { border: 2px solid @text; padding: 5px 7px; }
 QPushButton:disabled { color: @disabled; }
 QPushButton[link="true"] { background: transparent; border: none; padding: 1px 0; text-align: left; color: @text; }
 QPushButton[link="true"]:hover, QPushButton[link="true"]:focus { text-decoration: underline; }
@@ -99,6 +100,7 @@ QPushButton[primary="true"] { background: @accent; color: @accentText; border-co
 QPushButton[primary="true"]:hover { background: @accentHover; }
 QPushButton[primary="true"]:pressed { background: @accentPressed; }
 QPushButton[primary="true"]:focus { border-color: @text; }
+QPushButton[link="true"]:focus { border: 2px solid @text; padding: 0; }
 QPushButton[primary="true"]:disabled { background: @strip; color: @disabled; border-color: @line; }
 QDialogButtonBox QPushButton { min-width: 64px; }
 QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }
@@ -117,34 +119,34 @@ QLabel[quiet="true"]:disabled { color: @disabled; }
 QLabel#CompScore { color: @computerText; }
 QLineEdit, QListView, QListWidget, QPlainTextEdit { background: @card; color: @cardText; border: 1px solid @line;
     border-radius: 4px; padding: 3px; selection-background-color: @accent; selection-color: @accentText; }
-QLineEdit:focus, QListView:focus, QListWidget:focus { border-color: @accent; }
+QLineEdit:focus, QListView:focus, QListWidget:focus { border: 2px solid @cardText; padding: 2px; }
 QLineEdit:disabled { color: @disabled; background: @background; }
 QTableView { background: @card; border: 1px solid @line; border-radius: 6px; padding: 4px 0; }
+QTableView:focus { border: 2px solid @cardText; padding: 3px 0; }
 QTableView QHeaderView { background: @card; border: none; }
 QTableView QHeaderView::section { background: @card; border: none; border-bottom: 1px solid @line; padding: 0 7px; }
-QGroupBox { border: 1px solid @line; border-radius: 6px; margin-top: 20px; padding: 4px 6px; }
+QGroupBox { border: 1px solid @line; border-radius: 6px; margin-top: @titleRoom; padding: 4px 6px; }
 QGroupBox::title { subcontrol-origin: margin; subcontrol-position: top left; padding: 0 1px 4px 1px; color: @quietText; }
 QGroupBox::title:disabled { color: @disabled; }
-QRadioButton, QCheckBox { spacing: 7px; }
-QRadioButton::indicator, QCheckBox::indicator { width: 14px; height: 14px; border: 1px solid @quietText; background: @card; }
-QRadioButton::indicator { border-radius: 8px; }
+QRadioButton, QCheckBox { spacing: 7px; border: 2px solid transparent; border-radius: 4px; }
+QRadioButton::indicator, QCheckBox::indicator { width: @indicator; height: @indicator; border: 1px solid @quietText; background: @card; }
+QRadioButton::indicator { border-radius: @round; }
 QCheckBox::indicator { border-radius: 4px; }
 QRadioButton::indicator:hover, QCheckBox::indicator:hover { border-color: @accent; }
-QRadioButton::indicator:focus, QCheckBox::indicator:focus { border-color: @accent; }
 QRadioButton::indicator:checked { background: qradialgradient(cx: 0.5, cy: 0.5, radius: 0.5, fx: 0.5, fy: 0.5,
     stop: 0 @accent, stop: 0.5 @accent, stop: 0.6 @card, stop: 1 @card); }
-QCheckBox::indicator:checked { background: @accent; background-clip: content; padding: 2px; width: 10px; height: 10px;
+QCheckBox::indicator:checked { background: @accent; background-clip: content; padding: 2px; width: @mark; height: @mark;
     border-radius: 3px; }
 QRadioButton::indicator:disabled, QCheckBox::indicator:disabled { border-color: @line; }
 QRadioButton::indicator:checked:disabled { background: qradialgradient(cx: 0.5, cy: 0.5, radius: 0.5, fx: 0.5, fy: 0.5,
     stop: 0 @disabled, stop: 0.5 @disabled, stop: 0.6 @card, stop: 1 @card); }
-QRadioButton:focus, QCheckBox:focus { color: @accent; }
+QRadioButton:focus, QCheckBox:focus { border-color: @text; }
 QComboBox { combobox-popup: 0; color: @cardText; border: 1px solid @line; border-radius: 4px; padding: 4px 8px;
     min-height: 18px; background: palette(base); }
-QComboBox:focus, QComboBox:on { border-color: @accent; }
+QComboBox:focus, QComboBox:on { border: 2px solid @cardText; padding: 3px 7px; }
 QComboBox QAbstractItemView { background: @card; color: @cardText; border: 1px solid @line; padding: 4px;
     selection-background-color: @accent; selection-color: @accentText; outline: none; }
-QComboBox QAbstractItemView::item { min-height: 26px; }
+QComboBox QAbstractItemView::item { min-height: @item; }
 QComboBox QAbstractItemView::item:selected { background: @accent; color: @accentText; border-radius: 4px; }
 QScrollBar:vertical { background: transparent; width: 10px; margin: 1px; }
 QScrollBar::handle:vertical { background: @line; border-radius: 4px; min-height: 24px; }
@@ -176,6 +178,10 @@ QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
         {"@computerText", colours.computerText},
         {"@background", colours.background},
     }};
+    const std::array<std::pair<const char*, int>, 5> measures{
+        {{"@titleRoom", 20}, {"@indicator", 14}, {"@round", 8}, {"@mark", 10}, {"@item", 26}}};
+    for (const auto& [name, measure] : measures)
+        sheet.replace(QLatin1String(name), QString::number(Theme::scaled(measure)) + "px");
     for (const auto& [name, colour] : colourNames)
         sheet.replace(QLatin1String(name), toQColor(colour).name());
     return sheet;
@@ -192,11 +198,6 @@ Theme::Theme() : desktop_(systemColoursOf(QApplication::palette()))
 {
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/lexigrove.svg")));
-}
-
-bool Theme::desktopIsDark() const
-{
-    return readableOn(desktop_.resolve(system_colour::windowBackground)) == rgb(255, 255, 255);
 }
 
 void Theme::apply(const ColourScheme& scheme)
@@ -218,7 +219,24 @@ QColor Theme::colour(Colour colour) const
     return toQColor(systemColours_.resolve(colour));
 }
 
+double Theme::textScale()
+{
+    constexpr double tenPoints = 10 * 96 / 72.0;
+    const double scale = QFontInfo(QApplication::font()).pixelSize() / tenPoints;
+    return scale < 1.1 ? 1 : scale;
+}
+
 QFont Theme::font(double pixelSize, bool bold)
+{
+    return fontOfSize(pixelSize * textScale(), bold);
+}
+
+int Theme::scaled(int measure)
+{
+    return static_cast<int>(std::lround(measure * textScale()));
+}
+
+QFont Theme::fontOfSize(double pixelSize, bool bold)
 {
     QFont font = QApplication::font();
     font.setPixelSize(std::max(smallestText, static_cast<int>(std::lround(pixelSize))));

@@ -42,9 +42,6 @@ public:
     /// The desktop's colours, for a scheme that names system colours.
     [[nodiscard]] const SystemPalette& desktop() const { return desktop_; }
 
-    /// Whether the desktop's windows are dark, whatever these windows show.
-    [[nodiscard]] bool desktopIsDark() const;
-
     /// Colours the application by the scheme; does nothing if its table has not changed.
     void apply(const ColourScheme& scheme);
 
@@ -56,8 +53,17 @@ public:
     /// A plain colour, or a system colour as it stands in this family of windows (a window's background is the card).
     [[nodiscard]] QColor colour(Colour colour) const;
 
-    /// The desktop's own font at a size in pixels, never below the smallest.
+    /// The desktop's own font at a size in pixels, never below the smallest: for text whose place sets its size.
+    [[nodiscard]] static QFont fontOfSize(double pixelSize, bool bold = false);
+
+    /// The same at a size that is meant for a desktop font of ten points, and grows with a larger one.
     [[nodiscard]] static QFont font(double pixelSize, bool bold = false);
+
+    /// How much larger the desktop's font is than ten points; a smaller one counts as these.
+    [[nodiscard]] static double textScale();
+
+    /// A measure that must hold text: `measure` at ten points, and as much larger as the desktop's font.
+    [[nodiscard]] static int scaled(int measure);
 
     /// Paints a card: a rounded face in a thin outline.
     static void paintCard(QPainter& painter, const QRectF& place, Colour face, Colour line, double lineWidth = 1);

@@ -15,8 +15,12 @@ namespace
 {
 
 constexpr int cellTextSize = 13;
-constexpr int heightOfRow = 3 * Theme::grid;
 const char* const spokenHeadings[WordsGrid::columnCount] = {"Number", "Score", "Length", "Word"};
+
+int heightOfRow()
+{
+    return Theme::scaled(3 * Theme::grid);
+}
 
 /// Where a column begins, in the grid's units; that of the column after the last one is the grid's width.
 int leftOf(int column)
@@ -154,13 +158,13 @@ WordsView::WordsView(const WordsGrid& grid, const Theme& theme, QWidget* parent,
     setShowGrid(false);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollMode(ScrollPerPixel);
-    setMinimumSize(24 * Theme::grid, 3 * heightOfRow);
+    setMinimumSize(24 * Theme::grid, 3 * heightOfRow());
     verticalHeader()->hide();
-    verticalHeader()->setDefaultSectionSize(heightOfRow);
+    verticalHeader()->setDefaultSectionSize(heightOfRow());
 
     auto* const headingBar = new Headings(this);
     headingBar->setFont(Theme::font(Theme::quietTextSize, true));
-    headingBar->setFixedHeight(heightOfRow);
+    headingBar->setFixedHeight(heightOfRow());
     headingBar->setMinimumSectionSize(1);
     headingBar->setStretchLastSection(true);
     setHorizontalHeader(headingBar);

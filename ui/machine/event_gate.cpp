@@ -7,6 +7,7 @@
 #include <QElapsedTimer>
 #include <QKeyEvent>
 #include <QMessageBox>
+#include <QScreen>
 
 #include <algorithm>
 #include <optional>
@@ -55,6 +56,17 @@ private:
     QElapsedTimer sinceOpen_;
 };
 
+/// A dialog that has no size of its own gets what it asks for, as far as the screen has it; the toolkit would give it
+/// two thirds of the screen at most.
+void fitOnScreen(QDialog& dialog)
+{
+    if (dialog.testAttribute(Qt::WA_Resized))
+        return;
+    dialog.ensurePolished();
+    const QSize frame(16, 40); // what a window manager adds
+    dialog.resize(dialog.sizeHint().boundedTo(dialog.screen()->availableSize() - frame));
+}
+
 } // namespace
 
 void EventGate::requestLeaving()
@@ -95,6 +107,7 @@ int EventGate::exec(QDialog& dialog)
     QEventLoop loop;
     connect(&dialog, &QDialog::finished, &loop, &QEventLoop::quit);
     dialog.setWindowModality(Qt::NonModal);
+    fitOnScreen(dialog);
     dialog.show();
     loop.exec();
     dialogs_.pop_back();

@@ -74,7 +74,7 @@ HelpWindow::HelpWindow(const Theme& theme, BrowserLoader& loader, const std::str
     strip->addStrut(4 * Theme::grid);
     for (QPushButton* const button : {Command1, Command2, Command3}) {
         button->setStyleSheet("padding: 2px 14px; min-height: 18px");
-        button->setFixedWidth(11 * Theme::grid);
+        button->setFixedWidth(Theme::scaled(11 * Theme::grid));
         if (button == Command3) // set apart, at the right
             strip->addStretch();
         strip->addWidget(button);

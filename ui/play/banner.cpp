@@ -46,13 +46,13 @@ void Banner::paintEvent(QPaintEvent* /*event*/)
     Theme::paintCard(painter, rect(), colours.card, colours.accent, frameWidth);
     const QRect inside = rect().adjusted(Theme::gap, Theme::grid, -Theme::gap, -Theme::grid);
     painter.setPen(toQColor(colours.cardText));
-    painter.setFont(Theme::font(std::clamp(height() / 5.0, 16.0, 30.0), true));
+    painter.setFont(Theme::fontOfSize(std::clamp(height() / 5.0, 16.0, 30.0), true));
     const int share = score_ ? inside.height() / 2 : inside.height();
     painter.drawText(QRect(inside.topLeft(), QSize(inside.width(), share)), Qt::AlignCenter | Qt::TextWordWrap, text_);
     if (!score_)
         return;
     painter.setPen(toQColor(colours.accent));
-    painter.setFont(Theme::font(std::clamp(height() / 3.0, 24.0, 64.0), true));
+    painter.setFont(Theme::fontOfSize(std::clamp(height() / 3.0, 24.0, 64.0), true));
     painter.drawText(QRect(inside.left(), inside.top() + share, inside.width(), inside.height() - share),
                      Qt::AlignCenter, QString::number(*score_));
 }

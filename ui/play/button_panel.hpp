@@ -5,13 +5,14 @@
 #include <QWidget>
 
 #include <map>
+#include <vector>
 
 class QPushButton;
 
 namespace lexigrove
 {
 
-/// The buttons for the player's actions, `Frame3`.
+/// The buttons for the player's actions, `Frame3`: in two rows, or in more where the font is large.
 class ButtonPanel : public QWidget
 {
     Q_OBJECT
@@ -21,8 +22,27 @@ public:
 
     void synchronise();
 
+    [[nodiscard]] bool hasHeightForWidth() const override { return true; }
+    [[nodiscard]] int heightForWidth(int width) const override;
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
+protected:
+    void resizeEvent(QResizeEvent* /*event*/) override { place(); }
+
 private:
+    struct Placed {
+        QPushButton* button;
+        int row;    ///< in which the button begins where there is room for all of it
+        int weight; ///< its share of the row
+    };
+    using Rows = std::vector<std::vector<Placed>>;
+    [[nodiscard]] Rows rowsFor(int width) const;
+    void place();
+    void setText(Command command, const QString& text);
+
     GameFlow& flow_;
+    std::vector<Placed> placed_;
     std::map<Command, QPushButton*> buttons_;
 };
 

@@ -33,7 +33,7 @@ void PauseCover::paintEvent(QPaintEvent* /*event*/)
     const double size = std::clamp(width() / 12.0, 20.0, 48.0);
     const QRectF upper(0, 0, width(), height() / 2.0 + size);
     painter.setPen(toQColor(colours.text));
-    painter.setFont(Theme::font(size, true));
+    painter.setFont(Theme::fontOfSize(size, true));
     painter.drawText(upper, Qt::AlignHCenter | Qt::AlignBottom, caption_);
     painter.setPen(toQColor(colours.quietText));
     painter.setFont(Theme::font(Theme::quietTextSize + 1));

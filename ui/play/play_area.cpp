@@ -17,7 +17,11 @@ namespace lexigrove
 namespace
 {
 
-constexpr int sideMinimum = 48 * Theme::grid;
+int sideMinimum()
+{
+    return std::max(48 * Theme::grid, Theme::scaled(38 * Theme::grid));
+}
+
 constexpr int sideMaximum = 80 * Theme::grid;
 constexpr double smallestCell = 40;
 constexpr double usualCell = 60;
@@ -105,14 +109,15 @@ void PlayArea::buildSide()
 QSize PlayArea::sizeHint() const
 {
     const QSize boardSize = board->geometryOfBoard().sizeFor(usualCell).toSize();
-    return {boardSize.width() + 62 * Theme::grid + 3 * Theme::margin, boardSize.height() + Theme::margin + topMargin};
+    return {boardSize.width() + Theme::scaled(62 * Theme::grid) + 3 * Theme::margin,
+            boardSize.height() + Theme::margin + topMargin};
 }
 
 QSize PlayArea::minimumSizeHint() const
 {
     const QSize boardSize = board->geometryOfBoard().sizeFor(smallestCell).toSize();
-    const int height = std::max(boardSize.height(), side_->minimumSizeHint().height());
-    return {boardSize.width() + sideMinimum + 3 * Theme::margin, height + Theme::margin + topMargin};
+    const int height = std::max(boardSize.height(), side_->layout()->minimumHeightForWidth(sideMinimum()));
+    return {boardSize.width() + sideMinimum() + 3 * Theme::margin, height + Theme::margin + topMargin};
 }
 
 /// The board takes all the height, and the side takes the remaining width, up to what it can use; together they are
@@ -122,11 +127,11 @@ void PlayArea::resizeEvent(QResizeEvent* /*event*/)
     const int height = this->height() - Theme::margin - topMargin;
     const int width = this->width() - 3 * Theme::margin;
     BoardGeometry shape = board->geometryOfBoard();
-    shape.fit(QSizeF(width - sideMinimum, height), devicePixelRatioF());
+    shape.fit(QSizeF(width - sideMinimum(), height), devicePixelRatioF());
     const QSizeF boardSize = shape.size();
     const int boardWidth = static_cast<int>(std::ceil(boardSize.width()));
     const int boardHeight = static_cast<int>(std::ceil(boardSize.height()));
-    const int sideWidth = std::min(width - boardWidth, std::max(sideMaximum, boardWidth));
+    const int sideWidth = std::min(width - boardWidth, std::max(Theme::scaled(sideMaximum), boardWidth));
     const int left = Theme::margin + (width - boardWidth - sideWidth) / 2;
 
     board->setGeometry(left, topMargin, boardWidth, boardHeight);

@@ -104,7 +104,7 @@ protected:
 private:
     [[nodiscard]] QFont fontOf(double size) const
     {
-        QFont font = Theme::font(size, true);
+        QFont font = Theme::fontOfSize(size, true);
         font.setLetterSpacing(QFont::AbsoluteSpacing, size * letterSpacing_);
         return font;
     }
