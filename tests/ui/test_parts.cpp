@@ -2,13 +2,16 @@
 #include "tests/support/temporary_folder.hpp"
 #include "ui/dialogs/beside.hpp"
 #include "ui/look/text.hpp"
+#include "ui/look/theme.hpp"
 #include "ui/machine/event_gate.hpp"
 #include "ui/machine/qt_sound_device.hpp"
 #include "ui/pages/browser_view.hpp"
 #include "ui/start_options.hpp"
 
+#include <QApplication>
 #include <QDialog>
 #include <QLabel>
+#include <QPalette>
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QPushButton>
@@ -23,6 +26,18 @@ namespace lexigrove
 {
 namespace
 {
+
+// Guards the first start on a dark desktop, whose colours the game's own replace.
+TEST(Theme, KnowsADarkDesktop)
+{
+    const QPalette before = QApplication::palette();
+    for (const bool dark : {true, false}) {
+        QApplication::setPalette(dark ? QColor(40, 40, 40) : QColor(240, 240, 240));
+        const Theme theme;
+        QApplication::setPalette(before);
+        EXPECT_EQ(theme.desktopIsDark(), dark);
+    }
+}
 
 // Guards texts on their way through the window: every byte must come back, and what the game's text does not hold is
 // told by a question mark each.
