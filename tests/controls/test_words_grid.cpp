@@ -68,7 +68,9 @@ TEST(WordsGrid, theCurrentRowStaysWithItsWord)
     grid.headingClicked(0);
     grid.headingClicked(0);
     EXPECT_THAT(columnOf(grid, 0), ElementsAre("5", "4", "3", "2", "1"));
+    EXPECT_EQ(grid.sortedColumn(), 0);
     grid.insertOnTop({.score = 2, .word = "IT"});
+    EXPECT_EQ(grid.sortedColumn(), -1);
     EXPECT_EQ(grid.row(grid.Row()).word, "QI");
     EXPECT_EQ(grid.text(1, 0), "6");
 

@@ -1,14 +1,18 @@
 #include "platform/leaving.hpp"
+#include "platform/text_file.hpp"
 #include "tests/support/temporary_folder.hpp"
 #include "ui/dialogs/beside.hpp"
+#include "ui/first_start.hpp"
 #include "ui/look/text.hpp"
 #include "ui/machine/event_gate.hpp"
 #include "ui/machine/qt_sound_device.hpp"
 #include "ui/pages/browser_view.hpp"
 #include "ui/start_options.hpp"
 
+#include <QApplication>
 #include <QDialog>
 #include <QLabel>
+#include <QPalette>
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QPushButton>
@@ -23,6 +27,23 @@ namespace lexigrove
 {
 namespace
 {
+
+// Guards the first start on a dark desktop, and whatever configuration came after it.
+TEST(FirstStart, FollowsADarkDesktop)
+{
+    const TemporaryFolder folder;
+    const std::string first = readFile(DATA_FOLDER "first/Lexigrove.cfg");
+    const QPalette before = QApplication::palette();
+    for (const bool dark : {true, false}) {
+        QApplication::setPalette(dark ? QColor(40, 40, 40) : QColor(240, 240, 240));
+        for (const std::string& text : {first, "11/23/26" + first.substr(first.find('\r'))}) {
+            folder.write("Lexigrove.cfg", text);
+            prepareFirstStart(folder.path());
+            EXPECT_EQ(folder.read("Lexigrove.cfg").find("Night.sch") != std::string::npos, dark && text == first);
+        }
+        QApplication::setPalette(before);
+    }
+}
 
 // Guards texts on their way through the window: every byte must come back, and what the game's text does not hold is
 // told by a question mark each.

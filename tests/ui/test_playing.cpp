@@ -358,6 +358,15 @@ TEST_F(Course, TheClockTakesClicksAndNoFocus)
     auto& frame = child("Frame10");
     QTest::mouseClick(&frame, Qt::LeftButton, {}, frame.rect().center());
     EXPECT_EQ(view().clock.DigitWidth(), 4);
+    const QImage face = picture(frame, frame.rect());
+    double contrast = 0;
+    for (int place = 0; place < face.width() * face.height(); ++place) {
+        const QRgb at = face.pixel(place % face.width(), place / face.width());
+        const Colour pixel = rgb((at >> 16) & 0xFFU, (at >> 8) & 0xFFU, at & 0xFFU);
+        contrast = std::max(contrast, contrastRatio(pixel, view().clock.Shapet().fill));
+    }
+    EXPECT_GE(contrast, 3);
+    EXPECT_EQ(view().clock.lin2(4).colour, rgb(0, 0, 244)) << "what the clock itself says is darker";
     QTest::mouseClick(&frame, Qt::RightButton, {}, frame.rect().center());
     EXPECT_EQ(view().clock.ClockColor(), "RED");
     EXPECT_EQ(painted(frame, frame.rect().center()), QColor(50, 0, 0));

@@ -25,6 +25,8 @@ constexpr double gapShare = 0.015; ///< between letter and value
 constexpr double linkShare = 0.11;
 constexpr double linkReach = 0.14; ///< of the tiles' distance, from the middle between them to each end
 
+constexpr double roomForSmall = 1.85; // of the value's font, for value and mark together
+
 } // namespace
 
 void TilePainter::paintLetter(QPainter& painter, const BoxControl& tile, const QRectF& place) const
@@ -40,7 +42,9 @@ void TilePainter::paintLetter(QPainter& painter, const BoxControl& tile, const Q
     const double left = inside.right() - metrics.horizontalAdvance(value);
     const double gap = size * gapShare;
     const QRectF taken(QPointF(left - gap, inside.bottom() - metrics.capHeight() - gap), inside.bottomRight());
-    box_.paintCaption(painter, tile, place, size * letterShare, taken);
+    // On the smallest tiles the letter makes room for the small texts, which have a smallest size.
+    const double letterSize = std::min(size * letterShare, size - roomForSmall * valueFont.pixelSize());
+    box_.paintCaption(painter, tile, place, letterSize, taken);
 
     painter.setPen(theme_.colour(tile.ForeColor()));
     painter.setFont(valueFont);

@@ -121,10 +121,15 @@ QLineEdit, QListView, QListWidget, QPlainTextEdit { background: @card; color: @c
     border-radius: 4px; padding: 3px; selection-background-color: @accent; selection-color: @accentText; }
 QLineEdit:focus, QListView:focus, QListWidget:focus { border: 2px solid @cardText; padding: 2px; }
 QLineEdit:disabled { color: @disabled; background: @background; }
-QTableView { background: @card; border: 1px solid @line; border-radius: 6px; padding: 4px 0; }
-QTableView:focus { border: 2px solid @cardText; padding: 3px 0; }
-QTableView QHeaderView { background: @card; border: none; }
-QTableView QHeaderView::section { background: @card; border: none; border-bottom: 1px solid @line; padding: 0 7px; }
+QTableView, QTreeView { background: @card; border: 1px solid @line; border-radius: 6px; padding: 4px 0; }
+QTableView:focus, QTreeView:focus { border: 2px solid @cardText; padding: 3px 0; }
+QHeaderView { background: @card; border: none; }
+QHeaderView::section { background: @card; border: none; border-bottom: 1px solid @line; padding: 0 7px; }
+QTreeView { selection-background-color: @accent; selection-color: @accentText; }
+QTreeView QHeaderView::section { color: @cardQuietText; padding: 4px 7px; }
+QFileDialog { min-width: 640px; min-height: 420px; }
+QFileDialog QToolButton { border: none; border-radius: 4px; padding: 3px; }
+QFileDialog QToolButton:hover, QFileDialog QToolButton:checked { background: @selection; }
 QGroupBox { border: 1px solid @line; border-radius: 6px; margin-top: @titleRoom; padding: 4px 6px; }
 QGroupBox::title { subcontrol-origin: margin; subcontrol-position: top left; padding: 0 1px 4px 1px; color: @quietText; }
 QGroupBox::title:disabled { color: @disabled; }
@@ -156,7 +161,7 @@ QScrollBar::handle:horizontal { background: @line; border-radius: 4px; min-width
 QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }
 QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
 )");
-    const std::array<std::pair<const char*, Colour>, 20> colourNames{{
+    const std::array<std::pair<const char*, Colour>, 21> colourNames{{
         {"@buttonText", colours.buttonText}, // a name must come before its own prefixes
         {"@buttonHover", colours.buttonHover},
         {"@buttonPressed", mixed(colours.button, colours.buttonText, 0.15)},
@@ -168,6 +173,7 @@ QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
         {"@disabled", mixed(colours.text, colours.background, 0.55)},
         {"@cardDisabled", mixed(colours.cardText, colours.card, 0.55)},
         {"@cardText", colours.cardText},
+        {"@cardQuietText", colours.cardQuietText},
         {"@card", colours.card},
         {"@selectionText", colours.cardSelectionText},
         {"@selection", colours.cardSelection},

@@ -74,11 +74,12 @@ private:
     const Theme& theme_;
 };
 
-/// Headings that tell of every press, also of one on the edge of a section and of the second one of a double click.
+/// Headings that tell of every press, also of one on the edge of a section and of the second one of a double click. The
+/// sort mark stands beside the text, where there is room for it.
 class Headings : public QHeaderView
 {
 public:
-    explicit Headings(QWidget* parent) : QHeaderView(Qt::Horizontal, parent) {}
+    explicit Headings(QWidget* parent) : QHeaderView(Qt::Horizontal, parent) { setSortIndicator(-1, {}); }
 
 protected:
     void mousePressEvent(QMouseEvent* event) override
@@ -87,6 +88,24 @@ protected:
             emit sectionPressed(logicalIndexAt(event->pos()));
     }
     void mouseDoubleClickEvent(QMouseEvent* event) override { mousePressEvent(event); }
+
+    void paintSection(QPainter* painter, const QRect& place, int column) const override
+    {
+        painter->save();
+        QHeaderView::paintSection(painter, place, column);
+        painter->restore();
+        if (column != sortIndicatorSection())
+            return;
+        const int width = fontMetrics().horizontalAdvance(model()->headerData(column, Qt::Horizontal).toString());
+        const bool left = (alignmentOf(column) & Qt::AlignLeft) != 0;
+        const int end = left ? place.left() + Theme::grid + width : place.center().x() + width / 2;
+        QStyleOptionHeader mark;
+        initStyleOption(&mark);
+        mark.rect = QRect(end + 2, place.center().y() - 4, 10, 10);
+        mark.sortIndicator =
+            sortIndicatorOrder() == Qt::AscendingOrder ? QStyleOptionHeader::SortDown : QStyleOptionHeader::SortUp;
+        style()->drawPrimitive(QStyle::PE_IndicatorHeaderArrow, &mark, painter, this);
+    }
 };
 
 } // namespace
@@ -181,7 +200,6 @@ void WordsView::synchronise()
     if (grid_.revision() == shownRevision_)
         return;
     shownRevision_ = grid_.revision();
-    horizontalHeader()->setSortIndicatorShown(grid_.sortedColumn() >= 0);
     horizontalHeader()->setSortIndicator(grid_.sortedColumn(),
                                          grid_.Tag == "A" ? Qt::AscendingOrder : Qt::DescendingOrder);
     const bool rowsCame = grid_.Rows() - 1 > model_->rowCount();

@@ -5,9 +5,11 @@
 #include <QAbstractButton>
 #include <QDialogButtonBox>
 #include <QFileDialog>
+#include <QHeaderView>
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QShortcut>
+#include <QTreeView>
 
 #include <algorithm>
 
@@ -87,7 +89,14 @@ std::string QtDialogs::openFile(const OpenFileRequest& request)
 {
     QFileDialog box(host_.dialogParent(), toQString(request.title), pathToQString(request.initialFolder));
     box.setFileMode(QFileDialog::ExistingFile);
+    box.setOptions(QFileDialog::DontUseNativeDialog | QFileDialog::HideNameFilterDetails | QFileDialog::ReadOnly);
     box.setNameFilters(nameFilters(request.filter));
+    if (auto* const files = box.findChild<QTreeView*>()) { // the columns are as wide as what they show
+        files->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+        files->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+        files->header()->setStretchLastSection(false);
+        files->setColumnHidden(2, true); // the kind of file, which the filter says
+    }
     const bool chosen = host_.gate.exec(box) == QDialog::Accepted && !box.selectedFiles().isEmpty();
     return chosen ? pathFromQString(box.selectedFiles().constFirst()) : std::string();
 }
