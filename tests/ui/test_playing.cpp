@@ -1,7 +1,9 @@
 #include "controls/dc.hpp"
 #include "tests/ui/window_test.hpp"
 
+#include <QAbstractButton>
 #include <QFocusEvent>
+#include <QGroupBox>
 #include <QSignalSpy>
 
 namespace lexigrove
@@ -133,7 +135,7 @@ TEST_P(Playing, TheBoardFillsTheWindow)
             const QRect place = board().tileRect(tile);
             EXPECT_TRUE(board().rect().contains(place)) << "tile " << tile;
             EXPECT_EQ(place.width(), place.height());
-            EXPECT_GE(place.width(), 36);
+            EXPECT_GE(place.width(), 30);
             EXPECT_EQ(board().tileAt(place.center()), tile);
             EXPECT_EQ(board().tileAt(place.topLeft() + QPoint(1, 1)), tile);
         }
@@ -287,6 +289,48 @@ TEST_F(Course, TheKeyboardAloneIsEnough)
     script.in("QMessageBox", answer); // there is no score file yet
     key(Qt::Key_Q, Qt::ControlModifier);
     EXPECT_TRUE(flow().ended());
+}
+
+// Guards texts at 20 points: none is cut in any of these windows, and none is larger than the screen.
+class LargeFont : public WindowTest
+{
+public:
+    LargeFont() { QApplication::setFont(QFont(before_.family(), 20)); }
+    ~LargeFont() override { QApplication::setFont(before_); }
+
+private:
+    const QFont before_ = QApplication::font();
+};
+
+TEST_F(LargeFont, CutsNothing)
+{
+    const auto cutsNothing = [](const QWidget& window) {
+        QTest::qWait(20); // for the layouts
+        for (const QWidget* part : window.findChildren<QWidget*>()) {
+            const bool writes = qobject_cast<const QAbstractButton*>(part) != nullptr ||
+                                qobject_cast<const QGroupBox*>(part) != nullptr;
+            if (!writes || !part->isVisible())
+                continue;
+            EXPECT_GE(part->width(), part->minimumSizeHint().width()) << part->objectName().toStdString();
+            EXPECT_GE(part->height(), part->minimumSizeHint().height()) << part->objectName().toStdString();
+        }
+        EXPECT_LE(window.height(), window.screen()->availableSize().height());
+    };
+    script.in("Form7", [&](QDialog& options) {
+        cutsNothing(options);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    });
+    flow().openOptionsAndStart();
+    window().show();
+    cutsNothing(window());
+    const auto closes = [&](QDialog& dialog) {
+        cutsNothing(dialog);
+        dialog.close();
+    };
+    for (const auto& [name, shortcut] : {std::pair("Form4", Qt::Key_S), std::pair("PastGames", Qt::Key_G)}) {
+        script.in(name, closes);
+        key(shortcut, Qt::ControlModifier);
+    }
 }
 
 // Guards an animation from what the player does meanwhile, and the player who closes the window from waiting for it.

@@ -77,7 +77,7 @@ void BoardPainter::paintNumbers(QPainter& painter) const
 void BoardPainter::paintHint(QPainter& painter, const QString& hint) const
 {
     const QRectF place = shape_.hintPlace();
-    const double wanted = std::min(15.0, shape_.cell() * hintShare);
+    const double wanted = std::min(15.0 * Theme::textScale(), shape_.cell() * hintShare);
     const double width = QFontMetricsF(Theme::fontOfSize(wanted, true)).horizontalAdvance(hint) + 2 * Theme::gap;
     painter.setFont(Theme::fontOfSize(std::min(wanted, wanted * place.width() / width), true));
     const QRectF text = painter.boundingRect(place, Qt::AlignCenter, hint);

@@ -40,6 +40,7 @@ ScrollPart::ScrollPart(QWidget* content)
     setWidgetResizable(true);
     setWidget(content);
     content->installEventFilter(this);
+    content->setMinimumHeight(content->sizeHint().height());
     for (QWidget* const background : {static_cast<QWidget*>(this), viewport(), content})
         background->setAutoFillBackground(false);
 }
@@ -58,8 +59,10 @@ QSize ScrollPart::minimumSizeHint() const
 /// The content may have grown.
 bool ScrollPart::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::LayoutRequest)
+    if (event->type() == QEvent::LayoutRequest) {
+        widget()->setMinimumHeight(widget()->sizeHint().height()); // it scrolls rather than shrinks
         updateGeometry();
+    }
     return QScrollArea::eventFilter(watched, event);
 }
 

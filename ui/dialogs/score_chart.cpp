@@ -58,13 +58,14 @@ void ScoreChart::paintEvent(QPaintEvent* /*event*/)
     int best = 1;
     for (const auto& point : points_)
         best = std::max(best, point.score);
-    const QRectF area = QRectF(rect()).adjusted(Theme::scaled(5 * Theme::grid), Theme::gap, -Theme::gap, -Theme::gap);
-    painter.drawText(
-        QRectF(0, area.top() - Theme::grid, area.left() - Theme::grid / 2.0, Theme::scaled(2 * Theme::grid)),
-        Qt::AlignRight | Qt::AlignVCenter, QString::number(best));
-    painter.drawText(
-        QRectF(0, area.bottom() - Theme::grid, area.left() - Theme::grid / 2.0, Theme::scaled(2 * Theme::grid)),
-        Qt::AlignRight | Qt::AlignVCenter, "0");
+    const QRectF area = QRectF(rect()).adjusted(Theme::scaled(5 * Theme::grid), Theme::scaled(Theme::gap), -Theme::gap,
+                                                -Theme::scaled(Theme::gap));
+    painter.drawText(QRectF(0, area.top() - Theme::scaled(Theme::grid), area.left() - Theme::grid / 2.0,
+                            Theme::scaled(2 * Theme::grid)),
+                     Qt::AlignRight | Qt::AlignVCenter, QString::number(best));
+    painter.drawText(QRectF(0, area.bottom() - Theme::scaled(Theme::grid), area.left() - Theme::grid / 2.0,
+                            Theme::scaled(2 * Theme::grid)),
+                     Qt::AlignRight | Qt::AlignVCenter, "0");
     painter.setRenderHint(QPainter::Antialiasing);
     QPolygonF line;
     for (std::size_t i = 0; i < points_.size(); ++i) {

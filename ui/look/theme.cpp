@@ -89,10 +89,10 @@ QString styleSheet(const WindowColours& colours)
 {
     QString sheet = QStringLiteral(R"(
 QPushButton { background: @button; color: @buttonText; border: 1px solid @line; border-radius: 6px;
-    padding: 6px 8px; min-height: 18px; }
+    padding: 7px 8px; }
 QPushButton:hover { background: @buttonHover; }
 QPushButton:pressed { background: @buttonPressed; }
-QPushButton:focus { border: 2px solid @text; padding: 5px 7px; }
+QPushButton:focus { border: 2px solid @text; padding: 6px 7px; }
 QPushButton:disabled { color: @disabled; }
 QPushButton[link="true"] { background: transparent; border: none; padding: 1px 0; text-align: left; color: @text; }
 QPushButton[link="true"]:hover, QPushButton[link="true"]:focus { text-decoration: underline; }
@@ -146,9 +146,9 @@ QRadioButton::indicator:disabled, QCheckBox::indicator:disabled { border-color: 
 QRadioButton::indicator:checked:disabled { background: qradialgradient(cx: 0.5, cy: 0.5, radius: 0.5, fx: 0.5, fy: 0.5,
     stop: 0 @disabled, stop: 0.5 @disabled, stop: 0.6 @card, stop: 1 @card); }
 QRadioButton:focus, QCheckBox:focus { border-color: @text; }
-QComboBox { combobox-popup: 0; color: @cardText; border: 1px solid @line; border-radius: 4px; padding: 4px 8px;
-    min-height: 18px; background: palette(base); }
-QComboBox:focus, QComboBox:on { border: 2px solid @cardText; padding: 3px 7px; }
+QComboBox { combobox-popup: 0; color: @cardText; border: 1px solid @line; border-radius: 4px; padding: 5px 8px;
+    background: palette(base); }
+QComboBox:focus, QComboBox:on { border: 2px solid @cardText; padding: 4px 7px; }
 QComboBox QAbstractItemView { background: @card; color: @cardText; border: 1px solid @line; padding: 4px;
     selection-background-color: @accent; selection-color: @accentText; outline: none; }
 QComboBox QAbstractItemView::item { min-height: @item; }
@@ -184,10 +184,16 @@ QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
         {"@computerText", colours.computerText},
         {"@background", colours.background},
     }};
-    const std::array<std::pair<const char*, int>, 5> measures{
-        {{"@titleRoom", 20}, {"@indicator", 14}, {"@round", 8}, {"@mark", 10}, {"@item", 26}}};
+    const int indicator = Theme::scaled(14);
+    const std::array<std::pair<const char*, int>, 5> measures{{
+        {"@titleRoom", Theme::scaled(20)},
+        {"@indicator", indicator},
+        {"@round", indicator / 2 + 1}, // with its border; a larger radius would leave it square
+        {"@mark", indicator - 4},
+        {"@item", Theme::scaled(26)},
+    }};
     for (const auto& [name, measure] : measures)
-        sheet.replace(QLatin1String(name), QString::number(Theme::scaled(measure)) + "px");
+        sheet.replace(QLatin1String(name), QString::number(measure) + "px");
     for (const auto& [name, colour] : colourNames)
         sheet.replace(QLatin1String(name), toQColor(colour).name());
     return sheet;

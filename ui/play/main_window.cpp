@@ -10,6 +10,7 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QMenuBar>
+#include <QScreen>
 #include <QTimer>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -46,6 +47,8 @@ MainWindow::MainWindow(Host& host, GameFlow& flow, const StatusLine& status) : h
     left_->setInterval(3'000);
     connect(left_, &QTimer::timeout, this, &MainWindow::pauseIfLeft);
     connect(qApp, &QGuiApplication::applicationStateChanged, this, &MainWindow::watchLeaving);
+    constexpr double mostOfScreen = 0.86;
+    resize(sizeHint().boundedTo(screen()->availableSize() * mostOfScreen));
     restoreGeometry(host_.settings.windowPlace());
     host_.mainWindow = this;
     connect(&host_, &Host::modelsChanged, this, &MainWindow::showModels);

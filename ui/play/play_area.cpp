@@ -23,7 +23,7 @@ int sideMinimum()
 }
 
 constexpr int sideMaximum = 80 * Theme::grid;
-constexpr double smallestCell = 40;
+constexpr double smallestCell = 34;
 constexpr double usualCell = 60;
 constexpr int topMargin = Theme::gap;
 constexpr double numberSize = 24;
@@ -108,7 +108,7 @@ void PlayArea::buildSide()
 
 QSize PlayArea::sizeHint() const
 {
-    const QSize boardSize = board->geometryOfBoard().sizeFor(usualCell).toSize();
+    const QSize boardSize = board->geometryOfBoard().sizeFor(usualCell * Theme::textScale()).toSize();
     return {boardSize.width() + Theme::scaled(62 * Theme::grid) + 3 * Theme::margin,
             boardSize.height() + Theme::margin + topMargin};
 }
@@ -136,7 +136,7 @@ void PlayArea::resizeEvent(QResizeEvent* /*event*/)
 
     board->setGeometry(left, topMargin, boardWidth, boardHeight);
     side_->setGeometry(left + boardWidth + Theme::margin, topMargin, sideWidth, height);
-    word->setLetterSize(std::clamp(shape.cell() * 0.55, 24.0, 44.0));
+    word->setLetterSize(std::clamp(shape.cell() * 0.55, 24.0 * Theme::textScale(), 44.0 * Theme::textScale()));
     placeCovers();
 }
 
