@@ -25,7 +25,8 @@ BoardView::BoardView(GameFlow& flow, Host& host, QWidget* parent)
       firstSteps_(flow, host.settings),
       shape_(BoardGeometry::numberRoom, firstSteps_.areLeft() ? BoardGeometry::hintRoom : 0),
       painter_(board_, shape_, host.theme),
-      cursor_(board_)
+      cursor_(board_),
+      access_(*this, flow)
 {
     setObjectName("Picture1");
     setAccessibleName(tr("Board"));
@@ -145,6 +146,7 @@ void BoardView::synchronise()
         marks_ = std::move(marks);
         update();
     }
+    access_.synchronise();
 }
 
 bool BoardView::takesInput() const
@@ -209,6 +211,7 @@ void BoardView::moveCursor(const BoardSpot& spot)
     if (spot.tile != 0)
         flow_.hoverTile(spot.tile); // the status line describes it
     synchronise();
+    access_.reportFocus(spot);
 }
 
 /// The arrow keys move the cursor, and the keys at the corners of the number pad slantwise. Other keys are the

@@ -2,6 +2,7 @@
 
 #include "flow/game_flow.hpp"
 #include "game/board.hpp"
+#include "ui/board/board_access.hpp"
 #include "ui/board/board_painter.hpp"
 #include "ui/board/first_steps.hpp"
 #include "ui/machine/host.hpp"
@@ -44,6 +45,16 @@ public:
     /// Shows the cursor at a spot.
     void moveCursor(const BoardSpot& spot);
 
+    /// What a mouse button does when it is released there.
+    void press(const BoardSpot& spot, MouseButton button, bool shift);
+
+    /// The spot under a place, with its tile or its column; none beside them.
+    [[nodiscard]] BoardSpot spotAt(const QPointF& place) const;
+    /// Where a spot is, with or without a tile.
+    [[nodiscard]] QRect cellRect(const BoardSpot& spot) const { return painter_.placeOf(spot).toAlignedRect(); }
+
+    [[nodiscard]] const GameFlow& flow() const { return flow_; }
+
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
@@ -63,10 +74,8 @@ private:
         QRectF place;
     };
 
-    [[nodiscard]] BoardSpot spotAt(const QPointF& place) const;
     [[nodiscard]] QRectF placeOf(const BoardSpot& spot) const;
     void setSpot(BoardSpot& spot, BoardSpot value);
-    void press(const BoardSpot& spot, MouseButton button, bool shift);
     [[nodiscard]] int redDistance() const;
     [[nodiscard]] BoardMarks currentMarks();
     void repaintIfChanged(const BoxControl& control, Shown& shown);
@@ -80,6 +89,7 @@ private:
     BoardPainter painter_;
     BoardCursor cursor_;
     bool cursorShown_ = false;
+    BoardAccess access_;
     std::array<Shown, Board::tileCount + 1> shownTiles_;
     std::array<Shown, Board::columns + 1> shownWaiting_;
     QRectF shownPanel_;

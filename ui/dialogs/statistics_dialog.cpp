@@ -90,6 +90,7 @@ private:
             QLabel* const value = newLabel(toQString(form_.sval[i]), Qt::AlignHCenter);
             value->setObjectName("sval" + QString::number(i));
             value->setFont(Theme::font(14, true));
+            value->setAccessibleName(QString("%1, %2, %3").arg(heading, rowCaptions[i - first], value->text()));
             rows->addWidget(value);
         }
         rows->addStretch();

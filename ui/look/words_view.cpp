@@ -148,6 +148,8 @@ public:
         switch (role) {
         case Qt::DisplayRole:
             return toQString(grid_.text(0, section));
+        case Qt::AccessibleTextRole:
+            return QObject::tr(spokenHeadings[section]);
         case Qt::ToolTipRole:
             return QObject::tr("%1: click or press Ctrl+%2 to sort").arg(spokenHeadings[section]).arg(section + 1);
         case Qt::TextAlignmentRole:

@@ -84,7 +84,9 @@ void ClockFrame::synchronise()
         return;
     shownRevision_ = clock.revision();
     const auto figure = [&](int digit) { return QString::number(clock.shownDigit(digit)); };
-    view_->setAccessibleName(tr("Clock %1%2:%3%4").arg(figure(0), figure(1), figure(2), figure(3)));
+    const QString seconds = figure(2) + figure(3);
+    if (clock.ShowTimeOnly() || seconds == "00" || seconds == "30") // a countdown speaks through the speaker
+        view_->setAccessibleName(tr("Clock %1%2:%3%4").arg(figure(0), figure(1), figure(2), figure(3)));
     update();
 }
 

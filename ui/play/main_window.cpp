@@ -9,6 +9,7 @@
 #include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QMenuBar>
 #include <QScreen>
 #include <QTimer>
@@ -18,13 +19,19 @@
 namespace lexigrove
 {
 
-MainWindow::MainWindow(Host& host, GameFlow& flow, const StatusLine& status) : host_(host), flow_(flow)
+MainWindow::MainWindow(Host& host, GameFlow& flow, const StatusLine& status) : host_(host), flow_(flow), speaker_(flow)
 {
     setObjectName("MainWindow");
+    BoardAccess::install();
     host_.theme.apply(flow_.view().scheme); // before the widgets, so that each is styled only once
     auto* centre = new QWidget(this);
     area_ = new PlayArea(flow, host, centre);
     status_ = new StatusLineView(status, flow, host.theme, centre);
+    speaker_.setVoice(status_->findChild<QLabel*>("Label1"));
+    connect(status_, &StatusLineView::shows, this, [this](const QString& text) { speaker_.say(text); });
+    connect(&host_, &Host::gameOver, this, [this](const QString& reason, int score) {
+        speaker_.say(tr("%1. Your score is %2").arg(reason).arg(score));
+    });
     auto* column = new QVBoxLayout(centre);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
@@ -251,6 +258,7 @@ void MainWindow::showModels()
     }
     area_->synchronise();
     status_->synchronise();
+    speaker_.lookAtGame();
 }
 
 } // namespace lexigrove

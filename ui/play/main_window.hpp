@@ -4,6 +4,7 @@
 #include "ui/machine/host.hpp"
 #include "ui/play/commands.hpp"
 #include "ui/play/play_area.hpp"
+#include "ui/play/speaker.hpp"
 #include "ui/play/status_line_view.hpp"
 
 #include <QMainWindow>
@@ -60,6 +61,7 @@ private:
     PlayArea* area_;
     StatusLineView* status_;
     std::vector<MenuEntry> menuEntries_;
+    Speaker speaker_;
     QTimer* left_;   ///< runs while the window is minimised or another program's has the keys
     QTimer* saving_; ///< fires once the events of an input are done
     bool endReported_ = false;

@@ -27,6 +27,7 @@ constexpr double smallestCell = 34;
 constexpr double usualCell = 60;
 constexpr int topMargin = Theme::gap;
 constexpr double numberSize = 24;
+constexpr const char* captionProperty = "caption";
 
 /// The label of a number of the game, on a card of its own under what it counts.
 QLabel* newNumber(const char* name, const QString& caption, const QString& toolTip)
@@ -39,6 +40,7 @@ QLabel* newNumber(const char* name, const QString& caption, const QString& toolT
     heading->setFont(Theme::font(Theme::smallestText));
     auto* number = new QLabel;
     number->setObjectName(name);
+    number->setProperty(captionProperty, caption);
     number->setAccessibleName(caption);
     number->setFont(Theme::font(numberSize, true));
     number->setTextFormat(Qt::PlainText);
@@ -48,6 +50,15 @@ QLabel* newNumber(const char* name, const QString& caption, const QString& toolT
     column->addWidget(heading);
     column->addWidget(number, 1, Qt::AlignVCenter);
     return number;
+}
+
+/// A card is read with its value: "Your score, 33".
+void showNumber(QLabel& number, const QString& text)
+{
+    if (text == number.text())
+        return;
+    number.setText(text);
+    number.setAccessibleName(number.property(captionProperty).toString() + ", " + text);
 }
 
 } // namespace
@@ -155,10 +166,10 @@ void PlayArea::synchronise()
     const GameState& state = flow_.view().state;
     board->synchronise();
     clock->synchronise();
-    yourScore_->setText(QString::number(state.yourScore));
-    compScore_->setText(QString::number(state.compScore));
+    showNumber(*yourScore_, QString::number(state.yourScore));
+    showNumber(*compScore_, QString::number(state.compScore));
     compScore_->parentWidget()->setVisible(state.computerGame); // a solo player needs no second score
-    tilesLeft_->setText(toQString(state.tilesLeftText()));
+    showNumber(*tilesLeft_, toQString(state.tilesLeftText()));
     word->synchronise();
     buttons->synchronise();
     words->synchronise();

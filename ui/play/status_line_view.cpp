@@ -66,7 +66,7 @@ StatusLineView::StatusLineView(const StatusLine& status, const GameFlow& flow, c
 {
     setObjectName("StatusLine");
     Label1->setObjectName("Label1");
-    Label1->setAccessibleName(tr("Status"));
+    Label1->setAccessibleDescription(tr("Status"));
     Label4->setObjectName("Label4");
     for (QLabel* label : {Label1, Label4}) {
         label->setTextFormat(Qt::PlainText);
@@ -104,6 +104,7 @@ void StatusLineView::synchronise()
     if (const QString message = onOneLine(text); message != full_) {
         full_ = message;
         elide();
+        emit shows(message);
     }
     const GameState& state = flow_.view().state;
     setLoud(warns || tells || state.computerTurnInProgress);

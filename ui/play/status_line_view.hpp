@@ -22,6 +22,9 @@ public:
 
     void synchronise();
 
+signals:
+    void shows(const QString& text);
+
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
