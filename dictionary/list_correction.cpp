@@ -26,6 +26,8 @@ std::string shown(std::string_view line)
 /// What follows "Line N of the list " in the sentence about this line; empty for a word that may come next.
 std::string faultOf(std::string_view line, std::string_view previous)
 {
+    if (std::ranges::all_of(line, ascii::isUpper) && line > previous)
+        return {};
     if (line.empty())
         return "is empty.";
     if (isMaintainedHeader(line))
@@ -36,9 +38,7 @@ std::string faultOf(std::string_view line, std::string_view previous)
         return "is in lower case, and only capital letters can be played: " + shown(line);
     if (line == previous)
         return "is there twice: " + shown(line);
-    if (line < previous)
-        return "is out of order, so that words of the list are not found: " + shown(line);
-    return {};
+    return "is out of order, so that words of the list are not found: " + shown(line);
 }
 
 /// The words that can be played. Spaces around them and the mark at the beginning of a file, both invisible, do not

@@ -153,8 +153,9 @@ TEST_F(MaintenanceTest, WhatReadsBackOtherwiseIsUndone)
         add("COW");
         ASSERT_GE(messages.size(), 5U);
         EXPECT_EQ(messages[4], message);
-        if (message == "Error 1CATBAT") // the first word is listed before it is compared
-            EXPECT_EQ(maintenance.List1.list(0), "BAT");
+        if (message == "Error 1CATBAT") {
+            EXPECT_EQ(maintenance.List1.list(0), "BAT") << "listed before it is compared";
+        }
         EXPECT_EQ(messages.back(), message[0] == 'E' ? "File restored " + file : message);
         EXPECT_EQ(readFile(file), "CAT\r\nDOG\r\n");
         EXPECT_EQ(readFile(backup(2)), "CAT\r\nDOG\r\n");
