@@ -136,6 +136,19 @@ std::string expandOldLine(std::string_view previous, std::string_view line)
     return word;
 }
 
+std::optional<Coding> codingOf(const std::string& path)
+{
+    try {
+        const std::string text = readFile(path);
+        if (text.empty())
+            return std::nullopt;
+        const std::string_view firstLine = std::string_view(text).substr(0, text.find_first_of("\r\n"));
+        return isMaintainedHeader(firstLine) ? Coding::Maintained : Coding::Plain;
+    } catch (const FileError&) {
+        return std::nullopt;
+    }
+}
+
 const std::string& LineDecoder::read(std::string_view line)
 {
     if (coding_ == Coding::Plain) {

@@ -2,6 +2,7 @@
 
 #include "dictionary/word_list.hpp"
 
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -55,6 +56,10 @@ std::string expandOldLine(std::string_view previous, std::string_view line);
 
 /// How the words of a file are written: in the maintained format, in its older form, or plainly, one per line.
 enum class Coding { Maintained, OldMaintained, Plain };
+
+/// How the words of a file are written, by its first line: plainly or in the maintained format. Nothing if there are
+/// none, or no such file.
+std::optional<Coding> codingOf(const std::string& path);
 
 /// Reads the lines of a dictionary file in order.
 class LineDecoder

@@ -16,38 +16,6 @@ namespace
 
 constexpr const char* userDictionaryRefused = "Cannot add words to user dictionary through this option";
 
-std::string_view firstLine(std::string_view text)
-{
-    return text.substr(0, text.find_first_of("\r\n"));
-}
-
-/// The lines of a file, split and limited like a word list even if they are coded.
-WordList readLinesOf(const std::string& path)
-{
-    try {
-        return WordList::ofLines(readFile(path));
-    } catch (const std::length_error& error) {
-        throw FileError(error.what(), path, 0);
-    }
-}
-
-/// Restores the file if it has changed. Returns the error, preceded by a line end, or an empty string.
-std::string putBack(const std::string& path, const std::string& oldText)
-{
-    try {
-        if (readFile(path) == oldText)
-            return {};
-    } catch (const FileError&) {
-        // A file that cannot be read is rewritten.
-    }
-    try {
-        replaceFile(path, oldText);
-        return {};
-    } catch (const FileError& error) {
-        return std::string("\n") + error.what();
-    }
-}
-
 } // namespace
 
 DictionaryMaintenance::DictionaryMaintenance(Dictionary& dictionary, Dialogs& dialogs, Screen& screen,
@@ -194,18 +162,31 @@ void DictionaryMaintenance::removeWord()
 
 void DictionaryMaintenance::writePlainList()
 {
+    makePlain(Stages::Told);
+}
+
+bool DictionaryMaintenance::restorePlainList()
+{
+    activate(); // chooses the level
+    return makePlain(Stages::Silent);
+}
+
+bool DictionaryMaintenance::makePlain(Stages stages)
+{
     const std::optional<LevelFiles> files = chosenFiles();
     if (!files)
-        return;
+        return false;
     Rewrite rewrite{.coding = Coding::Plain,
+                    .stages = stages,
                     .toWrite = "write plain word list " + files->name,
                     .written = "Plain word list written,",
                     .done = "Level " + std::to_string(files->level) + " is a plain word list: " + files->name,
                     .restored = "File restored "};
     if (!readAsPlainList(*files, rewrite) || !rewriteFile(*files, rewrite))
-        return;
+        return false;
     if (dictionary_.holdsCodedLines())
         dictionary_.replaceCodedLines(rewrite.words);
+    return true;
 }
 
 void DictionaryMaintenance::exit()
@@ -215,13 +196,8 @@ void DictionaryMaintenance::exit()
     const std::optional<LevelFiles> files = chosenFiles();
     if (!files)
         return;
-    try {
-        if (!isMaintainedHeader(firstLine(readFile(files->path))))
-            return;
-    } catch (const FileError&) {
-        return; // nothing to write, and nothing to ask
-    }
-    if (dialogs_.confirm(std::string(maintenance_text::plainListQuestion)))
+    if (codingOf(files->path) == Coding::Maintained &&
+        dialogs_.confirm(std::string(maintenance_text::plainListQuestion)))
         writePlainList();
 }
 
@@ -281,10 +257,9 @@ bool DictionaryMaintenance::readAsPlainList(const LevelFiles& files, Rewrite& re
 {
     try {
         const BusyPointer busy(screen_);
-        const std::string text = readFile(files.path);
-        if (!isMaintainedHeader(firstLine(text)))
+        if (codingOf(files.path) == Coding::Plain)
             throw FormatError("The file already is a plain word list");
-        const MaintainedWords decoded = decodeMaintained(text);
+        const MaintainedWords decoded = decodeMaintained(readFile(files.path));
         SortingList ListBoy1;
         for (const std::string& item : decoded.words)
             ListBoy1.Additem(item);
@@ -299,95 +274,6 @@ bool DictionaryMaintenance::readAsPlainList(const LevelFiles& files, Rewrite& re
         dialogs_.message(FileError(error.what(), files.path, 0).what());
     }
     return false;
-}
-
-/// Backs the file up, writes it and verifies it. Returns true if it reads back as written.
-bool DictionaryMaintenance::rewriteFile(const LevelFiles& files, const Rewrite& rewrite)
-{
-    std::string oldText;
-    try {
-        const BusyPointer busy(screen_);
-        oldText = readFile(files.path);
-        replaceFile(files.backup, oldText);
-    } catch (const FileError& error) {
-        dialogs_.message(error.what());
-        return false;
-    }
-    dialogs_.message("File " + files.backup + " backed up, now " + rewrite.toWrite);
-    try {
-        const BusyPointer busy(screen_);
-        std::string text;
-        if (rewrite.coding == Coding::Maintained) {
-            text = headerLine(rewrite.words.entry(1), clock_.shortDate(), clock_.shortTime()) + "\r\n";
-            dictionary_.codingBase = writtenCodingBase;
-        }
-        replaceFile(files.path, text += rewrite.lines);
-    } catch (const FileError& error) {
-        dialogs_.message(error.what() + putBack(files.path, oldText));
-        return false;
-    }
-    dialogs_.message(rewrite.written + " now read and verify " + files.name);
-    return readBack(files, rewrite, oldText);
-}
-
-bool DictionaryMaintenance::readBack(const LevelFiles& files, const Rewrite& rewrite, const std::string& oldText)
-{
-    std::optional<Difference> difference;
-    try {
-        const BusyPointer busy(screen_);
-        difference = verify(files, rewrite);
-    } catch (const FileError& error) {
-        dialogs_.message(error.what() + putBack(files.path, oldText));
-        return false;
-    }
-    if (!difference) {
-        dialogs_.message(rewrite.done);
-        return true;
-    }
-    std::string text = "Error "; // the blank is the number's sign
-    text += std::to_string(difference->index);
-    text += rewrite.words.entry(difference->index);
-    dialogs_.message(text + difference->read);
-    restore(files, rewrite, oldText);
-    return false;
-}
-
-/// Compares the file with the words up to the first difference; `List1` then holds the words that match. A line that
-/// cannot be decoded and an early end are differences too.
-std::optional<DictionaryMaintenance::Difference> DictionaryMaintenance::verify(const LevelFiles& files,
-                                                                               const Rewrite& rewrite)
-{
-    List1.Clear();
-    const WordList lines = readLinesOf(files.path);
-    LineDecoder decoder(rewrite.coding);
-    int same = 0;
-    try {
-        while (same < lines.count() && decoder.read(lines.entry(same + 1)) == rewrite.words.entry(same + 1))
-            ++same;
-    } catch (const FormatError&) {
-        // The line at which decoding stopped is the difference.
-    }
-    List1.fill(rewrite.words, same);
-    if (rewrite.coding == Coding::Maintained)
-        dictionary_.codingBase = decoder.codingBase();
-    if (lines.count() > 0 && same == lines.count() && same >= rewrite.words.count())
-        return {};
-    return Difference{same + 1, decoder.word()};
-}
-
-/// Copies the backup over the file or, if that fails, writes the text read before the rewrite.
-void DictionaryMaintenance::restore(const LevelFiles& files, const Rewrite& rewrite, const std::string& oldText)
-{
-    try {
-        copyFile(files.backup, files.path);
-    } catch (const FileError& error) {
-        const std::string failure = putBack(files.path, oldText);
-        if (!failure.empty()) {
-            dialogs_.message(error.what() + failure);
-            return;
-        }
-    }
-    dialogs_.message(rewrite.restored + files.name);
 }
 
 } // namespace lexigrove

@@ -90,8 +90,11 @@ public:
     void removeWord();     ///< `Removewordx`
 
     /// Rewrites the level's file, which is in the maintained format, as a plain list of its words in ascending order.
-    /// If the loaded entries are that file's coded lines, the words replace them.
+    /// If the loaded entries are that file's coded lines, the words replace them. A backup that is a plain list stays.
     void writePlainList();
+
+    /// The same for the loaded level, with a message only if it fails. Returns true if the file is now a plain list.
+    bool restorePlainList();
 
     /// `Command4`: closes the window. If words have been added or removed, it first asks, once, whether to write the
     /// level file as a plain list.
@@ -111,10 +114,14 @@ private:
         std::string backup; ///< its full path
     };
 
+    /// Whether each stage of a rewrite has its message.
+    enum class Stages { Told, Silent };
+
     /// How to rewrite a level file, and the messages that differ between rewrites.
     struct Rewrite {
         Coding coding;
-        std::string toWrite;  ///< after "File ", the backup's name and " backed up, now "
+        Stages stages = Stages::Told;
+        std::string toWrite;  ///< after what has become of the backup, and ", now "
         std::string written;  ///< before " now read and verify " and the file's name
         std::string done;     ///< when it reads back the same
         std::string restored; ///< when it does not, before the file's name
@@ -132,7 +139,9 @@ private:
     [[nodiscard]] std::optional<LevelFiles> chosenFiles();
     [[nodiscard]] std::optional<LevelFiles> filesToChange();
     bool changeWords(std::span<const std::string_view> items, int count, Rewrite& rewrite, const LevelFiles& files);
+    bool makePlain(Stages stages);
     bool readAsPlainList(const LevelFiles& files, Rewrite& rewrite);
+    void tellStage(const Rewrite& rewrite, const std::string& text);
     bool rewriteFile(const LevelFiles& files, const Rewrite& rewrite);
     bool readBack(const LevelFiles& files, const Rewrite& rewrite, const std::string& oldText);
     [[nodiscard]] std::optional<Difference> verify(const LevelFiles& files, const Rewrite& rewrite);

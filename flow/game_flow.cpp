@@ -1,10 +1,12 @@
 #include "flow/game_flow.hpp"
 
+#include "dictionary/list_correction.hpp"
 #include "flow/game_parts.hpp"
 #include "platform/leaving.hpp"
 #include "settings/window_colours.hpp"
 
 #include <exception>
+#include <filesystem>
 
 namespace lexigrove
 {
@@ -214,14 +216,64 @@ void GameFlow::beginGame()
     p.game.state.resetForNewGame();
     p.game.state.computerGame = p.options.isComputerGame();
     p.game.state.kind = p.options.settings.presetLetters.areWaiting() ? GameKind::Preset : GameKind::Normal;
-    p.maintenance.reset();
-    p.dictionary.read(p.ports.dialogs, p.ports.status, p.ports.random, p.ports.clock);
+    readDictionary();
+    offerCorrectedList();
     p.game.board.layOut(p.options.isSquare() ? Arrangement::Square : Arrangement::Staggered);
     p.game.supply.dealLetters();
     p.game.refreshLooks();
     if (p.game.state.computerGame)
         p.options.settings.presetLetters.markUnrecorded();
     gameBegun();
+}
+
+/// Reads the words of a game. A level in the maintained format has none that can be played: it can be made a plain list
+/// again there and then.
+void GameFlow::readDictionary()
+{
+    GameParts& p = *parts_;
+    const auto read = [&] {
+        p.maintenance.reset();
+        p.dictionary.read(p.ports.dialogs, p.ports.status, p.ports.random, p.ports.clock);
+    };
+    read();
+    if (!p.dictionary.holdsCodedLines())
+        return;
+    const std::string level = "Level " + std::to_string(p.dictionary.loadedLevel());
+    if (p.ports.dialogs.offer(level + " is in the compact form of Dictionary Maintenance: none of its words can be "
+                                      "played.\r\n\r\nMake it a plain word list again, and play?") &&
+        p.maintenance.restorePlainList()) {
+        read();
+        p.ports.status.show(level + " is a plain word list again");
+    }
+}
+
+/// Words in a list of the player's own that cannot be played are easily overlooked. A corrected copy is offered once;
+/// later games with the same list only tell.
+void GameFlow::offerCorrectedList()
+{
+    GameParts& p = *parts_;
+    if (p.dictionary.loadedLevel() != 0)
+        return;
+    const std::string name = p.dictionary.fileTable[0];
+    const std::string fault = firstFault(p.dictionary.words, name);
+    if (fault.empty())
+        return;
+    const std::string copy = correctedName(name);
+    if (uncorrectedList_ != name &&
+        p.ports.dialogs.offer(fault + "\r\n\r\nPlay with a corrected copy? It is written beside the list, as " +
+                              std::filesystem::path(copy).filename().string() + ".")) {
+        try {
+            writeCorrected(p.dictionary.path(0), p.folder / std::filesystem::path(copy));
+            p.options.UsrDictName.Text = p.options.UsrDictName.ToolTipText = copy;
+            p.dictionary.applyChoice(0, copy);
+            readDictionary();
+            return;
+        } catch (const std::exception& failure) {
+            p.ports.dialogs.message(failure.what());
+        }
+    }
+    uncorrectedList_ = name;
+    p.ports.status.tell(fault);
 }
 
 /// Counts down in a game against the computer; in a solo game it goes on showing the time of day.

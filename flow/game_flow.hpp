@@ -127,6 +127,8 @@ private:
     void endInput();
 
     void beginGame();
+    void readDictionary();
+    void offerCorrectedList();
     void beginFrom(const BoardPosition& board, GameKind kind);
     void gameBegun();
     void clearGame();
@@ -164,6 +166,7 @@ private:
     std::optional<Position> declined_; ///< the file's, which the player did not want to continue
     std::vector<int> refused_; ///< the path of a word that is in no dictionary
     std::string lastRecord_;           ///< the file of the game that was over last, empty for none
+    std::string uncorrectedList_;      ///< the player's own list that is played in spite of its faults
     Keeping keeping_ = Keeping::On;
     bool failureToSaveTold_ = false;
     bool noWordLeft_ = false; ///< which was told

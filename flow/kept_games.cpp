@@ -141,9 +141,8 @@ void GameFlow::continueFrom(const Position& position)
     resume();
     p.options.takeChoices();
     p.services.choose(p.options);
-    p.maintenance.reset();
     p.dictionary.applyChoice(position.board.level, position.userDictionary);
-    p.dictionary.read(p.ports.dialogs, p.ports.status, p.ports.random, p.ports.clock);
+    readDictionary();
     restore(p.game, position);
     if (position.state.kind == GameKind::Normal && !position.state.computerGame)
         p.options.settings.presetLetters.clear();
@@ -167,9 +166,9 @@ void GameFlow::beginFrom(const BoardPosition& board, GameKind kind)
     p.game.state.resetForNewGame();
     p.game.state.computerGame = false;
     p.game.state.kind = kind;
-    p.maintenance.reset();
     p.dictionary.applyChoice(board.level, p.options.UsrDictName.Text);
-    p.dictionary.read(p.ports.dialogs, p.ports.status, p.ports.random, p.ports.clock);
+    readDictionary();
+    offerCorrectedList();
     restore(p.game, board);
     if (kind != GameKind::Position) // counted as in a game that is dealt
         p.game.state.tilesLeft = std::min(p.game.state.tilesLeft, LetterSupply::startCount(board.arrangement));

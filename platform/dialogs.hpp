@@ -26,6 +26,10 @@ public:
     /// A question with Yes and No; true for Yes.
     virtual bool confirm(const std::string& text) = 0;
 
+    /// Offers to mend what would spoil the game; true if the player accepts. Where nobody can look into it, nothing is
+    /// asked and the game goes on as it is.
+    virtual bool offer(const std::string& /*text*/) { return false; }
+
     /// An input box. Cancel and an empty answer both return an empty string.
     virtual std::string input(const std::string& title, const std::string& prompt,
                               const std::string& defaultAnswer) = 0;

@@ -153,6 +153,9 @@ TEST_F(MaintenanceTest, WhatReadsBackOtherwiseIsUndone)
         add("COW");
         ASSERT_GE(messages.size(), 5U);
         EXPECT_EQ(messages[4], message);
+        if (message == "Error 1CATBAT") {
+            EXPECT_EQ(maintenance.List1.list(0), "BAT") << "listed before it is compared";
+        }
         EXPECT_EQ(messages.back(), message[0] == 'E' ? "File restored " + file : message);
         EXPECT_EQ(readFile(file), "CAT\r\nDOG\r\n");
         EXPECT_EQ(readFile(backup(2)), "CAT\r\nDOG\r\n");
@@ -261,6 +264,16 @@ TEST_F(MaintenanceTest, CodedLinesAreConverted)
     EXPECT_EQ(dictionary.words.findWord("DOG"), 3) << "the words take the place of their coded lines";
     add("EMU");
     EXPECT_EQ(messages.size(), 5U);
+
+    // The backup of before the addition is the only plain list now: it stays, and is not what a failure restores.
+    const std::string withEmu = readFile(file);
+    for (const bool fails : {true, false}) {
+        dialogs.at["Plain word list written"] = [&] { fails ? replaceFile(file, "CAT\r\n") : void(); };
+        change(&DictionaryMaintenance::writePlainList);
+        EXPECT_EQ(messages[0], "File " + backup(1) + " is kept, now write plain word list " + file);
+        EXPECT_EQ(readFile(file), fails ? withEmu : "CAT\r\nCATS\r\nDOG\r\nEMU\r\n");
+        EXPECT_EQ(readFile(backup(1)), "CAT\r\nCATS\r\nDOG\r\n");
+    }
 
     load(1, {"CAT"});
     change(&DictionaryMaintenance::writePlainList);

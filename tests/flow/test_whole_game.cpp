@@ -91,5 +91,35 @@ TEST(WholeGame, DeveloperModeHasAPasswordAndKeys)
     EXPECT_FALSE(played.state.developerMode);
 }
 
+// Guards the ways out of a list that cannot be played: accepted, the very game that begins has its words; declined, it
+// goes on as it is, and one's own list is not asked about again.
+TEST(WholeGame, ListsThatCannotBePlayedAreMended)
+{
+    PlayedGame played;
+    const WordList& words = played.flow.view().dictionary.words;
+    const auto wordsAfter = [&](bool accepted, std::size_t offers) {
+        played.dialogs.acceptsOffers = accepted;
+        played.start(Arrangement::Square);
+        EXPECT_EQ(played.dialogs.offers.size(), offers);
+        return words.count() == 0 ? "" : std::string(words.entry(words.count()));
+    };
+    wordsAfter(false, 0);
+    ASSERT_TRUE(played.study.maintain(Study::Maintenance::AddWord, "ZEBRA"));
+    played.dialogs.messages.clear();
+    EXPECT_NE(wordsAfter(false, 1), "ZEBRA");
+    EXPECT_EQ(wordsAfter(true, 2), "ZEBRA");
+    EXPECT_TRUE(played.dialogs.messages.empty());
+
+    played.folder.write("UsrDict.txt", "quiz\r\nCAT\r\n");
+    played.choose(&OptionsForm::Option2);
+    EXPECT_EQ(wordsAfter(false, 3), "CAT");
+    EXPECT_EQ(wordsAfter(true, 3), "CAT");
+    EXPECT_TRUE(played.status.News.starts_with("Line 1 of UsrDict.txt is in lower case"));
+    played.folder.write("Mine.txt", "quiz\r\nCAT\r\n");
+    played.study.chooseOptions([](OptionsForm& form) { form.typeUserDictName("Mine.txt"); });
+    EXPECT_EQ(wordsAfter(true, 4), "QUIZ");
+    EXPECT_EQ(wordsAfter(true, 4), "QUIZ") << "the copy stays chosen";
+}
+
 } // namespace
 } // namespace lexigrove

@@ -70,6 +70,8 @@ class ScriptedDialogs : public Dialogs
 public:
     std::vector<std::string> messages;
     std::vector<std::string> questions;
+    std::vector<std::string> offers;
+    bool acceptsOffers = false;
     std::deque<std::string> answers;                 ///< "yes" to a Yes/No question is Yes
     std::map<std::string, std::function<void()>> at; ///< by the beginning of the message or question
     std::vector<OpenFileRequest> requests;
@@ -80,6 +82,11 @@ public:
         act(text);
     }
     bool confirm(const std::string& text) override { return answerTo(text) == "yes"; }
+    bool offer(const std::string& text) override
+    {
+        offers.push_back(text);
+        return acceptsOffers;
+    }
     std::string input(const std::string& title, const std::string& prompt, const std::string& shown) override
     {
         return answerTo(title + ": " + prompt + " [" + shown + "]");

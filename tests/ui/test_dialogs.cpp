@@ -184,12 +184,16 @@ TEST_F(DialogTest, MaintenanceSearchesAndAddsAWord)
         EXPECT_EQ(dialog.findChild<QLabel*>("Count")->text(), "2 of 5 words") << "the words read back";
         QTest::keyClick(&dialog, Qt::Key_Escape);
     });
-    script.box("Write the level file as a plain word list, so that the next game can use it?", QMessageBox::Yes);
-    script.box("File " + backup + " backed up, now write plain word list " + file);
-    script.box("Plain word list written, now read and verify " + file);
-    script.box("Level 2 is a plain word list: " + file);
+    script.box("Write the level file as a plain word list, so that the next game can use it?", QMessageBox::No);
     press("AddWord");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return board().hasFocus(); })) << "to go on typing";
+
+    script.box("Level 2 is in the compact form of Dictionary Maintenance: none of its words can be played.\n\n"
+               "Make it a plain word list again, and play?",
+               QMessageBox::Yes);
+    start({});
     EXPECT_EQ(folder.read("L2Ascii.txt"), "ACT\r\nCAT\r\nCATS\r\nCOT\r\nDO\r\n");
+    EXPECT_EQ(shown("Label1"), "Level 2 is a plain word list again");
 }
 
 TEST_F(DialogTest, TheAboutBoxClosesThreeWays)

@@ -113,8 +113,8 @@ int EventGate::exec(QDialog& dialog)
     dialogs_.pop_back();
     if (dialogs_.empty())
         qApp->removeEventFilter(this);
-    else
-        dialogs_.back()->activateWindow();
+    if (QWidget* const below = dialog.parentWidget())
+        below->activateWindow(); // the keys go back to it, whatever the desktop does
     checkpoint();
     return dialog.result();
 }

@@ -55,6 +55,12 @@ bool QtDialogs::confirm(const std::string& text)
     return host_.gate.exec(box) == QMessageBox::Yes;
 }
 
+bool QtDialogs::offer(const std::string& text)
+{
+    emit host_.modelsChanged(); // the status line below says what it is about
+    return confirm(text);
+}
+
 std::string QtDialogs::input(const std::string& title, const std::string& prompt, const std::string& defaultAnswer)
 {
     emit host_.modelsChanged(); // the window below shows what the question is about

@@ -1,0 +1,154 @@
+#include "dictionary/maintenance.hpp"
+#include "platform/text_file.hpp"
+
+#include <stdexcept>
+
+/// How the maintenance rewrites a level's file: the backup, the file, the verification, and the way back.
+namespace lexigrove
+{
+
+namespace
+{
+
+/// The lines of a file, split and limited like a word list even if they are coded.
+WordList readLinesOf(const std::string& path)
+{
+    try {
+        return WordList::ofLines(readFile(path));
+    } catch (const std::length_error& error) {
+        throw FileError(error.what(), path, 0);
+    }
+}
+
+/// Restores the file if it has changed. Returns the error, preceded by a line end, or an empty string.
+std::string putBack(const std::string& path, const std::string& oldText)
+{
+    try {
+        if (readFile(path) == oldText)
+            return {};
+    } catch (const FileError&) {
+        // A file that cannot be read is rewritten.
+    }
+    try {
+        replaceFile(path, oldText);
+        return {};
+    } catch (const FileError& error) {
+        return std::string("\n") + error.what();
+    }
+}
+
+} // namespace
+
+void DictionaryMaintenance::tellStage(const Rewrite& rewrite, const std::string& text)
+{
+    if (rewrite.stages == Stages::Told)
+        dialogs_.message(text);
+}
+
+/// Backs the file up, writes it and verifies it. Returns true if it reads back as written. A plain list is written from
+/// coded lines, so that a backup which is plain may be the only list that is left from before: it stays.
+bool DictionaryMaintenance::rewriteFile(const LevelFiles& files, const Rewrite& rewrite)
+{
+    std::string oldText;
+    std::string backup = "File " + files.backup;
+    try {
+        const BusyPointer busy(screen_);
+        oldText = readFile(files.path);
+        if (rewrite.coding == Coding::Plain && codingOf(files.backup) == Coding::Plain) {
+            backup += " is kept";
+        } else {
+            replaceFile(files.backup, oldText);
+            backup += " backed up";
+        }
+    } catch (const FileError& error) {
+        dialogs_.message(error.what());
+        return false;
+    }
+    tellStage(rewrite, backup + ", now " + rewrite.toWrite);
+    try {
+        const BusyPointer busy(screen_);
+        std::string text;
+        if (rewrite.coding == Coding::Maintained) {
+            text = headerLine(rewrite.words.entry(1), clock_.shortDate(), clock_.shortTime()) + "\r\n";
+            dictionary_.codingBase = writtenCodingBase;
+        }
+        replaceFile(files.path, text += rewrite.lines);
+    } catch (const FileError& error) {
+        dialogs_.message(error.what() + putBack(files.path, oldText));
+        return false;
+    }
+    tellStage(rewrite, rewrite.written + " now read and verify " + files.name);
+    return readBack(files, rewrite, oldText);
+}
+
+bool DictionaryMaintenance::readBack(const LevelFiles& files, const Rewrite& rewrite, const std::string& oldText)
+{
+    std::optional<Difference> difference;
+    try {
+        const BusyPointer busy(screen_);
+        difference = verify(files, rewrite);
+    } catch (const FileError& error) {
+        dialogs_.message(error.what() + putBack(files.path, oldText));
+        return false;
+    }
+    if (!difference) {
+        tellStage(rewrite, rewrite.done);
+        return true;
+    }
+    std::string text = "Error "; // the blank is the number's sign
+    text += std::to_string(difference->index);
+    text += rewrite.words.entry(difference->index);
+    dialogs_.message(text + difference->read);
+    restore(files, rewrite, oldText);
+    return false;
+}
+
+/// Compares the file with the words up to the first difference; `List1` then holds the words that match, or the first
+/// word of the file if that differs. A line that cannot be decoded and an early end are differences too.
+std::optional<DictionaryMaintenance::Difference> DictionaryMaintenance::verify(const LevelFiles& files,
+                                                                               const Rewrite& rewrite)
+{
+    List1.Clear();
+    const WordList lines = readLinesOf(files.path);
+    LineDecoder decoder(rewrite.coding);
+    int same = 0;
+    try {
+        for (; same < lines.count(); ++same) {
+            const std::string_view read = decoder.read(lines.entry(same + 1));
+            if (same == 0)
+                List1.fill(WordList::of(std::span(&read, 1)), 1);
+            if (read != rewrite.words.entry(same + 1))
+                break;
+        }
+    } catch (const FormatError&) {
+        // The line at which decoding stopped is the difference.
+    }
+    if (same > 0)
+        List1.fill(rewrite.words, same);
+    if (rewrite.coding == Coding::Maintained)
+        dictionary_.codingBase = decoder.codingBase();
+    if (lines.count() > 0 && same == lines.count() && same >= rewrite.words.count())
+        return {};
+    return Difference{same + 1, decoder.word()};
+}
+
+/// Copies the backup over the file or, if that fails or the backup is an older one, writes the text read before the
+/// rewrite.
+void DictionaryMaintenance::restore(const LevelFiles& files, const Rewrite& rewrite, const std::string& oldText)
+{
+    try {
+        if (rewrite.coding == Coding::Plain)
+            replaceFile(files.path, oldText);
+        else
+            copyFile(files.backup, files.path);
+    } catch (const FileError& error) {
+        const std::string failure = putBack(files.path, oldText);
+        if (!failure.empty()) {
+            dialogs_.message(error.what() + failure);
+            return;
+        }
+    }
+    dialogs_.message(rewrite.restored + files.name);
+}
+
+} // namespace lexigrove
