@@ -14,7 +14,7 @@ namespace lexigrove
 namespace
 {
 
-QString text(const char* english)
+QString spoken(const char* english)
 {
     return QCoreApplication::translate("Speaker", english);
 }
@@ -44,8 +44,8 @@ void Speaker::lookAtGame()
     if (rows > rows_) {
         const auto& made = state.WordsMade.row(1);
         const bool computers = made.maker == Maker::Computer;
-        say((computers ? text("The computer made %1 for %2. It has %3 points")
-                       : text("%1 made for %2. You have %3 points"))
+        say((computers ? spoken("The computer made %1 for %2. It has %3 points")
+                       : spoken("%1 made for %2. You have %3 points"))
                 .arg(toQString(made.word))
                 .arg(made.score)
                 .arg(computers ? state.compScore : state.yourScore));
@@ -53,7 +53,7 @@ void Speaker::lookAtGame()
     rows_ = rows;
     const QString word = toQString(flow_.view().selection.word());
     if (word != word_ && !word.isEmpty())
-        say(text("%1, %2").arg(word, toQString(state.currScoreText())));
+        say(spoken("%1, %2").arg(word, toQString(state.currScoreText())));
     word_ = word;
     lookAtClock();
 }
@@ -64,7 +64,7 @@ void Speaker::lookAtClock()
     const int left = counts ? flow_.view().clock.currentValue() : 0;
     for (const int seconds : {60, 30, 10}) {
         if (secondsLeft_ > seconds && left <= seconds && left > 0)
-            say(text("%1 seconds left").arg(seconds));
+            say(spoken("%1 seconds left").arg(seconds));
     }
     secondsLeft_ = left;
 }
