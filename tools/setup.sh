@@ -3,8 +3,8 @@
 # These scripts write their messages to standard error: standard output belongs to the game or the tests.
 say() { printf '%s\n' "$*" >&2; }
 
-# Prints the packages in debian/control's Build-Depends, one per line; with "game", without those that only checking
-# needs.
+# Prints the packages in debian/control's Build-Depends, one per line; with "game", without those that only checking and
+# packaging need.
 needed_packages() {
     awk -v game="${1:-}" '
         /^#/ { next }
@@ -13,9 +13,10 @@ needed_packages() {
         inside {
             count = split($0, entries, ",")
             for (i = 1; i <= count; i++) {
-                if (game == "game" && entries[i] ~ /<!nocheck>/) continue
+                if (game == "game" && entries[i] ~ /<|debhelper/) continue
                 split(entries[i], words, /[ \t(<\[|]+/)
                 name = words[1] == "" ? words[2] : words[1]
+                sub(/^debhelper-compat$/, "debhelper", name) # a name that debhelper goes by
                 if (name != "") print name
             }
         }' "$root/debian/control"

@@ -59,6 +59,8 @@ int play(const StartOptions& options)
             return;
         if (options.position)
             flow.playPosition(*options.position);
+        else if (options.daily)
+            flow.perform(Command::Daily);
         else if (options.startAtOnce)
             flow.startGame();
         else

@@ -55,6 +55,7 @@ StartOptions readStartOptions(int argc, char** argv)
         {"folder", "The folder of the game's files: word lists, sounds, colour schemes, scores, configuration.", "DIR"},
         {"arrangement", "The arrangement of the tiles, preset in the options dialog.", "square|staggered"},
         {"position", "Begins with this board, a line that Copy Board gives or docs/position.md describes.", "TEXT"},
+        {"daily", "Begins with the board of the day."},
         {"start", "Starts a game with the stored options at once, without the options dialog."},
         {"help", "Shows this text."},
         {"version", "Shows the version."},
@@ -86,6 +87,7 @@ StartOptions readStartOptions(int argc, char** argv)
         options.arrangement = arrangementNamed(parser.value("arrangement"));
     if (parser.isSet("position"))
         options.position = positionOf(parser.value("position"));
+    options.daily = parser.isSet("daily");
     options.startAtOnce = parser.isSet("start");
     return options;
 }

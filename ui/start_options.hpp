@@ -15,6 +15,7 @@ struct StartOptions {
     std::optional<std::string> folder;      ///< the program folder
     std::optional<Arrangement> arrangement; ///< presets the options dialog
     std::optional<BoardPosition> position;  ///< begins with this board, without the options dialog
+    bool daily = false;                     ///< begins with the board of the day
     bool startAtOnce = false;               ///< a game with the stored options, without the options dialog
 };
 

@@ -16,6 +16,7 @@
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QPushButton>
+#include <QTextBrowser>
 
 #include <algorithm>
 #include <array>
@@ -142,6 +143,9 @@ TEST(PageView, WithoutTheEngineTheViewSaysSo)
     const QString text = view.findChild<QLabel*>("Failure")->text();
     EXPECT_TRUE(text.contains("https://words.example/CAT") && text.contains("not installed")) << text.toStdString();
     EXPECT_TRUE(view.findChild<QPushButton*>("SystemBrowser")->isVisibleTo(&view));
+    view.navigate(QUrl::fromLocalFile(DATA_FOLDER "lexigrove.htm"));
+    EXPECT_TRUE(view.findChild<QTextBrowser*>()->toPlainText().contains("How to play in a minute"));
+    view.close();
 
     empty.write("lexigrove-browser.so", "no module at all");
     view.navigate(QUrl("https://words.example/CAT"));

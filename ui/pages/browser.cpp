@@ -1,7 +1,9 @@
 #include "ui/pages/browser.hpp"
 
+#include <QFileInfo>
 #include <QScopeGuard>
 
+#include <algorithm>
 #include <cstdio>
 #include <utility>
 
@@ -27,6 +29,12 @@ void printUnlessHarmless(QtMsgType type, const QMessageLogContext& context, cons
 } // namespace
 
 BrowserLoader::BrowserLoader(QStringList folders) : folders_(std::move(folders)) {}
+
+bool BrowserLoader::isInstalled() const
+{
+    return std::ranges::any_of(
+        folders_, [](const QString& folder) { return QFileInfo::exists(folder + "/lexigrove-browser.so"); });
+}
 
 std::unique_ptr<BrowserPage> BrowserLoader::newPage(const BrowserPageSetup& setup)
 {

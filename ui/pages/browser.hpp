@@ -61,6 +61,9 @@ public:
     /// installed.
     explicit BrowserLoader(QStringList folders = moduleFolders());
 
+    /// Whether the module is there at all: it is a package of its own.
+    [[nodiscard]] bool isInstalled() const;
+
     /// A page, or null if the module cannot be loaded; `failure` then says why.
     [[nodiscard]] std::unique_ptr<BrowserPage> newPage(const BrowserPageSetup& setup);
     [[nodiscard]] const QString& failure() const { return failure_; }

@@ -1,5 +1,7 @@
 #include "ui/pages/browser_view.hpp"
 
+#include "ui/pages/text_page.hpp"
+
 #include <QDesktopServices>
 #include <QGuiApplication>
 #include <QLabel>
@@ -62,7 +64,9 @@ void BrowserView::navigate(const QUrl& address)
 bool BrowserView::openPage()
 {
     const auto emitLoaded = [this](bool success) { emit loaded(success); };
-    page_ = loader_.newPage({rules_, palette().color(QPalette::Window), emitLoaded});
+    page_ = !loader_.isInstalled() && wanted_.isLocalFile()
+                ? newTextPage()
+                : loader_.newPage({rules_, palette().color(QPalette::Window), emitLoaded});
     if (!page_)
         return false;
     failure_->hide();

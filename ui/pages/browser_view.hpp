@@ -11,7 +11,7 @@ namespace lexigrove
 {
 
 /// Shows pages of the web engine. The engine is loaded with the first page; if that fails, the view says so instead and
-/// offers the system's browser.
+/// offers the system's browser. Where the engine is not installed, a local page is shown by the toolkit.
 class BrowserView : public QWidget
 {
     Q_OBJECT

@@ -4,6 +4,7 @@
 #include "ui/pages/browser_view.hpp"
 #include "word_services/meanings.hpp"
 
+#include <QDesktopServices>
 #include <QShortcut>
 #include <QVBoxLayout>
 
@@ -36,6 +37,10 @@ public:
 
 void GameWindows::show(const MeaningForm& form)
 {
+    if (!browser_->isInstalled()) {
+        QDesktopServices::openUrl(QUrl(toQString(form.address)));
+        return;
+    }
     MeaningDialog dialog(host_, *browser_, form);
     host_.gate.exec(dialog);
 }
