@@ -56,15 +56,24 @@ private:
     QElapsedTimer sinceOpen_;
 };
 
-/// A dialog that has no size of its own gets what it asks for, as far as the screen has it; the toolkit would give it
-/// two thirds of the screen at most.
-void fitOnScreen(QDialog& dialog)
+/// A dialog that has no size of its own gets what it asks for, as far as the screen has it (the toolkit would give it
+/// two thirds of the screen at most), and its place over its parent, with its title in sight under every window
+/// manager.
+void placeOnScreen(QDialog& dialog)
 {
-    if (dialog.testAttribute(Qt::WA_Resized))
+    constexpr QMargins frame(8, 32, 8, 8); // what a window manager adds
+    const QRect room = dialog.screen()->availableGeometry().marginsRemoved(frame);
+    if (!dialog.testAttribute(Qt::WA_Resized)) {
+        dialog.ensurePolished();
+        dialog.resize(dialog.sizeHint().boundedTo(room.size()));
+    }
+    if (dialog.testAttribute(Qt::WA_Moved) || dialog.parentWidget() == nullptr)
         return;
-    dialog.ensurePolished();
-    const QSize frame(16, 40); // what a window manager adds
-    dialog.resize(dialog.sizeHint().boundedTo(dialog.screen()->availableSize() - frame));
+    QRect place(QPoint(), dialog.size());
+    place.moveCenter(dialog.parentWidget()->window()->geometry().center());
+    place.moveBottomRight({std::min(place.right(), room.right()), std::min(place.bottom(), room.bottom())});
+    place.moveTopLeft({std::max(place.left(), room.left()), std::max(place.top(), room.top())});
+    dialog.move(place.topLeft() - QPoint(0, frame.top()));
 }
 
 } // namespace
@@ -107,7 +116,7 @@ int EventGate::exec(QDialog& dialog)
     QEventLoop loop;
     connect(&dialog, &QDialog::finished, &loop, &QEventLoop::quit);
     dialog.setWindowModality(Qt::NonModal);
-    fitOnScreen(dialog);
+    placeOnScreen(dialog);
     dialog.show();
     loop.exec();
     dialogs_.pop_back();
