@@ -164,7 +164,7 @@ private:
     const GameView view_;
     std::optional<Position> saved_;    ///< the file's, without what time alone changes; nothing for another game's file
     std::optional<Position> declined_; ///< the file's, which the player did not want to continue
-    std::vector<int> refused_; ///< the path of a word that is in no dictionary
+    std::vector<int> refused_;         ///< the path of a word that is in no dictionary
     std::string lastRecord_;           ///< the file of the game that was over last, empty for none
     std::string uncorrectedList_;      ///< the player's own list that is played in spite of its faults
     Keeping keeping_ = Keeping::On;
