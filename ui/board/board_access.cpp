@@ -240,6 +240,8 @@ QString BoardAccess::nameOf(const GameFlow& flow, const BoardSpot& spot)
     }
     if (!board.isInPlay(spot.tile))
         return {};
+    if (flow.isPaused()) // as the cover has it
+        return BoardView::tr("covered, row %1, column %2").arg(Board::row(spot.tile)).arg(Board::col(spot.tile));
     QString name = BoardView::tr("%1, row %2, column %3")
                        .arg(board.isVisible(spot.tile) ? toQString(board.letter(spot.tile)) : BoardView::tr("empty"))
                        .arg(Board::row(spot.tile))

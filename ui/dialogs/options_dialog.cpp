@@ -15,6 +15,7 @@
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSignalBlocker>
 #include <QVBoxLayout>
 
 #include <functional>
@@ -33,13 +34,21 @@ template <typename Button>
 class ChoiceButton : public Button
 {
 public:
-    using Button::Button;
+    explicit ChoiceButton(const QString& caption) : Button(caption)
+    {
+        // What assistive tools toggle passes by `nextCheckState`.
+        QObject::connect(this, &Button::toggled, this, [this](bool on) {
+            if (on || !this->autoExclusive()) // the radio button that gives way says nothing
+                nextCheckState();
+        });
+    }
 
     std::function<void()> selected;
     std::function<void()> released;
 
     void showValue(bool value)
     {
+        const QSignalBlocker quiet(this);
         const bool exclusive = this->autoExclusive();
         this->setAutoExclusive(false); // otherwise the selected one could not be cleared
         this->setChecked(value);

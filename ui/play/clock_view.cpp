@@ -6,6 +6,7 @@
 #include "settings/readable_colours.hpp"
 #include "ui/machine/mouse.hpp"
 
+#include <QAccessibleWidget>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -24,6 +25,27 @@ Colour readableDigits(Colour digits, Colour panel)
 {
     constexpr double digitContrast = 4;
     return shadeFor(digits, panel, panel, digitContrast);
+}
+
+/// Tells the time when it is asked, and reports no second: the last minute is the speaker's.
+class ClockAccess : public QAccessibleWidget
+{
+public:
+    explicit ClockAccess(ClockFrame& frame) : QAccessibleWidget(&frame, QAccessible::Clock), frame_(frame) {}
+
+    [[nodiscard]] QString text(QAccessible::Text kind) const override
+    {
+        return kind == QAccessible::Name ? frame_.time() : QAccessibleWidget::text(kind);
+    }
+
+private:
+    const ClockFrame& frame_;
+};
+
+QAccessibleInterface* clockInterface(const QString& /*className*/, QObject* object)
+{
+    auto* const frame = qobject_cast<ClockFrame*>(object);
+    return frame != nullptr ? new ClockAccess(*frame) : nullptr;
 }
 
 } // namespace
@@ -70,6 +92,7 @@ ClockFrame::ClockFrame(GameFlow& flow, const Theme& theme, QWidget* parent)
     : QWidget(parent), flow_(flow), theme_(theme), view_(new ClockView(flow, theme, this))
 {
     setObjectName("Frame10");
+    QAccessible::installFactory(clockInterface);
     setToolTip(tr("Click (Space) for thicker digits, right-click (Shift+Space) for another colour"));
     setFocusPolicy(Qt::TabFocus);
     auto* const room = new QVBoxLayout(this);
@@ -83,11 +106,13 @@ void ClockFrame::synchronise()
     if (clock.revision() == shownRevision_)
         return;
     shownRevision_ = clock.revision();
-    const auto figure = [&](int digit) { return QString::number(clock.shownDigit(digit)); };
-    const QString seconds = figure(2) + figure(3);
-    if (clock.ShowTimeOnly() || seconds == "00" || seconds == "30") // a countdown speaks through the speaker
-        view_->setAccessibleName(tr("Clock %1%2:%3%4").arg(figure(0), figure(1), figure(2), figure(3)));
     update();
+}
+
+QString ClockFrame::time() const
+{
+    const auto figure = [this](int digit) { return QString::number(flow_.view().clock.shownDigit(digit)); };
+    return tr("Clock %1%2:%3%4").arg(figure(0), figure(1), figure(2), figure(3));
 }
 
 QSize ClockFrame::sizeHint() const

@@ -41,6 +41,9 @@ public:
     /// Repaints when the clock shows something else.
     void synchronise();
 
+    /// For those who hear it: "Clock 09:59".
+    [[nodiscard]] QString time() const;
+
     [[nodiscard]] QSize sizeHint() const override;
 
 protected:

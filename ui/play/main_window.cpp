@@ -9,7 +9,6 @@
 #include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QMenuBar>
 #include <QScreen>
 #include <QTimer>
@@ -27,8 +26,12 @@ MainWindow::MainWindow(Host& host, GameFlow& flow, const StatusLine& status) : h
     auto* centre = new QWidget(this);
     area_ = new PlayArea(flow, host, centre);
     status_ = new StatusLineView(status, flow, host.theme, centre);
-    speaker_.setVoice(status_->findChild<QLabel*>("Label1"));
-    connect(status_, &StatusLineView::shows, this, [this](const QString& text) { speaker_.say(text); });
+    speaker_.speakFrom(centre);
+    connect(status_, &StatusLineView::shows, this, [this](const QString& text) { speaker_.sayStatus(text); });
+    connect(&host_, &Host::waitingChanged, this, [this](bool waits) {
+        if (waits)
+            speaker_.lookAtComputersWord();
+    });
     connect(&host_, &Host::gameOver, this, [this](const QString& reason, int score) {
         speaker_.say(tr("%1. Your score is %2").arg(reason).arg(score));
     });

@@ -26,6 +26,13 @@ constexpr double wordSize = 28;
 constexpr double scoreShare = 0.78; ///< size of the score's digits relative to the word's letters
 constexpr double frameWidth = 2;
 
+/// Every new name is reported to assistive tools.
+void nameWithValue(QWidget& widget, const QString& name)
+{
+    if (name != widget.accessibleName())
+        widget.setAccessibleName(name);
+}
+
 } // namespace
 
 /// A label whose text is as large as fits, up to a maximum.
@@ -124,10 +131,8 @@ WordBox::WordBox(const GameFlow& flow, const Theme& theme, QWidget* parent)
       CurrScore(new FittingLabel(wordSize * scoreShare, 0, this))
 {
     WordTried->setObjectName("WordTried");
-    WordTried->setAccessibleName(tr("The word so far"));
     WordTried->setPlaceholder(tr("Click or type touching letters"));
     CurrScore->setObjectName("CurrScore");
-    CurrScore->setAccessibleName(tr("Its score"));
     CurrScore->setAlignment(Qt::AlignHCenter);
     CurrScore->setToolTip(tr("What this word is worth"));
     auto* row = new QHBoxLayout(this);
@@ -151,10 +156,13 @@ void WordBox::synchronise()
 {
     const GameState& state = flow_.view().state;
     const WindowColours& colours = theme_.colours();
-    WordTried->setText(toQString(flow_.view().selection.wordTried()));
+    const QString word = toQString(flow_.view().selection.wordTried());
+    WordTried->setText(word);
+    nameWithValue(*WordTried, word.isEmpty() ? tr("No word yet") : tr("The word so far, %1").arg(word));
     const QString score = toQString(state.currScoreText());
     if (score != CurrScore->text()) {
         CurrScore->setText(score);
+        nameWithValue(*CurrScore, score.isEmpty() ? QString() : tr("Its score, %1").arg(score));
         const int width = score.isEmpty() ? 0 : CurrScore->sizeHint().width() + 2 * Theme::grid;
         CurrScore->setFixedWidth(width);
     }
