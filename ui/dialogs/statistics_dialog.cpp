@@ -4,10 +4,10 @@
 #include "ui/game_windows.hpp"
 #include "ui/look/text.hpp"
 
-#include <QFrame>
 #include <QHBoxLayout>
-#include <QLabel>
+#include <QHeaderView>
 #include <QPushButton>
+#include <QTableWidget>
 #include <QVBoxLayout>
 
 namespace lexigrove
@@ -17,6 +17,11 @@ namespace
 {
 
 constexpr int rowHeight = 28;
+constexpr int valueRows = 8;
+
+/// The columns, in the order of the values.
+enum Column : std::uint8_t { Your, Frame2 };
+
 constexpr const char* rowCaptions[] = {"Number of Words made",
                                        "Number of 2 letter Words",
                                        "Number of 3 letter Words",
@@ -34,9 +39,7 @@ public:
     {
         auto* const areas = new QHBoxLayout;
         areas->setSpacing(Theme::gap);
-        areas->addLayout(newCaptions());
-        areas->addWidget(newValues("YourColumn", "Your", 1));
-        areas->addWidget(newValues("Frame2", "Computer", 9));
+        areas->addWidget(newTable());
         areas->addSpacing(Theme::grid);
         areas->addWidget(new ChartView(form, gameHost.theme), 0, Qt::AlignTop);
 
@@ -48,54 +51,57 @@ public:
         QVBoxLayout* const column = newColumn();
         column->addLayout(areas);
         column->addWidget(Exitx, 0, Qt::AlignRight);
+        Exitx->setFocus();
         layout()->setSizeConstraint(QLayout::SetFixedSize);
     }
 
 private:
-    static QLabel* newLabel(const QString& text, Qt::Alignment alignment)
+    /// A real table, which assistive tools read with its headings.
+    QTableWidget* newTable() const
     {
-        auto* const label = new QLabel(text);
-        label->setFixedHeight(Theme::scaled(rowHeight));
-        label->setAlignment(alignment | Qt::AlignVCenter);
-        label->setTextFormat(Qt::PlainText);
-        return label;
-    }
-
-    static QVBoxLayout* newCaptions()
-    {
-        auto* const rows = new QVBoxLayout;
-        rows->setContentsMargins(0, Theme::grid, 0, Theme::grid);
-        rows->setSpacing(0);
-        rows->addWidget(newLabel("", Qt::AlignLeft));
+        auto* const table = new QTableWidget(valueRows, 2);
+        table->setObjectName("sval");
+        table->setAccessibleName(tr("Statistics"));
+        table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+        table->setSelectionMode(QAbstractItemView::SingleSelection);
+        table->setTabKeyNavigation(false);
+        table->setShowGrid(false);
+        table->setCornerButtonEnabled(false);
+        table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        table->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        table->setHorizontalHeaderLabels({"Your", "Computer"});
+        QStringList captions;
         for (const char* const caption : rowCaptions)
-            rows->addWidget(newLabel(caption, Qt::AlignLeft));
-        rows->addStretch();
-        return rows;
+            captions.append(caption);
+        table->setVerticalHeaderLabels(captions);
+        for (QHeaderView* const headings : {table->horizontalHeader(), table->verticalHeader()}) {
+            headings->setSectionsClickable(false);
+            headings->setHighlightSections(false);
+        }
+        table->horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+        table->horizontalHeader()->setDefaultSectionSize(Theme::scaled(14 * Theme::grid));
+        table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+        table->verticalHeader()->setDefaultSectionSize(Theme::scaled(rowHeight));
+        table->verticalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+        for (const Column column : {Your, Frame2}) {
+            for (int row = 0; row < valueRows; ++row)
+                table->setItem(row, column, newValue(row, column));
+        }
+        table->setFixedSize(table->verticalHeader()->sizeHint().width() + table->horizontalHeader()->length() + 2,
+                            table->horizontalHeader()->sizeHint().height() + table->verticalHeader()->length() +
+                                2 * Theme::grid);
+        return table;
     }
 
-    /// The heading and eight of the value labels.
-    QFrame* newValues(const char* objectName, const char* heading, std::size_t first) const
+    QTableWidgetItem* newValue(int row, Column column) const
     {
-        auto* const column = new QFrame;
-        column->setObjectName(objectName);
-        column->setProperty("card", true);
-        column->setMinimumWidth(Theme::scaled(14 * Theme::grid));
-        auto* const rows = new QVBoxLayout(column);
-        rows->setContentsMargins(Theme::gap, Theme::grid, Theme::gap, Theme::grid);
-        rows->setSpacing(0);
-        QLabel* const title = newLabel(heading, Qt::AlignHCenter);
-        title->setProperty("quiet", true);
-        rows->addWidget(title);
-        for (std::size_t i = first; i < first + 8; ++i) {
-            QLabel* const value = newLabel(toQString(form_.sval[i]), Qt::AlignHCenter);
-            value->setObjectName("sval" + QString::number(i));
-            value->setFont(Theme::font(14, true));
-            value->setAccessibleName(QString("%1, %2, %3").arg(heading, rowCaptions[i - first], value->text()));
-            rows->addWidget(value);
-        }
-        rows->addStretch();
-        column->setEnabled(first == 1 || form_.isComputerGame());
-        return column;
+        auto* const value =
+            new QTableWidgetItem(toQString(form_.sval[static_cast<std::size_t>(1 + row + valueRows * column)]));
+        value->setTextAlignment(Qt::AlignCenter);
+        value->setFont(Theme::font(14, true));
+        if (column == Frame2 && !form_.isComputerGame())
+            value->setFlags(Qt::NoItemFlags);
+        return value;
     }
 
     const StatisticsForm& form_;

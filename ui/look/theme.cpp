@@ -125,6 +125,8 @@ QTableView, QTreeView { background: @card; border: 1px solid @line; border-radiu
 QTableView:focus, QTreeView:focus { border: 2px solid @cardText; padding: 3px 0; }
 QHeaderView { background: @card; border: none; }
 QHeaderView::section { background: @card; border: none; border-bottom: 1px solid @line; padding: 0 7px; }
+QHeaderView::section:vertical { border: none; }
+QTableCornerButton::section { background: @card; border: none; border-bottom: 1px solid @line; }
 QTreeView { selection-background-color: @accent; selection-color: @accentText; }
 QTreeView QHeaderView::section { color: @cardQuietText; padding: 4px 7px; }
 QFileDialog { min-width: 640px; min-height: 420px; }
