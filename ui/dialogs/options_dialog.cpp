@@ -140,6 +140,7 @@ public:
 
         rows->addLayout(columns);
         rows->addWidget(newPlayingFrame());
+        rows->addStretch(1); // a larger window leaves the groups their sizes
         auto* const column = newColumn();
         column->addWidget(new ScrollPart(choices));
         column->addLayout(newButtons());
@@ -248,7 +249,6 @@ private:
         return box;
     }
 
-    /// A column of frames; the last one gets the remaining height.
     static QVBoxLayout* newFrames(std::initializer_list<QGroupBox*> frames)
     {
         auto* const column = new QVBoxLayout;
