@@ -21,6 +21,7 @@ constexpr int valueRows = 8;
 
 /// The columns, in the order of the values.
 enum Column : std::uint8_t { Your, Frame2 };
+constexpr const char* columnCaptions[] = {"Your", "Computer"};
 
 constexpr const char* rowCaptions[] = {"Number of Words made",
                                        "Number of 2 letter Words",
@@ -69,7 +70,7 @@ private:
         table->setCornerButtonEnabled(false);
         table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
         table->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-        table->setHorizontalHeaderLabels({"Your", "Computer"});
+        table->setHorizontalHeaderLabels({columnCaptions[Your], columnCaptions[Frame2]});
         QStringList captions;
         for (const char* const caption : rowCaptions)
             captions.append(caption);
@@ -95,10 +96,13 @@ private:
 
     QTableWidgetItem* newValue(int row, Column column) const
     {
-        auto* const value =
-            new QTableWidgetItem(toQString(form_.sval[static_cast<std::size_t>(1 + row + valueRows * column)]));
+        const QString text = toQString(form_.sval[static_cast<std::size_t>(1 + row + valueRows * column)]);
+        auto* const value = new QTableWidgetItem(text);
         value->setTextAlignment(Qt::AlignCenter);
         value->setFont(Theme::font(14, true));
+        value->setData(
+            Qt::AccessibleTextRole,
+            QString("%1, %2, %3").arg(columnCaptions[column], rowCaptions[row], text.isEmpty() ? tr("none") : text));
         if (column == Frame2 && !form_.isComputerGame())
             value->setFlags(Qt::NoItemFlags);
         return value;

@@ -33,6 +33,7 @@ public:
         setAttribute(Qt::WA_TransparentForMouseEvents);
         setFixedSize(1, 1);
         lower();
+        hide(); // it appears with its first words
     }
 };
 
@@ -83,6 +84,7 @@ void Speaker::speak()
     if (voice_ == nullptr)
         return;
     voice_->setAccessibleName(text); // which reports that the name has changed
+    voice_->show();
 #if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
     QAccessibleAnnouncementEvent announcement(voice_, text);
     QAccessible::updateAccessibility(&announcement);
