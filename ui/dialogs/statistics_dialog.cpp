@@ -96,7 +96,8 @@ private:
 
     QTableWidgetItem* newValue(int row, Column column) const
     {
-        const QString text = toQString(form_.sval[static_cast<std::size_t>(1 + row + valueRows * column)]);
+        const QString text =
+            toQString(form_.sval[1 + static_cast<std::size_t>(row) + static_cast<std::size_t>(valueRows) * column]);
         auto* const value = new QTableWidgetItem(text);
         value->setTextAlignment(Qt::AlignCenter);
         value->setFont(Theme::font(14, true));
