@@ -10,6 +10,7 @@ namespace
 constexpr double e3 = -8;
 constexpr double a3 = -3;
 constexpr double c4 = 0;
+constexpr double d4 = 2;
 constexpr double e4 = 4;
 constexpr double g4 = 7;
 constexpr double c5 = 12;
@@ -33,6 +34,10 @@ std::vector<Cue> cues()
         {"click.wav", 0.22, {{e6, 0, 0.014, 0.26, wood(), 0}, {a5, 0.06, 0.018, 0.26, wood(), 0}}},
         // Not allowed: low, dull, falling; a nudge, not an alarm.
         {"err3.wav", 0.50, {{a3, 0, 0.07, 0.42, hollow(), 0}, {e3, 0.13, 0.10, 0.46, hollow(), 0}}},
+        // A column sinks: a dull knock that falls.
+        {"push.wav", 0.35, {{g4, 0, 0.05, 0.40, hollow(), 5}, {e4, 0.09, 0.07, 0.40, hollow(), 0}}},
+        // A tile turns red: two low tones that do not agree, softly.
+        {"redtile.wav", 0.60, {{e4, 0, 0.10, 0.30, wood(), 0}, {d4, 0.10, 0.14, 0.30, wood(), 0}}},
         // A long word: a run upwards that rings.
         {"cnqwon.wav",
          1.20,

@@ -15,7 +15,7 @@ struct Cue {
     std::vector<Note> notes;
 };
 
-/// The eight sounds. All use one scale, C major without F and B, in which any two notes sound well together, because a
+/// The sounds. All use one scale, C major without F and B, in which any two notes sound well together, because a
 /// sound may start before the previous one has ended.
 std::vector<Cue> cues();
 

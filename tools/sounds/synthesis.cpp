@@ -1,5 +1,6 @@
 #include "tools/sounds/synthesis.hpp"
 
+#include "tools/sounds/loudness.hpp"
 #include "tools/sounds/wave_file.hpp"
 
 #include <algorithm>
@@ -69,11 +70,12 @@ std::vector<std::int16_t> synthesize(const std::vector<Note>& notes, double seco
     std::vector<double> signal(static_cast<std::size_t>(seconds * samplesPerSecond));
     for (const Note& note : notes)
         mix(signal, note);
+    const double gain = std::pow(10, (commonLoudness - loudnessOf(signal)) / 20);
     std::vector<std::int16_t> samples;
     samples.reserve(signal.size());
     for (std::size_t at = 0; at < signal.size(); ++at) {
         const double left = seconds - closingSilence - static_cast<double>(at) / samplesPerSecond;
-        const double value = std::clamp(signal[at], -1.0, 1.0) * rise(left / closingFade);
+        const double value = std::clamp(gain * signal[at], -1.0, 1.0) * rise(left / closingFade);
         samples.push_back(static_cast<std::int16_t>(std::lround(value * fullScale)));
     }
     return samples;

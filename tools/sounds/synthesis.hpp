@@ -23,12 +23,13 @@ struct Note {
     double pitch;    ///< in semitones above middle C (C4)
     double start;    ///< in seconds
     double ring;     ///< seconds after which it has fallen to about a third (1/e)
-    double loudness; ///< its peak amplitude; 1 is full scale
+    double loudness; ///< relative to the other notes of its sound
     Timbre timbre;
     double bend = 0; ///< semitones off its pitch at the start, gone within a few hundredths of a second
 };
 
-/// Mixes the notes and ends with a fade into silence, so that neither start nor end clicks.
+/// Mixes the notes, gives them the loudness that all sounds of the game have, and ends with a fade into silence, so
+/// that neither start nor end clicks.
 std::vector<std::int16_t> synthesize(const std::vector<Note>& notes, double seconds);
 
 } // namespace lexigrove::tools
