@@ -3,6 +3,7 @@
 #include "dictionary/list_correction.hpp"
 #include "flow/game_parts.hpp"
 #include "platform/leaving.hpp"
+#include "record/review_texts.hpp"
 #include "settings/window_colours.hpp"
 
 #include <exception>
@@ -37,6 +38,15 @@ ScoreForm::Answer offerScore(GameParts& parts)
     if (score <= parts.scoreFile.lowest())
         return ScoreForm::Answer::Close;
     return showTopTen(parts.scoreForm, parts.ports.windows, score);
+}
+
+std::vector<std::string> memorableTexts(const GameRecord& game, ReviewLists& lists)
+{
+    try {
+        return memorableTexts(Review(game, lists), ReviewList::Own);
+    } catch (const std::exception&) {
+        return {}; // a list that cannot be read, or a board with too many words
+    }
 }
 
 void showWinner(const GameState& state, StatusLine& status)
@@ -116,7 +126,7 @@ void GameFlow::endEarly()
 }
 
 /// A solo game without letters to come and without a word on the board would go on for ever.
-void GameFlow::tellIfNoWordIsLeft()
+void GameFlow::offerEndIfNoWordIsLeft()
 {
     GameParts& p = *parts_;
     const Board& board = p.game.board;
@@ -130,13 +140,16 @@ void GameFlow::tellIfNoWordIsLeft()
     } catch (const std::exception&) {
         return; // a board with too many words to count
     }
-    if (noWordLeft_)
-        p.ports.status.tell("No more words: New Game or Exit");
+    if (!noWordLeft_)
+        return;
+    p.ports.status.tell("No more words: New Game or Exit");
+    if (p.ports.dialogs.offer("There is no word left on the board, and no letter is left to come.\r\n\r\n"
+                              "End the game?"))
+        endOfGame(GameEnd::NoWordLeft, "No more words");
 }
 
 void GameFlow::endInput()
 {
-    tellIfNoWordIsLeft();
     busy_ = false;
     parts_->ports.screen.inputEnded();
 }
@@ -341,15 +354,16 @@ void GameFlow::loseGame(int col)
     parts_->game.redTiles.pushOutRedTile(col);
     parts_->ports.status.show("A red tile was pushed out. Game over.");
     parts_->ports.screen.yield();
-    parts_->ports.screen.showEnd("A red tile was pushed out", parts_->game.state.yourScore);
-    endOfGame(GameEnd::Lost);
+    endOfGame(GameEnd::Lost, "A red tile was pushed out");
 }
 
-void GameFlow::endOfGame(GameEnd end)
+void GameFlow::endOfGame(GameEnd end, const std::string& reason)
 {
     GameParts& p = *parts_;
-    recordGame(end);
+    const std::optional<GameRecord> over = recordGame(end);
     forgetSavedGame();
+    p.ports.screen.showEnd(
+        {reason, p.game.state.yourScore, over ? memorableTexts(*over, p.reviewLists) : std::vector<std::string>()});
     p.sounds.play(cue::menu);
     PresetLetters& preset = p.options.settings.presetLetters;
     if (preset.isNormalGame()) {
@@ -359,15 +373,27 @@ void GameFlow::endOfGame(GameEnd end)
         if (answer == ScoreForm::Answer::ExitProgram)
             leave();
         if (answer != ScoreForm::Answer::NewGame) {
-            if (!p.ports.dialogs.confirm("Another game?"))
+            if (!wantsAnotherGame(over.has_value()))
                 leave();
             showTopTen(p.scoreForm, p.ports.windows, {});
         }
-    } else if (!p.ports.dialogs.confirm("Another game?")) {
+    } else if (!wantsAnotherGame(over.has_value())) {
         leave();
     }
     p.game.state.redTileHold = true;
     anotherGame();
+}
+
+bool GameFlow::wantsAnotherGame(bool canLookBack)
+{
+    const std::string question = "Another game?";
+    if (!canLookBack)
+        return parts_->ports.dialogs.confirm(question);
+    for (;;) {
+        if (const std::optional<bool> answer = parts_->ports.dialogs.confirmOrLookBack(question))
+            return *answer;
+        lookBack();
+    }
 }
 
 void GameFlow::clockExpired()
@@ -378,8 +404,7 @@ void GameFlow::clockExpired()
     parts_->game.letterSwap.cancel();
     parts_->ports.dialogs.message("Game over\r\n5 minutes have elapsed");
     showWinner(parts_->game.state, parts_->ports.status);
-    parts_->ports.screen.showEnd(parts_->ports.status.Label1, parts_->game.state.yourScore);
-    endOfGame(GameEnd::ClockExpired);
+    endOfGame(GameEnd::ClockExpired, std::string(parts_->ports.status.Label1));
 }
 
 /// Leaving continues whatever happens to its questions: one that is closed counts as declined.

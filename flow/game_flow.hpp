@@ -98,6 +98,7 @@ public:
     void releaseDeveloperKey(DeveloperKey key);
     void playShared(const std::string& text); ///< a board that `GameState::start` of another game gave
     void tick(Timer timer);
+    void warnOfPush();    ///< some seconds before a tick of `Timer::Push`: tells which columns may be pushed down
     void clockGotFocus(); ///< which counts as its expiry
 
     // Views
@@ -123,7 +124,7 @@ private:
     void input(When when, Rule rule);
     [[nodiscard]] bool beginInput(When when);
     void endEarly();
-    void tellIfNoWordIsLeft();
+    void offerEndIfNoWordIsLeft();
     void endInput();
 
     void beginGame();
@@ -136,7 +137,7 @@ private:
     void askForSharedBoard();
     bool beginShared(const std::string& text);
     std::optional<GameRecord> record(const Position& game, GameEnd end);
-    void recordGame(GameEnd end);
+    std::optional<GameRecord> recordGame(GameEnd end);
     void lookBack();
     void expectUserDictionary(const Position& position) const;
     void continueFrom(const Position& position);
@@ -150,7 +151,8 @@ private:
     void newGame();
     void showWallClock();
     void loseGame(int col);
-    void endOfGame(GameEnd end);
+    void endOfGame(GameEnd end, const std::string& reason);
+    bool wantsAnotherGame(bool canLookBack);
     void clockExpired();
     void prepareWindow();
     void runTick(Timer timer);
@@ -187,6 +189,7 @@ void GameFlow::input(When when, Rule rule)
         return;
     try {
         rule(*parts_);
+        offerEndIfNoWordIsLeft();
     } catch (...) {
         endEarly();
     }

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 #include <limits>
+#include <set>
 #include <utility>
 
 namespace lexigrove
@@ -202,8 +203,12 @@ void GameFlow::enterWord()
 {
     GameParts& p = *parts_;
     const EnterResult result = lexigrove::enterWord(p.game, p.computerTurn);
-    if (result == EnterResult::TooShort)
+    if (result == EnterResult::TooShort) {
         p.ports.status.tell("A word needs two letters");
+        p.ports.screen.refuse("two letters at least");
+    }
+    if (result == EnterResult::NotFound)
+        p.ports.screen.refuse("not in dictionary");
     refused_ = result == EnterResult::NotFound ? p.game.selection.tiles() : std::vector<int>{};
 }
 
@@ -216,7 +221,7 @@ void GameFlow::typeLetter(char letter)
         if (extendWord(p.game, letter))
             return;
         p.sounds.play(cue::error);
-        p.ports.screen.refuse();
+        p.ports.screen.refuse("no way on the board");
     });
 }
 
@@ -307,6 +312,26 @@ void GameFlow::resume()
 
 // ---- The timers
 
+namespace
+{
+
+/// What the player has lost with a tile that was pushed out.
+std::string bonusText(Colour out)
+{
+    switch (out) {
+    case multiplier::doubled:
+        return ", and a double tile is gone";
+    case multiplier::tripled:
+        return ", and a triple tile is gone";
+    case multiplier::quadrupled:
+        return ", and a quadruple tile is gone";
+    default:
+        return {};
+    }
+}
+
+} // namespace
+
 void GameFlow::tick(Timer timer)
 {
     const bool outer = std::exchange(ticking_, true);
@@ -329,7 +354,8 @@ void GameFlow::runTick(Timer timer)
             const RedTiles::PushResult push = p.game.redTiles.pushTimerTick();
             if (push.outcome == RedTiles::Push::Pushed) {
                 p.game.letterSwap.cancel();
-                p.ports.status.tell("Column " + std::to_string(push.col) + " was pushed down" +
+                p.ports.screen.happened(Moment::Pushed, push.col);
+                p.ports.status.tell("Column " + std::to_string(push.col) + " was pushed down" + bonusText(push.out) +
                                     (hadWord ? ", and your word was cleared" : ""));
             }
             if (push.outcome == RedTiles::Push::Lost)
@@ -350,6 +376,22 @@ void GameFlow::runTick(Timer timer)
         parts_->ports.screen.inputEnded();
         break;
     }
+}
+
+void GameFlow::warnOfPush()
+{
+    const bool outer = std::exchange(ticking_, true);
+    input(When::InPlay, [](GameParts& p) {
+        std::set<int> columns;
+        for (const int tile : p.game.redTiles.pushable())
+            columns.insert(Board::col(tile));
+        std::string list;
+        for (const int col : columns)
+            list += (list.empty() ? "" : col == *columns.rbegin() ? " or " : ", ") + std::to_string(col);
+        if (!list.empty())
+            p.ports.status.tell("Column " + list + " will be pushed down");
+    });
+    ticking_ = outer;
 }
 
 void GameFlow::clockGotFocus()

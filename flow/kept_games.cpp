@@ -252,19 +252,20 @@ std::optional<GameRecord> GameFlow::record(const Position& game, GameEnd end)
     }
 }
 
-void GameFlow::recordGame(GameEnd end)
+std::optional<GameRecord> GameFlow::recordGame(GameEnd end)
 {
     if (!inGame_)
-        return;
+        return std::nullopt;
     GameParts& p = *parts_;
-    const std::optional<GameRecord> over = record(position(), end);
+    std::optional<GameRecord> over = record(position(), end);
     p.game.state.begun.clear();
     if (!over || over->kind != GameKind::Daily)
-        return;
+        return over;
     p.ports.screen.copyText(dailySummary(*over));
     const StatusLine& status = p.ports.status;
     const std::string last = status.Warn && !status.Label1.empty() ? status.Label1 + "\r\n" : "";
     p.ports.status.show(last + "A summary of this board of the day is on the clipboard");
+    return over;
 }
 
 void GameFlow::lookBack()

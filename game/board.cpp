@@ -62,6 +62,16 @@ void Board::layOut(Arrangement arrangement)
     touching_ = arrangement == Arrangement::Square ? squareNeighbours() : staggeredNeighbours();
 }
 
+std::vector<int> Board::specialTiles() const
+{
+    std::vector<int> special;
+    for (int tile = 1; tile <= tileCount; ++tile) {
+        if (isVisible(tile) && maskcolor(tile) > multiplier::plain)
+            special.push_back(tile);
+    }
+    return special;
+}
+
 void Board::clear()
 {
     for (BoxControl& tile : Tiles)

@@ -7,6 +7,7 @@
 
 #include <array>
 #include <string>
+#include <vector>
 
 namespace lexigrove
 {
@@ -84,6 +85,9 @@ public:
     [[nodiscard]] const BoxControl& tile(int number) const { return Tiles[index(number)]; }
     /// How many pushes of its column take a tile out.
     [[nodiscard]] int pushesLeft(int tile) const { return columnHeight(col(tile)) - row(tile) + 1; }
+
+    /// The bonus tiles and red tiles that are shown, in the order of their numbers.
+    [[nodiscard]] std::vector<int> specialTiles() const;
 
     [[nodiscard]] BoxControl& tile(int row, int col) { return tile(Grid(row, col)); }
     [[nodiscard]] const BoxControl& tile(int row, int col) const { return tile(Grid(row, col)); }

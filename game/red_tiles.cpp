@@ -52,32 +52,34 @@ int RedTiles::makeRedTile()
     game_.refreshLook(tile);
     countUp(game_.state.redTilesMade);
     game_.dictionary.setRedThreshold(game_.dictionary.redThreshold() - 1);
+    game_.ports.screen.happened(Moment::RedTile, tile);
     return tile;
+}
+
+std::vector<int> RedTiles::pushable() const
+{
+    const bool held = game_.state.redTileHold || game_.state.computerGame;
+    return held ? std::vector<int>() : game_.board.specialTiles();
 }
 
 RedTiles::PushResult RedTiles::pushTimerTick()
 {
-    if (game_.state.redTileHold || game_.state.computerGame)
-        return {};
-    std::vector<int> special; // each special tile has one entry in the draw
-    for (int tile = 1; tile <= Board::tileCount; ++tile) {
-        if (game_.board.isVisible(tile) && game_.board.maskcolor(tile) > multiplier::plain)
-            special.push_back(tile);
-    }
+    const std::vector<int> special = pushable(); // each has one entry in the draw
     if (special.empty())
         return {};
     const int k = placeFromDraw(game_.ports.random.reseedAndDraw(game_.ports.clock), static_cast<int>(special.size()));
     const int col = game_.board.col(special[static_cast<std::size_t>(k - 1)]);
     const int bottom = game_.board.Grid(game_.board.columnHeight(col), col);
-    if (game_.board.isVisible(bottom) && game_.board.maskcolor(bottom) == multiplier::red)
-        return {Push::Lost, col};
+    const Colour out = game_.board.isVisible(bottom) ? game_.board.maskcolor(bottom) : multiplier::plain;
+    if (out == multiplier::red)
+        return {Push::Lost, col, out};
 
-    if (game_.board.isVisible(bottom) && multiplier::isBonus(game_.board.maskcolor(bottom)))
+    if (multiplier::isBonus(out))
         game_.state.bonusTilesOnBoard = std::max(0, game_.state.bonusTilesOnBoard - 1);
     pushColumn(col);
     if (game_.board.waiting(col).Visible())
         game_.dropRow.dropIntoColumn(col);
-    return {Push::Pushed, col};
+    return {Push::Pushed, col, out};
 }
 
 void RedTiles::pushOutRedTile(int col)

@@ -1,5 +1,9 @@
 #pragma once
 
+#include "controls/multiplier.hpp"
+
+#include <vector>
+
 namespace lexigrove
 {
 
@@ -33,8 +37,12 @@ public:
 
     struct PushResult {
         Push outcome = Push::Nothing;
-        int col = 0; ///< the column drawn, 0 for Nothing
+        int col = 0;                    ///< the column drawn, 0 for Nothing
+        Colour out = multiplier::plain; ///< the multiplier of the tile that was pushed out
     };
+
+    /// The special tiles of which the next push draws one, to push down its column; none while pushes are held.
+    [[nodiscard]] std::vector<int> pushable() const;
 
     /// A tick of `MoveColDownTimer`: picks a random special tile and pushes its column down by one cell; the waiting
     /// letter falls in at the top.

@@ -95,6 +95,7 @@ void WordEntry::awardBonusTile(Colour multiplier)
     game_.board.tile(number).MaskColor(multiplier);
     game_.look.showNormal(game_.board.tile(number));
     countUp(game_.state.bonusTilesOnBoard);
+    game_.ports.screen.happened(Moment::BonusEarned, number);
 }
 
 } // namespace lexigrove

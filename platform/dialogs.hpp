@@ -30,6 +30,9 @@ public:
     /// asked and the game goes on as it is.
     virtual bool offer(const std::string& /*text*/) { return false; }
 
+    /// A question at the end of a game that was recorded: nothing when the player wants to look back on it first.
+    virtual std::optional<bool> confirmOrLookBack(const std::string& text) { return confirm(text); }
+
     /// An input box. Cancel and an empty answer both return an empty string.
     virtual std::string input(const std::string& title, const std::string& prompt,
                               const std::string& defaultAnswer) = 0;

@@ -1,9 +1,24 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 namespace lexigrove
 {
+
+/// What happens on the board that a picture can make a moment of.
+enum class Moment {
+    BonusEarned, ///< a long word has made a tile a bonus tile
+    RedTile,     ///< a tile has turned red
+    Pushed,      ///< a column was pushed down
+};
+
+/// A game is over.
+struct EndOfGame {
+    std::string reason;
+    int score = 0;                      ///< the player's
+    std::vector<std::string> memorable; ///< what to remember of it, a sentence each; empty without a word
+};
 
 /// What the rules ask of the screen. The models hold the truth: at every yield a front end reads them and shows what
 /// has changed. A call that processes events throws `Leaving` if the player closed the main window meanwhile.
@@ -33,12 +48,14 @@ public:
     /// Must not throw. The text on the clipboard in UTF-8, empty where there is none.
     [[nodiscard]] virtual std::string copiedText() const = 0;
 
-    /// The game is over: a front end with a picture makes it a moment before the questions come. `reason` and `score`
-    /// are the player's.
-    virtual void showEnd(const std::string& /*reason*/, int /*score*/) {}
+    /// A front end with a picture makes it a moment before the questions come.
+    virtual void showEnd(const EndOfGame& /*end*/) {}
 
-    /// Must not throw. An input was refused: a front end with a picture shows it.
-    virtual void refuse() {}
+    /// Must not throw. `place` is the tile, 1 to 64, or the column, 1 to 8, that it happens to.
+    virtual void happened(Moment /*moment*/, int /*place*/) {}
+
+    /// Must not throw. An input was refused: a front end with a picture shows it, and `why`, where the word is made.
+    virtual void refuse(const std::string& /*why*/) {}
 
     /// Must not throw. An input or a tick of the game has ended: the models may differ from what is shown.
     virtual void inputEnded() = 0;

@@ -14,7 +14,7 @@ namespace
 {
 
 constexpr std::string_view recordLine = "LexiGrove record 1";
-constexpr std::string_view endNames[] = {"lost", "clock", "new-game", "left"};
+constexpr std::string_view endNames[] = {"lost", "clock", "new-game", "left", "no-word"};
 
 /// Every field of a record in its order, for the writer and for the reader alike.
 template <typename Fields, typename Record>

@@ -20,6 +20,7 @@ enum class GameEnd {
     ClockExpired, ///< the time of a game against the computer was over
     NewGame,      ///< the player began another one
     Left,         ///< the player left the program
+    NoWordLeft,   ///< no word was left on the board, and no letter to come
 };
 
 /// A game that is over, as the past games keep it.

@@ -33,6 +33,31 @@ std::string rarestText(const Review& review)
     return rarest ? "Your rarest word was " + review.turn(*rarest).word : std::string();
 }
 
+std::vector<std::string> memorableTexts(const Review& review, ReviewList list)
+{
+    const Turn* best = nullptr;
+    const Turn* longest = nullptr;
+    for (const Turn& turn : review.record().turns) {
+        if (turn.maker != Maker::Player)
+            continue;
+        if (best == nullptr || turn.score > best->score)
+            best = &turn;
+        if (longest == nullptr || turn.word.size() > longest->word.size())
+            longest = &turn;
+    }
+    std::vector<std::string> texts;
+    if (best == nullptr)
+        return texts;
+    texts.push_back("Your best word was " + best->word + " for " + std::to_string(best->score));
+    if (longest->word != best->word)
+        texts.push_back("Your longest word was " + longest->word);
+    if (!review.hasWords(list))
+        return texts;
+    if (const std::vector<int> left = review.mostLeftBehind(list); !left.empty())
+        texts.push_back(leftBehindText(rowOf(review, list, left.front())));
+    return texts;
+}
+
 std::string listText(ReviewList list, int level)
 {
     if (list == ReviewList::LevelThree)

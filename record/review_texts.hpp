@@ -3,6 +3,7 @@
 #include "record/review.hpp"
 
 #include <string>
+#include <vector>
 
 namespace lexigrove
 {
@@ -27,6 +28,9 @@ std::string leftBehindText(const TurnRow& left);
 
 /// "Your rarest word was QUIRE"; empty without a word.
 std::string rarestText(const Review& review);
+
+/// What to remember of a game: its best word, its longest one where that is another, the greatest loss.
+std::vector<std::string> memorableTexts(const Review& review, ReviewList list);
 
 /// The name of a list in a game of this level: "Level 2", "User dictionary".
 std::string listText(ReviewList list, int level);

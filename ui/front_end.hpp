@@ -5,6 +5,7 @@
 #include "platform/random.hpp"
 #include "platform/status_line.hpp"
 #include "platform/system_clock.hpp"
+#include "settings/sound_cues.hpp"
 #include "ui/game_windows.hpp"
 #include "ui/machine/host.hpp"
 #include "ui/machine/qt_dialogs.hpp"
@@ -28,6 +29,10 @@ public:
           host(folder),
           flow({dialogs_, screen_, sound_, clock_, random_, status_, windows_}, folder, host.theme.desktop())
     {
+        QObject::connect(&host, &Host::happened, &host, [this, folder](Moment moment, int /*place*/) {
+            if (moment != Moment::BonusEarned && flow.view().sounds.isOn())
+                sound_.send("play " + folder + (moment == Moment::RedTile ? "redtile.wav" : "push.wav"));
+        });
     }
 
 private:

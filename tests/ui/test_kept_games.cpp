@@ -3,6 +3,7 @@
 #include "ui/board/board_picture.hpp"
 
 #include <QClipboard>
+#include <QElapsedTimer>
 #include <QTableWidget>
 
 namespace lexigrove
@@ -78,6 +79,35 @@ TEST_F(KeptGamesTest, AreLookedBackOn)
     script.in("Review", [](QDialog& review) { QTest::keyClick(&review, Qt::Key_Escape); });
     script.in("PastGames", [](QDialog& list) { QTest::keyClick(&list, Qt::Key_Escape); });
     key(Qt::Key_G, Qt::ControlModifier);
+}
+
+// Guards a game that would go on without a word: its end is offered, tells what to remember, and can be looked back on.
+TEST_F(KeptGamesTest, EndWhereNoWordIsLeft)
+{
+    for (int col = 1; col <= Board::columns; ++col)
+        Study(flow()).editWaiting(col, "");
+    Study(flow()).setTilesLeft(std::nullopt);
+    Study(flow()).editTile(49, "V", multiplier::plain);
+    enter("do");
+    std::string told;
+    QObject::connect(&game->host, &Host::gameOver, [&](const EndOfGame& end) { told = end.memorable.front(); });
+    script.box("There is no word left on the board, and no letter is left to come.\n\nEnd the game?", QMessageBox::Yes);
+    QElapsedTimer counting;
+    script.when([&] { return child("End").isVisible() && (counting.isValid() || (counting.start(), false)); }, [] {});
+    script.when([&] { return counting.hasExpired(1'800); }, [this] { QTest::keyClick(&window(), Qt::Key_Space); });
+    script.in("QMessageBox", [](QDialog& question) {
+        for (QAbstractButton* const button : question.findChildren<QAbstractButton*>()) {
+            if (button->text() == "Look back")
+                return button->click();
+        }
+        FAIL();
+    });
+    script.in("Review", [](QDialog& review) { QTest::keyClick(&review, Qt::Key_Escape); });
+    script.box("Another game?", QMessageBox::Yes).click("Form7", "Startx");
+    enter("cats");
+    EXPECT_EQ(told, "Your best word was CATS for 6");
+    EXPECT_TRUE(flow().inGame());
+    EXPECT_EQ(shown("YourScore"), "0");
 }
 
 // Guards shared boards: the clipboard carries one, what is wrong with a line is said, and the letters are the same.

@@ -50,7 +50,7 @@ TEST_P(Playing, AWordIsClickedEnteredAndRefilled)
 
     drop(2);
     EXPECT_EQ(letter(9) + letter(10) + letter(11), "HBF");
-    EXPECT_EQ(paintedFace(10), face());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return paintedFace(10) == face(); })) << "what shone has gone out";
     EXPECT_EQ(view().board.waiting(2).Caption(), "N") << "the drop row is refilled from the queue";
 }
 
@@ -238,6 +238,8 @@ TEST_F(Course, PressureIsTold)
     const std::string column = std::to_string(Board::col(red));
     EXPECT_EQ(shown("Label1"), "A red tile in column " + column);
     Study(flow()).setRedThreshold(1'000);
+    flow().warnOfPush();
+    EXPECT_EQ(shown("Label1"), "Column " + column + " will be pushed down");
     QTest::keyClicks(&window(), "ca");
     flow().tick(Timer::Push);
     EXPECT_EQ(shown("Label1"), "Column " + column + " was pushed down, and your word was cleared");

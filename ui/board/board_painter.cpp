@@ -17,6 +17,7 @@ namespace
 constexpr double slotRadius = 0.08;
 constexpr double numberShare = 0.2;
 constexpr double hintShare = 0.28;
+constexpr double glowShare = 0.06; // of a cell, the frame of one that shines
 
 /// A control as it looks while it is pressed.
 BoxControl heldDown(BoxControl control)
@@ -53,25 +54,47 @@ void BoardPainter::paint(QPainter& painter, const BoardMarks& marks, const QRect
                          marks.lifted.col == col);
         tiles_.paintLetter(painter, waiting, place);
     }
+    paintGlows(painter, marks);
     paintPanel(painter);
     if (marks.numbersColumns)
-        paintNumbers(painter);
+        paintNumbers(painter, marks.threatened);
     if (!marks.hint.isEmpty())
         paintHint(painter, marks.hint);
     if (marks.cursor != BoardSpot{})
         paintCursor(painter, placeOf(marks.cursor));
 }
 
-/// The keys that let the letters drop.
-void BoardPainter::paintNumbers(QPainter& painter) const
+/// The keys that let the letters drop. Over a column that may be pushed down in a moment stands an arrow, too.
+void BoardPainter::paintNumbers(QPainter& painter, unsigned threatened) const
 {
-    painter.setFont(Theme::fontOfSize(shape_.cell() * numberShare));
-    painter.setPen(toQColor(theme_.colours().quietText));
     for (int col = 1; col <= Board::columns; ++col) {
         const QRectF waiting = waitingPlace(col);
-        painter.drawText(QRectF(waiting.left(), 0, waiting.width(), waiting.top()), Qt::AlignCenter,
-                         QString::number(col));
+        const QRectF place(waiting.left(), 0, waiting.width(), waiting.top());
+        const bool threat = (threatened & (1U << col)) != 0;
+        painter.setFont(Theme::fontOfSize(shape_.cell() * numberShare, threat));
+        painter.setPen(toQColor(threat ? theme_.colours().accentText : theme_.colours().quietText));
+        if (threat)
+            painter.fillRect(place, toQColor(theme_.colours().accent));
+        painter.drawText(place, Qt::AlignCenter, threat ? QString("\u25BC %1 \u25BC").arg(col) : QString::number(col));
     }
+}
+
+void BoardPainter::paintGlows(QPainter& painter, const BoardMarks& marks) const
+{
+    if (marks.glowing <= 0)
+        return;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    const double radius = shape_.cell() * slotRadius;
+    for (const Glow& glow : marks.glows) {
+        QColor colour = toQColor(glow.colour);
+        colour.setAlphaF(static_cast<float>(marks.glowing));
+        painter.setPen(QPen(colour, shape_.cell() * glowShare));
+        colour.setAlphaF(static_cast<float>(0.4 * marks.glowing)); // the letter below can be read
+        painter.setBrush(colour);
+        painter.drawRoundedRect(placeOf({glow.tile, 0}), radius, radius);
+    }
+    painter.restore();
 }
 
 void BoardPainter::paintHint(QPainter& painter, const QString& hint) const

@@ -12,6 +12,13 @@
 namespace lexigrove
 {
 
+/// A cell that shines for a moment.
+struct Glow {
+    int tile = 0;
+    Colour colour = 0;
+    bool operator==(const Glow&) const = default;
+};
+
 /// What is shown of a board beside its tiles.
 struct BoardMarks {
     std::vector<int> path; ///< joined by links
@@ -20,11 +27,14 @@ struct BoardMarks {
     unsigned openColumns = 0; ///< bit c: a letter waits over column c, and there is room for it
     bool showsSlots = false;  ///< of empty cells
     bool numbersColumns = false;
+    unsigned threatened = 0; ///< bit c: column c may be pushed down in a moment
     int redDistance = 0; ///< pushes until the nearest red tile is out, 0 for none; it stands on each that is as near
     BoardSpot cursor;
     QString hint;     ///< between the drop row and the board
     BoardSpot lifted; ///< under the pointer
     BoardSpot pressed;
+    std::vector<Glow> glows;
+    double glowing = 0; ///< how bright they are, 1 to 0
     bool operator==(const BoardMarks&) const = default;
 };
 
@@ -52,7 +62,8 @@ private:
     void paintTiles(QPainter& painter, const BoardMarks& marks, const QRectF& dirty) const;
     void paintLinks(QPainter& painter, const std::vector<int>& path) const;
     void paintPanel(QPainter& painter) const;
-    void paintNumbers(QPainter& painter) const;
+    void paintNumbers(QPainter& painter, unsigned threatened) const;
+    void paintGlows(QPainter& painter, const BoardMarks& marks) const;
     void paintHint(QPainter& painter, const QString& hint) const;
     void paintCursor(QPainter& painter, const QRectF& place) const;
 

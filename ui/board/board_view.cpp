@@ -10,12 +10,21 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QStyle>
+#include <QVariantAnimation>
 
 #include <algorithm>
 #include <map>
 
 namespace lexigrove
 {
+
+namespace
+{
+
+constexpr int tileTime = 600; // milliseconds that a tile shines
+
+} // namespace
 
 BoardView::BoardView(GameFlow& flow, Host& host, QWidget* parent)
     : QWidget(parent),
@@ -26,12 +35,20 @@ BoardView::BoardView(GameFlow& flow, Host& host, QWidget* parent)
       shape_(BoardGeometry::numberRoom, firstSteps_.areLeft() ? BoardGeometry::hintRoom : 0),
       painter_(board_, shape_, host.theme),
       cursor_(board_),
-      access_(*this, flow)
+      access_(*this, flow),
+      shining_(new QVariantAnimation(this))
 {
     setObjectName("Picture1");
     setAccessibleName(tr("Board"));
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus); // keys that it ignores go to the window
+    shining_->setStartValue(1.0);
+    shining_->setEndValue(0.0);
+    connect(shining_, &QVariantAnimation::valueChanged, this, [this] { synchronise(); });
+    connect(&host, &Host::happened, this, [this](Moment moment, int place) {
+        if (moment != Moment::Pushed)
+            shine({{place, flow_.view().scheme.tileFace(board_.maskcolor(place))}}, tileTime);
+    });
 }
 
 // ---- Places
@@ -107,7 +124,59 @@ BoardMarks BoardView::currentMarks()
     marks.redDistance = redDistance();
     marks.cursor = cursor();
     marks.hint = firstSteps_.next();
+    marks.threatened = threatenedColumns();
+    if (shining_->state() == QAbstractAnimation::Running) {
+        marks.glows = glows_;
+        marks.glowing = shining_->currentValue().toDouble();
+    }
     return marks;
+}
+
+void BoardView::setPushNear(bool near)
+{
+    pushNear_ = near;
+    synchronise();
+}
+
+unsigned BoardView::threatenedColumns() const
+{
+    const GameState& state = flow_.view().state;
+    unsigned columns = 0;
+    if (!pushNear_ || !flow_.inGame() || state.redTileHold || state.computerGame)
+        return columns;
+    for (const int tile : board_.specialTiles())
+        columns |= 1U << Board::col(tile);
+    return columns;
+}
+
+/// The cells of a word that was made shine, a long one's for longer, and a red tile that was used goes out.
+void BoardView::lookForNewWord()
+{
+    const GameState& state = flow_.view().state;
+    if (state.begun == begun_ && state.turns.size() > turns_) {
+        const Turn& turn = state.turns.back();
+        std::vector<Glow> glows;
+        for (const int tile : turn.path) {
+            const bool red = turn.before.cells[static_cast<std::size_t>(tile)].multiplier == multiplier::red;
+            glows.push_back({tile, red ? flow_.view().scheme.tileFace(multiplier::red) : theme_.colours().accent});
+        }
+        shine(std::move(glows), tileTime / 5 * static_cast<int>(turn.path.size()));
+    }
+    begun_ = state.begun;
+    turns_ = state.turns.size();
+}
+
+/// Joins what shines already. On a desktop without animations nothing does.
+void BoardView::shine(std::vector<Glow> glows, int milliseconds)
+{
+    if (style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, this) == 0)
+        return;
+    if (shining_->state() == QAbstractAnimation::Running)
+        glows.insert(glows.end(), glows_.begin(), glows_.end());
+    glows_ = std::move(glows);
+    shining_->stop();
+    shining_->setDuration(std::max(milliseconds, tileTime / 2));
+    shining_->start();
 }
 
 int BoardView::redDistance() const
@@ -142,6 +211,7 @@ void BoardView::synchronise()
         update(shownPanel_.united(place).toAlignedRect());
         shownPanel_ = place;
     }
+    lookForNewWord();
     if (BoardMarks marks = currentMarks(); marks != marks_) {
         marks_ = std::move(marks);
         update();

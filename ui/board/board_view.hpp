@@ -11,7 +11,10 @@
 
 #include <array>
 #include <cstdint>
+#include <string>
 #include <vector>
+
+class QVariantAnimation;
 
 namespace lexigrove
 {
@@ -55,6 +58,9 @@ public:
 
     [[nodiscard]] const GameFlow& flow() const { return flow_; }
 
+    /// Marks the columns that may be pushed down in a moment, or no longer does.
+    void setPushNear(bool near);
+
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
@@ -78,6 +84,9 @@ private:
     void setSpot(BoardSpot& spot, BoardSpot value);
     [[nodiscard]] int redDistance() const;
     [[nodiscard]] BoardMarks currentMarks();
+    [[nodiscard]] unsigned threatenedColumns() const;
+    void lookForNewWord();
+    void shine(std::vector<Glow> glows, int milliseconds);
     void repaintIfChanged(const BoxControl& control, Shown& shown);
     [[nodiscard]] bool takesInput() const;
 
@@ -94,6 +103,11 @@ private:
     std::array<Shown, Board::columns + 1> shownWaiting_;
     QRectF shownPanel_;
     BoardMarks marks_;
+    QVariantAnimation* shining_; ///< the moment in which cells glow, brightness 1 to 0
+    std::vector<Glow> glows_;
+    std::string begun_; ///< of the game that is known
+    std::size_t turns_ = 0;
+    bool pushNear_ = false;
     BoardSpot hovered_;
     BoardSpot pressed_;
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/screen.hpp"
 #include "ui/look/theme.hpp"
 #include "ui/machine/event_gate.hpp"
 #include "ui/machine/settings_file.hpp"
@@ -35,11 +36,12 @@ signals:
     void modelsChanged();
     /// An input or a tick of the game has ended.
     void inputEnded();
-    /// A letter was typed that cannot follow.
-    void inputRefused();
+    /// A letter was typed that cannot follow, or a word entered that is none.
+    void inputRefused(const QString& why);
+    void happened(Moment moment, int place);
     /// The rules wait for any key or mouse button, or no longer do.
     void waitingChanged(bool waits);
-    void gameOver(const QString& reason, int score);
+    void gameOver(const EndOfGame& end);
 };
 
 } // namespace lexigrove

@@ -8,6 +8,7 @@
 #include <QHeaderView>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QShortcut>
 #include <QTreeView>
 
@@ -43,16 +44,31 @@ void QtDialogs::message(const std::string& text)
 
 bool QtDialogs::confirm(const std::string& text)
 {
+    return ask(text, {}).value_or(false);
+}
+
+std::optional<bool> QtDialogs::confirmOrLookBack(const std::string& text)
+{
+    return ask(text, QMessageBox::tr("Look back"));
+}
+
+/// Yes or No, or nothing for the third button, which there is if it has a caption.
+std::optional<bool> QtDialogs::ask(const std::string& text, const QString& third)
+{
     QMessageBox box(QMessageBox::NoIcon, QStringLiteral("LexiGrove"), withNewlines(text),
                     QMessageBox::Yes | QMessageBox::No, host_.dialogParent());
     box.setTextFormat(Qt::PlainText);
     box.setDefaultButton(QMessageBox::Yes);
     box.setEscapeButton(QMessageBox::No);
+    const QAbstractButton* const other = third.isEmpty() ? nullptr : box.addButton(third, QMessageBox::ActionRole);
     if (host_.gate.inTick()) { // whoever types a word is not offered letters
         for (QAbstractButton* const button : box.buttons())
             button->setText(button->text().remove(u'&'));
     }
-    return host_.gate.exec(box) == QMessageBox::Yes;
+    const int answer = host_.gate.exec(box);
+    if (other != nullptr && box.clickedButton() == other)
+        return std::nullopt;
+    return answer == QMessageBox::Yes;
 }
 
 bool QtDialogs::offer(const std::string& text)

@@ -85,14 +85,22 @@ void QtScreen::waitForAnyInput()
     host_.gate.exec(loop);
 }
 
-void QtScreen::showEnd(const std::string& reason, int score)
+/// The score counts up, and then there is time to read, until a key or a button is pressed.
+void QtScreen::showEnd(const EndOfGame& end)
 {
-    constexpr auto momentLength = 1'600ms;
+    constexpr auto countingTime = 1'600ms;
+    constexpr auto readingTime = 6s;
     emit host_.modelsChanged();
-    emit host_.gameOver(toQString(reason), score);
-    QEventLoop loop;
-    QTimer::singleShot(momentLength, &loop, &QEventLoop::quit);
-    host_.gate.exec(loop);
+    emit host_.gameOver(end);
+    QEventLoop counting;
+    QTimer::singleShot(countingTime, &counting, &QEventLoop::quit);
+    host_.gate.exec(counting);
+    if (end.memorable.empty())
+        return;
+    QEventLoop reading;
+    QTimer::singleShot(readingTime, &reading, &QEventLoop::quit);
+    const QScopedValueRollback waiting(waiting_, &reading);
+    host_.gate.exec(reading);
 }
 
 void QtScreen::copyText(const std::string& text)

@@ -36,8 +36,9 @@ public:
 
     void copyText(const std::string& text) override;
     [[nodiscard]] std::string copiedText() const override;
-    void showEnd(const std::string& reason, int score) override;
-    void refuse() override { emit host_.inputRefused(); }
+    void showEnd(const EndOfGame& end) override;
+    void happened(Moment moment, int place) override { emit host_.happened(moment, place); }
+    void refuse(const std::string& why) override { emit host_.inputRefused(QString::fromStdString(why)); }
     void inputEnded() override { emit host_.inputEnded(); }
 
     /// 250 rounds, the delay that the game starts with, make a step of ten milliseconds.

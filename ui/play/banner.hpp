@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/screen.hpp"
 #include "ui/look/theme.hpp"
 
 #include <QString>
@@ -21,15 +22,20 @@ public:
 
     Banner(const Theme& theme, const char* objectName, QWidget* parent);
 
-    /// Shows a text, and below it a score that counts up where the desktop shows animations.
-    void tell(const QString& text, std::optional<int> score = {});
+    /// Shows a text.
+    void tell(const QString& text);
+    /// Shows why a game is over, the score, which counts up where the desktop shows animations, and what to remember.
+    void tell(const EndOfGame& end);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void countUp(int score);
+
     const Theme& theme_;
     QString text_;
+    QString memorable_;        ///< a line each
     std::optional<int> score_; ///< as far as it is counted
 };
 

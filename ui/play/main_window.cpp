@@ -32,8 +32,10 @@ MainWindow::MainWindow(Host& host, GameFlow& flow, const StatusLine& status) : h
         if (waits)
             speaker_.lookAtComputersWord();
     });
-    connect(&host_, &Host::gameOver, this, [this](const QString& reason, int score) {
-        speaker_.say(tr("%1. Your score is %2").arg(reason).arg(score));
+    connect(&host_, &Host::gameOver, this, [this](const EndOfGame& end) {
+        speaker_.say(tr("%1. Your score is %2").arg(toQString(end.reason)).arg(end.score));
+        for (const std::string& line : end.memorable)
+            speaker_.say(toQString(line));
     });
     auto* column = new QVBoxLayout(centre);
     column->setContentsMargins(0, 0, 0, 0);
@@ -63,7 +65,6 @@ MainWindow::MainWindow(Host& host, GameFlow& flow, const StatusLine& status) : h
     host_.mainWindow = this;
     connect(&host_, &Host::modelsChanged, this, &MainWindow::showModels);
     connect(&host_, &Host::inputEnded, this, &MainWindow::inputEnded);
-    connect(&host_, &Host::inputRefused, area_->word, &WordBox::shake);
     showModels();
 }
 
@@ -123,6 +124,26 @@ void MainWindow::addTimer(const QString& name, Timer timer)
     clock->setInterval(intervalOf(timer));
     connect(clock, &QTimer::timeout, this, [this, timer] { host_.gate.runTick([&] { flow_.tick(timer); }); });
     clock->start();
+    if (timer == Timer::Push)
+        warnBefore(*clock);
+}
+
+/// In the last seconds before a push the columns that it may strike are marked.
+void MainWindow::warnBefore(QTimer& push)
+{
+    constexpr int warning = 5'000; // milliseconds
+    auto* const near = new QTimer(this);
+    near->setSingleShot(true);
+    near->setInterval(push.interval() - warning);
+    connect(near, &QTimer::timeout, this, [this] {
+        host_.gate.runTick([&] { flow_.warnOfPush(); });
+        area_->board->setPushNear(true);
+    });
+    connect(&push, &QTimer::timeout, this, [this, near] {
+        area_->board->setPushNear(false);
+        near->start();
+    });
+    near->start();
 }
 
 // ---- Inputs

@@ -51,6 +51,7 @@ private:
     void addMenus();
     void addCornerButton(QHBoxLayout& row, const QString& name, const QString& caption, Command command);
     void connectArea();
+    void warnBefore(QTimer& push);
     void addTimer(const QString& name, Timer timer);
     void watchLeaving();
     void pauseIfLeft();

@@ -92,7 +92,8 @@ PlayArea::PlayArea(GameFlow& flow, Host& host, QWidget* parent)
         else
             waits_->hide();
     });
-    connect(&host, &Host::gameOver, end_, [this](const QString& reason, int score) { end_->tell(reason, score); });
+    connect(&host, &Host::gameOver, end_, [this](const EndOfGame& end) { end_->tell(end); });
+    connect(&host, &Host::inputRefused, word, &WordBox::refuse);
     for (const PauseCover* cover : {boardCover_, wordsCover_}) {
         connect(cover, &PauseCover::clicked, this, [this] {
             if (flow_.isPaused())
@@ -157,7 +158,7 @@ void PlayArea::placeCovers()
     boardCover_->setGeometry(board->geometry());
     wordsCover_->setGeometry(words->geometry().translated(side_->pos()));
     waits_->setGeometry(board->geometryOfBoard().strip().toAlignedRect().translated(board->pos()));
-    const int height = board->height() / 3;
+    const int height = board->height() / 4;
     end_->setGeometry(board->geometry().adjusted(Theme::margin, height, -Theme::margin, -height));
 }
 
@@ -169,7 +170,8 @@ void PlayArea::synchronise()
     showNumber(*yourScore_, QString::number(state.yourScore));
     showNumber(*compScore_, QString::number(state.compScore));
     compScore_->parentWidget()->setVisible(state.computerGame); // a solo player needs no second score
-    showNumber(*tilesLeft_, toQString(state.tilesLeftText()));
+    const bool counted = state.letterDraw != LetterDraw::Going || state.tilesLeft >= 0; // nobody understands -2
+    showNumber(*tilesLeft_, counted ? toQString(state.tilesLeftText()) : QStringLiteral("0"));
     word->synchronise();
     buttons->synchronise();
     words->synchronise();

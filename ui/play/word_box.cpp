@@ -1,5 +1,6 @@
 #include "ui/play/word_box.hpp"
 
+#include "dictionary/letter_tables.hpp"
 #include "game/game_state.hpp"
 #include "game/selection.hpp"
 #include "settings/colour_scheme.hpp"
@@ -11,6 +12,7 @@
 #include <QLabel>
 #include <QPainter>
 #include <QStyle>
+#include <QTimer>
 #include <QVariantAnimation>
 
 #include <cmath>
@@ -25,6 +27,16 @@ namespace
 constexpr double wordSize = 28;
 constexpr double scoreShare = 0.78; ///< size of the score's digits relative to the word's letters
 constexpr double frameWidth = 2;
+
+/// "SNOOZE  15 x 2 = 30"
+QString momentText(const Turn& turn)
+{
+    const int sum = letterSum(turn.word);
+    QString text = toQString(turn.word) + "  " + QString::number(sum);
+    if (turn.score != sum && sum > 0)
+        text += QString(" \u00D7 %1 = %2").arg(turn.score / sum).arg(turn.score);
+    return text;
+}
 
 /// Every new name is reported to assistive tools.
 void nameWithValue(QWidget& widget, const QString& name)
@@ -128,7 +140,10 @@ WordBox::WordBox(const GameFlow& flow, const Theme& theme, QWidget* parent)
       flow_(flow),
       theme_(theme),
       WordTried(new FittingLabel(wordSize, 0.08, this)),
-      CurrScore(new FittingLabel(wordSize * scoreShare, 0, this))
+      CurrScore(new FittingLabel(wordSize * scoreShare, 0, this)),
+      refusal_(new QLabel(this)),
+      refusalTime_(new QTimer(this)),
+      momentTime_(new QTimer(this))
 {
     WordTried->setObjectName("WordTried");
     WordTried->setPlaceholder(tr("Click or type touching letters"));
@@ -138,12 +153,38 @@ WordBox::WordBox(const GameFlow& flow, const Theme& theme, QWidget* parent)
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(2 * Theme::grid, Theme::grid, Theme::grid, Theme::grid);
     row->addWidget(WordTried, 1);
+    row->addWidget(refusal_);
     row->addWidget(CurrScore);
+    refusal_->setObjectName("Refusal");
+    refusal_->setFont(Theme::font(Theme::quietTextSize, true));
+    refusal_->hide();
+    refusalTime_->setSingleShot(true);
+    refusalTime_->setInterval(1'800);
+    connect(refusalTime_, &QTimer::timeout, refusal_, &QWidget::hide);
+    momentTime_->setSingleShot(true);
+    connect(momentTime_, &QTimer::timeout, this, &WordBox::synchronise);
 }
 
-void WordBox::shake()
+void WordBox::refuse(const QString& why)
 {
+    synchronise(); // what is refused may have taken an earlier word's place
     WordTried->shake();
+    refusal_->setText(why);
+    refusal_->show();
+    refusalTime_->start();
+}
+
+/// A word that enters says what it brought, a long one for longer.
+void WordBox::lookForNewWord()
+{
+    const GameState& state = flow_.view().state;
+    if (state.begun == begun_ && state.turns.size() > turns_) {
+        const Turn& turn = state.turns.back();
+        moment_ = momentText(turn);
+        momentTime_->start(700 + 150 * static_cast<int>(turn.word.size()));
+    }
+    begun_ = state.begun;
+    turns_ = state.turns.size();
 }
 
 void WordBox::setLetterSize(double size)
@@ -156,8 +197,14 @@ void WordBox::synchronise()
 {
     const GameState& state = flow_.view().state;
     const WindowColours& colours = theme_.colours();
+    lookForNewWord();
     const QString word = toQString(flow_.view().selection.wordTried());
-    WordTried->setText(word);
+    const bool tellsWord = momentTime_->isActive() && word.isEmpty() && !state.computerTurnInProgress;
+    const QString shown = tellsWord ? moment_ : word;
+    if (shown != WordTried->text()) {
+        WordTried->setText(shown);
+        refusal_->hide();
+    }
     nameWithValue(*WordTried, word.isEmpty() ? tr("No word yet") : tr("The word so far, %1").arg(word));
     const QString score = toQString(state.currScoreText());
     if (score != CurrScore->text()) {
@@ -173,7 +220,9 @@ void WordBox::synchronise()
         update();
     computersTurn_ = state.computerTurnInProgress;
     scoreBack_ = scoreBack;
-    WordTried->setColour(toQColor(computersTurn_ ? colours.computerFore : colours.cardText));
+    WordTried->setColour(toQColor(computersTurn_ ? colours.computerFore
+                                  : tellsWord    ? colours.accent
+                                                 : colours.cardText));
     CurrScore->setColour(toQColor(scoreBack_ ? readableOn(*scoreBack_) : colours.accent));
 }
 
