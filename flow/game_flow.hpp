@@ -7,6 +7,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace lexigrove
@@ -122,6 +123,8 @@ private:
 
     template <typename Rule>
     void input(When when, Rule rule);
+    template <typename Rule>
+    void aside(When when, Rule rule);
     [[nodiscard]] bool beginInput(When when);
     void endEarly();
     void offerEndIfNoWordIsLeft();
@@ -173,7 +176,7 @@ private:
     bool failureToSaveTold_ = false;
     bool noWordLeft_ = false; ///< which was told
     bool busy_ = false;
-    bool ticking_ = false; ///< while a timer runs, not the player
+    bool ticking_ = false; ///< while something else than an action of the player runs: a timer, a look
     bool ended_ = false;
     bool inGame_ = false;
     bool paused_ = false;
@@ -189,11 +192,21 @@ void GameFlow::input(When when, Rule rule)
         return;
     try {
         rule(*parts_);
-        offerEndIfNoWordIsLeft();
+        if (!ticking_)
+            offerEndIfNoWordIsLeft();
     } catch (...) {
         endEarly();
     }
     endInput();
+}
+
+/// An input that is no action of the player's: what was said stays.
+template <typename Rule>
+void GameFlow::aside(When when, Rule rule)
+{
+    const bool outer = std::exchange(ticking_, true);
+    input(when, rule);
+    ticking_ = outer;
 }
 
 } // namespace lexigrove

@@ -170,7 +170,7 @@ void GameFlow::hoverTile(int tile)
 {
     if (paused_)
         return; // the board is covered
-    input(When::InPlay, [=](GameParts& p) {
+    aside(When::InPlay, [=](GameParts& p) {
         if (!p.game.board.isVisible(tile))
             return;
         p.ports.status.Warn = false;
@@ -380,8 +380,7 @@ void GameFlow::runTick(Timer timer)
 
 void GameFlow::warnOfPush()
 {
-    const bool outer = std::exchange(ticking_, true);
-    input(When::InPlay, [](GameParts& p) {
+    aside(When::InPlay, [](GameParts& p) {
         std::set<int> columns;
         for (const int tile : p.game.redTiles.pushable())
             columns.insert(Board::col(tile));
@@ -391,7 +390,6 @@ void GameFlow::warnOfPush()
         if (!list.empty())
             p.ports.status.tell("Column " + list + " will be pushed down");
     });
-    ticking_ = outer;
 }
 
 void GameFlow::clockGotFocus()

@@ -28,6 +28,7 @@ void ComputerTurn::take()
     game_.ports.status.Warn = false;
     game_.ports.status.write("Press any key to continue");
     game_.ports.screen.waitForAnyInput();
+    game_.ports.status.forget();
     play();
     end();
 }

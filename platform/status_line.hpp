@@ -39,8 +39,12 @@ public:
     void actionBegins()
     {
         if (current == Current::News || Warn)
-            current = Current::Nothing;
+            forget();
+        News.clear();
     }
+
+    /// What was said is over.
+    void forget() { current = Current::Nothing; }
 
     /// What a window shows; the texts themselves stay.
     enum class Current { Caption, News, Nothing };

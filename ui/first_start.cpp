@@ -1,10 +1,10 @@
 #include "ui/first_start.hpp"
 
 #include "platform/text_file.hpp"
+#include "ui/look/theme.hpp"
 
 #include <QApplication>
 #include <QPalette>
-#include <QStyle>
 
 #include <vector>
 
@@ -24,11 +24,6 @@ bool isDark(const QPalette& palette)
     return palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness();
 }
 
-bool showsAnimations(const QStyle& style)
-{
-    return style.styleHint(QStyle::SH_Widget_Animation_Duration) > 0;
-}
-
 } // namespace
 
 void prepareFirstStart(const std::string& folder)
@@ -40,7 +35,7 @@ void prepareFirstStart(const std::string& folder)
             return;
         if (isDark(QApplication::palette()))
             lines[schemeLine - 1] = "Night.sch";
-        if (!showsAnimations(*QApplication::style())) {
+        if (!Theme::showsAnimations()) {
             lines[animationLine - 1] = "False";
             lines[noAnimationLine - 1] = "True";
         }

@@ -123,7 +123,11 @@ TEST_F(DialogTest, StatisticsShowTheTableAndTheChart)
 
     chooseOptions([](OptionsForm& options) { options.setValue(options.Check1, true); });
     start({{9, "QCATS"}, {33, "DO"}});
-    script.when([this] { return shown("Label1") == "Press any key to continue"; }, [this] { key(Qt::Key_Space); });
+    script.when([this] { return shown("Label1") == "Press any key to continue"; },
+                [this] {
+                    QTest::qWait(QtScreen::quietTime.count());
+                    key(Qt::Key_Space);
+                });
     enter("cats");
     Study(flow()).set(&GameState::hintsUsed, 2);
     script.in("Form4", [](QDialog& dialog) {

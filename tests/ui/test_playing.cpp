@@ -368,6 +368,9 @@ TEST_F(Course, AnyInputEndsTheComputersTurnAndIsUsedUp)
     script.when(waits, [&] {
         EXPECT_EQ(shown("WordTried"), "ACT");
         EXPECT_FALSE(child("Frame3").isEnabled());
+        QTest::keyClicks(&window(), "do"); // typed too early to have seen the word
+        QTest::qWait(QtScreen::quietTime.count());
+        EXPECT_TRUE(waits());
         key(Qt::Key_N, Qt::ControlModifier); // New Game, were it not used up
     });
     enter("cats");
@@ -379,7 +382,10 @@ TEST_F(Course, AnyInputEndsTheComputersTurnAndIsUsedUp)
     EXPECT_EQ(painted(*words.viewport(), wordCell(words, 1).topLeft()), toQColor(colours().computerBack));
 
     const QPoint tile = board().tileRect(40).center();
-    script.when(waits, [&] { QTest::mousePress(&board(), Qt::LeftButton, {}, tile); });
+    script.when(waits, [&] {
+        QTest::qWait(QtScreen::quietTime.count());
+        QTest::mousePress(&board(), Qt::LeftButton, {}, tile);
+    });
     press("EnterWord"); // a pass
     QTest::mouseRelease(&board(), Qt::LeftButton, {}, tile);
     EXPECT_EQ(shown("CompScore"), "8");

@@ -10,7 +10,6 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QStyle>
 #include <QVariantAnimation>
 
 #include <algorithm>
@@ -169,7 +168,7 @@ void BoardView::lookForNewWord()
 /// Joins what shines already. On a desktop without animations nothing does.
 void BoardView::shine(std::vector<Glow> glows, int milliseconds)
 {
-    if (style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, this) == 0)
+    if (!Theme::showsAnimations())
         return;
     if (shining_->state() == QAbstractAnimation::Running)
         glows.insert(glows.end(), glows_.begin(), glows_.end());

@@ -64,6 +64,9 @@ void FirstSteps::noteWhatWasFollowed()
 {
     const GameView& view = flow_.view();
     const int tiles = tilesOnBoard();
+    if (view.state.begun != begun_)
+        hadRedTile_ = hadBonusTile_ = false; // another game's tiles are no merit
+    begun_ = view.state.begun;
     if (view.selection.tiles().size() > 1)
         done(Step::Touch);
     if (view.state.wordsMade > 0) {
@@ -82,17 +85,29 @@ void FirstSteps::noteWhatWasFollowed()
     hadBonusTile_ = bonusTile;
 }
 
+bool FirstSteps::hasDrop() const
+{
+    const Board& board = flow_.view().board;
+    for (int col = 1; col <= Board::columns; ++col) {
+        if (board.waiting(col).Visible() && !board.isVisible(Board::Grid(1, col)))
+            return true;
+    }
+    return false;
+}
+
 QString FirstSteps::next()
 {
+    if (!flow_.inGame() || flow_.view().state.computerTurnInProgress)
+        return shown_ = {};
     if (flow_.isBusy())
         return shown_; // tiles come and go while letters slide
     shown_ = {};
-    if (!flow_.inGame() || !areLeft())
+    if (!areLeft())
         return shown_;
     noteWhatWasFollowed();
     using enum Step;
     const GameView& view = flow_.view();
-    const bool gap = view.state.wordsMade > 0 && tilesBefore_ < Board::tileCount;
+    const bool gap = view.state.wordsMade > 0 && hasDrop();
     const bool picked = view.selection.tiles().size() > 1;
     const std::pair<Step, bool> steps[] = {
         {RedTile, hadRedTile_}, {BonusTile, hadBonusTile_}, {Touch, true}, {Enter, picked}, {Drop, gap},

@@ -5,6 +5,8 @@
 
 #include <QString>
 
+#include <string>
+
 namespace lexigrove
 {
 
@@ -27,11 +29,14 @@ private:
     [[nodiscard]] bool isDone(Step step) const;
     void done(Step step);
     [[nodiscard]] int tilesOnBoard() const;
+    /// Whether a waiting letter can fall into a gap.
+    [[nodiscard]] bool hasDrop() const;
     void noteWhatWasFollowed();
 
     const GameFlow& flow_;
     SettingsFile& settings_;
     QString shown_;
+    std::string begun_; ///< of the game that is known
     int tilesBefore_ = 0;
     bool hadRedTile_ = false;
     bool hadBonusTile_ = false;

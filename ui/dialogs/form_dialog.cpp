@@ -19,10 +19,11 @@ FormDialog::FormDialog(Host& gameHost, const char* objectName, std::string_view 
     setWindowTitle(toQString(caption));
 }
 
-void FormDialog::resizeOnScreen(int width, int height)
+void resizeOnScreen(QWidget& window, int width, int height)
 {
     const QSize frame(2 * Theme::grid, 5 * Theme::grid); // what a window manager adds
-    resize(QSize(Theme::scaled(width), Theme::scaled(height)).boundedTo(screen()->availableSize() - frame));
+    window.resize(
+        QSize(Theme::scaled(width), Theme::scaled(height)).boundedTo(window.screen()->availableSize() - frame));
 }
 
 QVBoxLayout* FormDialog::newColumn()
@@ -52,8 +53,8 @@ QSize ScrollPart::sizeHint() const
 
 QSize ScrollPart::minimumSizeHint() const
 {
-    return {widget()->minimumSizeHint().width() + verticalScrollBar()->sizeHint().width(),
-            Theme::scaled(14 * Theme::grid)};
+    const int width = widget()->minimumSizeHint().width() + verticalScrollBar()->sizeHint().width();
+    return {std::min(width, 100 * Theme::grid), Theme::scaled(14 * Theme::grid)};
 }
 
 /// The content may have grown.

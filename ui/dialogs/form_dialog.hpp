@@ -32,14 +32,14 @@ protected:
     /// Updates the widgets from the form; closes the window if the form is hidden.
     virtual void showForm() {}
 
-    /// Resizes the window, to no more than the screen has.
-    void resizeOnScreen(int width, int height);
-
     /// The window's layout: a column with the margins and gaps that all windows share.
     QVBoxLayout* newColumn();
 
     Host& host;
 };
+
+/// Resizes a window, to no more than the screen has. The measures are for a font of usual size.
+void resizeOnScreen(QWidget& window, int width, int height);
 
 /// The part of a window that scrolls where the screen has no room for it; the buttons stay below.
 class ScrollPart : public QScrollArea

@@ -23,8 +23,8 @@ public:
           form_(form),
           WordsMade_(new WordsView(form.WordsMade, gameHost.theme, this, &WindowColours::computerText)),
           Select_(newBox(form.BoxControl2, "BoxControl2")),
-          Close_(newBox(form.BoxControl1, "BoxControl1")),
-          Meaning_(newBox(form.Meaning, "Meaning"))
+          Meaning_(newBox(form.Meaning, "Meaning")),
+          Close_(newBox(form.BoxControl1, "BoxControl1"))
     {
         WordsMade_->setObjectName("WordsMade");
         connect(WordsMade_, &WordsView::headingClicked, this,
@@ -99,8 +99,8 @@ private:
     HintsForm& form_;
     WordsView* WordsMade_;
     BoxButton* Select_;
-    BoxButton* Close_;
     BoxButton* Meaning_;
+    BoxButton* Close_;
 };
 
 } // namespace

@@ -86,7 +86,7 @@ public:
         side->addWidget(newExitButton());
         areas->addLayout(side);
         newColumn()->addLayout(areas);
-        resizeOnScreen(72 * Theme::grid, 64 * Theme::grid);
+        resizeOnScreen(*this, 72 * Theme::grid, 64 * Theme::grid);
 
         input([this] { form_.activate(); });
         Text1_->setFocus();

@@ -63,7 +63,7 @@ public:
         column->addLayout(newButtonRow({open_, close}));
         showForm();
         games_->setFocus();
-        resizeOnScreen(126 * Theme::grid, 72 * Theme::grid);
+        resizeOnScreen(*this, 126 * Theme::grid, 72 * Theme::grid);
     }
 
 protected:

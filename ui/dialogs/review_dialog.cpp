@@ -78,7 +78,7 @@ public:
         fillTurns();
         showForm();
         turns_->setFocus();
-        resizeOnScreen(124 * Theme::grid, 84 * Theme::grid);
+        resizeOnScreen(*this, 124 * Theme::grid, 84 * Theme::grid);
     }
 
 protected:

@@ -72,8 +72,7 @@ public:
         List2_->setSelectionMode(QAbstractItemView::NoSelection);
         List2_->setFocusPolicy(Qt::NoFocus);
         List2_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-        List2_->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
-        List2_->setMinimumSize(Theme::scaled(48 * Theme::grid), Theme::scaled(41 * Theme::grid));
+        List2_->setMinimumSize(Theme::scaled(24 * Theme::grid), Theme::scaled(12 * Theme::grid));
 
         AnotherGame_->setProperty("primary", true);
         connect(AnotherGame_, &QPushButton::clicked, this, [this] { input([this] { form_.pressAnotherGame(); }); });
@@ -86,6 +85,7 @@ public:
         QVBoxLayout* const column = newColumn();
         column->addWidget(List2_);
         column->addLayout(newButtonRow({AnotherGame_, ExitProg_, CloseForm_}));
+        resizeOnScreen(*this, 54 * Theme::grid, 54 * Theme::grid);
     }
 
 protected:

@@ -38,7 +38,9 @@ public:
     StatisticsDialog(Host& gameHost, const StatisticsForm& form)
         : FormDialog(gameHost, "Form4", "Statistics"), form_(form)
     {
-        auto* const areas = new QHBoxLayout;
+        auto* const content = new QWidget;
+        auto* const areas = new QHBoxLayout(content);
+        areas->setContentsMargins({});
         areas->setSpacing(Theme::gap);
         areas->addWidget(newTable());
         areas->addSpacing(Theme::grid);
@@ -50,10 +52,9 @@ public:
         connect(Exitx, &QPushButton::clicked, this, &QDialog::accept);
 
         QVBoxLayout* const column = newColumn();
-        column->addLayout(areas);
+        column->addWidget(new ScrollPart(content));
         column->addWidget(Exitx, 0, Qt::AlignRight);
         Exitx->setFocus();
-        layout()->setSizeConstraint(QLayout::SetFixedSize);
     }
 
 private:

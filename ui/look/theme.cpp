@@ -7,6 +7,9 @@
 #include <QIcon>
 #include <QPainter>
 #include <QPalette>
+#include <QSettings>
+#include <QStandardPaths>
+#include <QStyle>
 #include <QStyleFactory>
 
 #include <algorithm>
@@ -99,7 +102,7 @@ QPushButton[link="true"]:hover, QPushButton[link="true"]:focus { text-decoration
 QPushButton[primary="true"] { background: @accent; color: @accentText; border-color: @accent; font-weight: bold; }
 QPushButton[primary="true"]:hover { background: @accentHover; }
 QPushButton[primary="true"]:pressed { background: @accentPressed; }
-QPushButton[primary="true"]:focus { border-color: @text; }
+QPushButton[primary="true"]:focus { border: 6px double @accentText; padding: 2px 3px; }
 QPushButton[link="true"]:focus { border: 2px solid @text; padding: 0; }
 QPushButton[primary="true"]:disabled { background: @strip; color: @disabled; border-color: @line; }
 QDialogButtonBox QPushButton { min-width: 64px; }
@@ -121,7 +124,7 @@ QLineEdit, QListView, QListWidget, QPlainTextEdit { background: @card; color: @c
     border-radius: 4px; padding: 3px; selection-background-color: @accent; selection-color: @accentText; }
 QLineEdit:focus, QListView:focus, QListWidget:focus { border: 2px solid @cardText; padding: 2px; }
 QLineEdit:disabled { color: @disabled; background: @background; }
-QTableView, QTreeView { background: @card; border: 1px solid @line; border-radius: 6px; padding: 4px 0; }
+QTableView, QTreeView { background: @card; border: 1px solid @line; border-radius: 6px; padding: 4px 1px; }
 QTableView:focus, QTreeView:focus { border: 2px solid @cardText; padding: 3px 0; }
 QHeaderView { background: @card; border: none; }
 QHeaderView::section { background: @card; border: none; border-bottom: 1px solid @line; padding: 0 7px; }
@@ -238,6 +241,20 @@ double Theme::textScale()
     constexpr double tenPoints = 10 * 96 / 72.0;
     const double scale = QFontInfo(QApplication::font()).pixelSize() / tenPoints;
     return scale < 1.1 ? 1 : scale;
+}
+
+bool Theme::showsAnimations()
+{
+    static const bool filesAgree = [] {
+        const std::pair<const char*, const char*> choices[] = {
+            {"kdeglobals", "KDE/AnimationDurationFactor"}, {"gtk-3.0/settings.ini", "Settings/gtk-enable-animations"}};
+        return std::all_of(std::begin(choices), std::end(choices), [](const auto& choice) {
+            const QString file = QStandardPaths::locate(QStandardPaths::GenericConfigLocation, choice.first);
+            const QString value = QSettings(file, QSettings::IniFormat).value(choice.second, "1").toString();
+            return file.isEmpty() || !(value == "0" || value.toLower() == "false");
+        });
+    }();
+    return filesAgree && QApplication::style()->styleHint(QStyle::SH_Widget_Animation_Duration) > 0;
 }
 
 QFont Theme::font(double pixelSize, bool bold)

@@ -62,6 +62,9 @@ public:
     /// How much larger the desktop's font is than ten points; a smaller one counts as these.
     [[nodiscard]] static double textScale();
 
+    /// Whether the desktop shows animations: its style's word, and what a desktop without one writes into its files.
+    [[nodiscard]] static bool showsAnimations();
+
     /// A measure that must hold text: `measure` at ten points, and as much larger as the desktop's font.
     [[nodiscard]] static int scaled(int measure);
 

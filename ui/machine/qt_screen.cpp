@@ -79,10 +79,9 @@ void QtScreen::waitForAnyInput()
 {
     emit host_.modelsChanged();
     QEventLoop loop;
-    const QScopedValueRollback waiting(waiting_, &loop);
     emit host_.waitingChanged(true);
     const auto over = qScopeGuard([this] { emit host_.waitingChanged(false); });
-    host_.gate.exec(loop);
+    waitIn(loop);
 }
 
 /// The score counts up, and then there is time to read, until a key or a button is pressed.
@@ -99,8 +98,20 @@ void QtScreen::showEnd(const EndOfGame& end)
         return;
     QEventLoop reading;
     QTimer::singleShot(readingTime, &reading, &QEventLoop::quit);
-    const QScopedValueRollback waiting(waiting_, &reading);
-    host_.gate.exec(reading);
+    waitIn(reading);
+}
+
+void QtScreen::waitIn(QEventLoop& loop)
+{
+    const QScopedValueRollback waiting(waiting_, &loop);
+    waitBegan_ = SteadyClock::now();
+    host_.gate.exec(loop);
+}
+
+void QtScreen::endWait()
+{
+    if (SteadyClock::now() - waitBegan_ >= quietTime)
+        waiting_->quit();
 }
 
 void QtScreen::copyText(const std::string& text)
@@ -127,7 +138,7 @@ bool QtScreen::consume(QEvent* event)
         auto* key = static_cast<QKeyEvent*>(event);
         if (waiting_ != nullptr && !key->isAutoRepeat()) {
             consumedKey_ = key->key();
-            waiting_->quit();
+            endWait();
         }
         const bool used = waiting_ != nullptr || (consumedKey_ != 0 && key->key() == consumedKey_);
         if (used)
@@ -148,7 +159,7 @@ bool QtScreen::consume(QEvent* event)
         if (waiting_ == nullptr)
             return false;
         consumedButton_ = static_cast<QMouseEvent*>(event)->button();
-        waiting_->quit();
+        endWait();
         return true;
     case QEvent::MouseButtonRelease:
         if (consumedButton_ == Qt::NoButton || static_cast<QMouseEvent*>(event)->button() != consumedButton_)

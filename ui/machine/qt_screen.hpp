@@ -44,6 +44,9 @@ public:
     /// 250 rounds, the delay that the game starts with, make a step of ten milliseconds.
     static constexpr std::chrono::microseconds roundLength{40};
 
+    /// What somebody typed or clicked before the wait for any input could be seen does not end it.
+    static constexpr std::chrono::milliseconds quietTime{400};
+
     bool eventFilter(QObject* receiver, QEvent* event) override;
 
 private:
@@ -51,6 +54,8 @@ private:
 
     void showAndRunEvents();
     [[nodiscard]] bool consume(QEvent* event);
+    void waitIn(QEventLoop& loop);
+    void endWait();
 
     Host& host_;
     bool locked_ = false;
@@ -59,6 +64,7 @@ private:
     SteadyClock::time_point stepEnd_; ///< when the current step of an animation is over
 
     // The input that ends a wait is consumed together with its release.
+    SteadyClock::time_point waitBegan_;
     QEventLoop* waiting_ = nullptr;
     int consumedKey_ = 0;
     Qt::MouseButton consumedButton_ = Qt::NoButton;

@@ -80,7 +80,7 @@ HelpWindow::HelpWindow(const Theme& theme, BrowserLoader& loader, const std::str
         strip->addWidget(button);
     }
     areas->addLayout(strip);
-    resize(104 * Theme::grid, 84 * Theme::grid);
+    resizeOnScreen(*this, 104 * Theme::grid, 84 * Theme::grid);
 }
 
 void HelpWindow::bringToFront()

@@ -26,7 +26,7 @@ public:
         column->setContentsMargins({});
         column->addWidget(WbDictionary);
         new QShortcut(Qt::Key_Escape, this, [this] { accept(); }); // even if the page has the focus
-        resizeOnScreen(120 * Theme::grid, 84 * Theme::grid);
+        resizeOnScreen(*this, 120 * Theme::grid, 84 * Theme::grid);
         // Before the window is shown: the engine's first view makes the toolkit recreate the window, which would close
         // an open dialog.
         WbDictionary->navigate(QUrl(toQString(form.address)));

@@ -3,7 +3,6 @@
 #include "ui/look/text.hpp"
 
 #include <QPainter>
-#include <QStyle>
 #include <QVariantAnimation>
 
 #include <algorithm>
@@ -38,7 +37,7 @@ void Banner::tell(const EndOfGame& end)
         lines.append(toQString(line));
     memorable_ = lines.join('\n');
     setAccessibleName(tr("%1 Your score: %2").arg(text_).arg(end.score));
-    if (style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, this) > 0)
+    if (Theme::showsAnimations())
         countUp(end.score);
 }
 

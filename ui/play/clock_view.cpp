@@ -125,9 +125,12 @@ void ClockFrame::paintEvent(QPaintEvent* /*event*/)
     const ClockRectangle& background = flow_.view().clock.Shapet();
     QPainter painter(this);
     const bool themed = background.fill != theme_.colours().background; // otherwise the line shows where the clock is
-    Theme::paintCard(painter, rect(), background.fill, themed ? background.border : theme_.colours().line);
-    if (hasFocus())
-        Theme::paintCard(painter, rect(), background.fill, theme_.colours().text, 2);
+    QRect panel = rect();
+    if (hasFocus()) { // a ring with a gap, which is seen beside any panel
+        Theme::paintCard(painter, panel, theme_.colours().background, theme_.colours().text, 2);
+        panel = panel.marginsRemoved({4, 4, 4, 4});
+    }
+    Theme::paintCard(painter, panel, background.fill, themed ? background.border : theme_.colours().line);
 }
 
 void ClockFrame::keyPressEvent(QKeyEvent* event)

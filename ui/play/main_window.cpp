@@ -122,7 +122,10 @@ void MainWindow::addTimer(const QString& name, Timer timer)
     auto* clock = new QTimer(this);
     clock->setObjectName(name);
     clock->setInterval(intervalOf(timer));
-    connect(clock, &QTimer::timeout, this, [this, timer] { host_.gate.runTick([&] { flow_.tick(timer); }); });
+    connect(clock, &QTimer::timeout, this, [this, timer] {
+        if (timer != Timer::Clock || !away_)
+            host_.gate.runTick([&] { flow_.tick(timer); });
+    });
     clock->start();
     if (timer == Timer::Push)
         warnBefore(*clock);
@@ -189,7 +192,9 @@ void MainWindow::keyPressEvent(QKeyEvent* event)
         return flow_.perform(Command::AskPassword);
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        return flow_.perform(Command::EnterWord);
+        if (!event->isAutoRepeat()) // a key that is held does not pass turn after turn
+            flow_.perform(Command::EnterWord);
+        return;
     case Qt::Key_Escape:
         return flow_.perform(Command::ClearWord);
     case Qt::Key_Backspace:
@@ -245,18 +250,23 @@ void MainWindow::changeEvent(QEvent* event)
 /// A glance at another window does not count.
 void MainWindow::watchLeaving()
 {
-    if (!isMinimized() && QGuiApplication::applicationState() == Qt::ApplicationActive)
-        left_->stop();
-    else if (!left_->isActive())
-        left_->start();
+    if (isMinimized() || QGuiApplication::applicationState() != Qt::ApplicationActive) {
+        if (!left_->isActive())
+            left_->start();
+        return;
+    }
+    left_->stop();
+    away_ = false;
 }
 
-/// Tries again after whatever the game is busy with.
+/// Tries again after whatever the game is busy with; the clock of a game against the computer stands still meanwhile.
 void MainWindow::pauseIfLeft()
 {
-    if (flow_.isBusy() || !flow_.inGame() || flow_.isPaused() || !host_.settings.pausesWhenLeft())
+    if (!flow_.inGame() || flow_.isPaused() || !host_.settings.pausesWhenLeft())
         return;
-    flow_.perform(Command::Pause);
+    away_ = flow_.isBusy() && flow_.view().state.computerGame;
+    if (!flow_.isBusy())
+        flow_.perform(Command::Pause);
 }
 
 void MainWindow::paintEvent(QPaintEvent* event)

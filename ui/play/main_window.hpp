@@ -63,8 +63,9 @@ private:
     StatusLineView* status_;
     std::vector<MenuEntry> menuEntries_;
     Speaker speaker_;
-    QTimer* left_;   ///< runs while the window is minimised or another program's has the keys
-    QTimer* saving_; ///< fires once the events of an input are done
+    bool away_ = false; ///< left, while the game is busy with something that cannot be paused
+    QTimer* left_;      ///< runs while the window is minimised or another program's has the keys
+    QTimer* saving_;    ///< fires once the events of an input are done
     bool endReported_ = false;
 };
 

@@ -81,7 +81,7 @@ PlayArea::PlayArea(GameFlow& flow, Host& host, QWidget* parent)
     words->activatesOnEnter = false; // Enter is for the word on the board
     buildSide();
 
-    boardCover_ = new PauseCover(theme, tr("Click here to resume"), this);
+    boardCover_ = new PauseCover(theme, tr("Click here or press Ctrl+P to resume"), this);
     wordsCover_ = new PauseCover(theme, {}, this);
     wordsCover_->setObjectName("PauseCoverOfWords");
     waits_ = new Banner(theme, "AnyKey", this);

@@ -101,6 +101,8 @@ void Speaker::lookAtGame()
     const int rows = rows_;
     lookAtWords();
     const GameState& state = flow_.view().state;
+    if (std::exchange(prompt_, state.prompt) != state.prompt && state.prompt == Prompt::YourMove)
+        say(toQString(flow_.view().selection.wordTried()));
     const QString word = toQString(flow_.view().selection.word());
     if (word != word_ && !word.isEmpty())
         say(spoken("%1, %2").arg(word, toQString(state.currScoreText())));
@@ -150,7 +152,7 @@ void Speaker::lookAtClock()
     const int left = counts ? flow_.view().clock.currentValue() : 0;
     for (const int seconds : {60, 30, 10}) {
         if (secondsLeft_ > seconds && left <= seconds && left > 0)
-            say(spoken("%1 seconds left").arg(seconds));
+            say(spoken("%1 seconds left").arg(left));
     }
     secondsLeft_ = left;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "flow/game_flow.hpp"
+#include "game/game_state.hpp"
 
 #include <QPointer>
 #include <QStringList>
@@ -44,7 +45,8 @@ private:
     QTimer moment_;     ///< runs until they are
     QString word_;
     std::string begun_; ///< of the game that is known
-    int rows_ = 1;      ///< of the words made, the headings included
+    Prompt prompt_ = Prompt::None;
+    int rows_ = 1; ///< of the words made, the headings included
     int secondsLeft_ = 0;
     bool paused_ = false;
 };

@@ -91,17 +91,18 @@ StatusLineView::StatusLineView(const StatusLine& status, const GameFlow& flow, c
 
 void StatusLineView::synchronise()
 {
-    if (told_ != status_.told) {
+    const bool again = told_ != status_.told && !status_.News.empty();
+    if (again) {
         told_ = status_.told;
         newsTime_->start(); // time to read it, even for a pointer that wanders over the board
     }
     using enum StatusLine::Current;
-    const bool warns = status_.current == Caption && status_.Warn;
-    const bool tells =
-        !warns && !flow_.view().state.computerTurnInProgress && (newsTime_->isActive() || status_.current == News);
+    const bool warns = status_.current == Caption && status_.Warn && !status_.Label1.empty();
+    const bool tells = !warns && !flow_.view().state.computerTurnInProgress && !status_.News.empty() &&
+                       (newsTime_->isActive() || status_.current == News);
     const std::string none;
     const std::string& text = tells ? status_.News : status_.current == Caption ? status_.Label1 : none;
-    if (const QString message = onOneLine(text); message != full_) {
+    if (const QString message = onOneLine(text); message != full_ || again) {
         full_ = message;
         elide();
         emit shows(message);

@@ -11,7 +11,6 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
-#include <QStyle>
 #include <QTimer>
 #include <QVariantAnimation>
 
@@ -69,7 +68,7 @@ public:
     /// Moves the text aside for a moment, to and fro; a desktop without animations leaves it where it is.
     void shake()
     {
-        if (style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, this) == 0)
+        if (!Theme::showsAnimations())
             return;
         auto* const shaking = new QVariantAnimation(this);
         shaking->setDuration(240);
@@ -205,7 +204,10 @@ void WordBox::synchronise()
         WordTried->setText(shown);
         refusal_->hide();
     }
-    nameWithValue(*WordTried, word.isEmpty() ? tr("No word yet") : tr("The word so far, %1").arg(word));
+    const bool isPrompt = flow_.view().selection.isEmpty();
+    nameWithValue(*WordTried, word.isEmpty() ? tr("No word yet")
+                              : isPrompt     ? word
+                                             : tr("The word so far, %1").arg(word));
     const QString score = toQString(state.currScoreText());
     if (score != CurrScore->text()) {
         CurrScore->setText(score);
