@@ -179,7 +179,7 @@ WordsView::WordsView(const WordsGrid& grid, const Theme& theme, QWidget* parent,
     setShowGrid(false);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollMode(ScrollPerPixel);
-    setMinimumSize(24 * Theme::grid, 3 * heightOfRow());
+    setMinimumSize(24 * Theme::grid, 2 * heightOfRow()); // the headings and a row
     verticalHeader()->hide();
     verticalHeader()->setDefaultSectionSize(heightOfRow());
 

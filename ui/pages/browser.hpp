@@ -41,6 +41,7 @@ public:
 struct BrowserPageSetup {
     BrowserRules rules;
     QColor background;                ///< behind a page that is not painted yet
+    double zoom = 1;                  ///< the size of the game's text as a multiple of the usual one
     std::function<void(bool)> loaded; ///< called with whether a page could be loaded
 };
 

@@ -19,6 +19,7 @@
 #include <QWebEngineUrlRequestInterceptor>
 #include <QWebEngineView>
 
+#include <algorithm>
 #include <cstdio>
 #include <sched.h>
 #include <sys/wait.h>
@@ -188,6 +189,7 @@ public:
         view_.setContextMenuPolicy(Qt::NoContextMenu);
         view_.setAcceptDrops(false);
         view_.setPage(&page_);
+        view_.setZoomFactor(std::min(setup.zoom, 5.0)); // the engine's greatest
     }
 
     [[nodiscard]] QWidget* widget() override { return &view_; }

@@ -1,5 +1,6 @@
 #include "ui/pages/browser_view.hpp"
 
+#include "ui/look/theme.hpp"
 #include "ui/pages/text_page.hpp"
 
 #include <QDesktopServices>
@@ -66,7 +67,7 @@ bool BrowserView::openPage()
     const auto emitLoaded = [this](bool success) { emit loaded(success); };
     page_ = !loader_.isInstalled() && wanted_.isLocalFile()
                 ? newTextPage()
-                : loader_.newPage({rules_, palette().color(QPalette::Window), emitLoaded});
+                : loader_.newPage({rules_, palette().color(QPalette::Window), Theme::textScale(), emitLoaded});
     if (!page_)
         return false;
     failure_->hide();
