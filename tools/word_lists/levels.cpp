@@ -1,12 +1,12 @@
 #include "tools/word_lists/levels.hpp"
 
 #include "platform/ascii.hpp"
+#include "tools/word_lists/ranking.hpp"
 
 #include <algorithm>
 #include <cmath>
 #include <map>
 #include <stdexcept>
-#include <unordered_set>
 
 namespace lexigrove::tools
 {
@@ -14,68 +14,54 @@ namespace lexigrove::tools
 namespace
 {
 
-constexpr int everydayClass = 20;    ///< up to here a word is common even if a name is spelled the same
-constexpr int contractionClass = 10; ///< the same for contractions: "its", "were"
-constexpr int level1Class = 35;      ///< a small dictionary
-constexpr int level2Class = 40; ///< beyond it, names, brands and oaths begin to outnumber words that everybody knows
-constexpr int surelyPlainClass = 60;
+constexpr int variantClass = 55;  ///< what a variant is taken for: known to most, written by few
 constexpr int completeClass = 70; ///< a large dictionary: level 3 has all of it
-constexpr double shared = -2.3;   ///< a tenth, as a logarithm: what is left of a count that belongs to something else
+constexpr int surelyPlainClass = 60;
+constexpr int commonNameClass = 50;
 
-constexpr double sharedWithNames = -1.1; ///< a third: what is left of the count of "lamb", "attic" or "ginger"
-
-struct Ranked {
-    std::string word;
-    double count;
-    bool forLevel1;
-};
-
-/// Two letters without a vowel are an abbreviation or the plural of a letter: "mb", "cs".
-bool isWord(const std::string& word)
+/// Variants that another source knows. The others are slips: "landslidden".
+void addVariants(Sources& sources)
 {
-    return word.size() > 2 || word.find_first_of("aeiouy") != std::string::npos;
+    for (const std::string& variant : sources.scowl.variants) {
+        if (sources.counts.contains(variant) || isConfirmed(sources, variant))
+            sources.scowl.classes.emplace(variant, variantClass);
+    }
 }
 
-/// The words that SCOWL, the counts and good manners allow in the first two levels, most common first.
-std::vector<Ranked> rankedWords(const Scowl& scowl, const WordCounts& counts, const OffensiveWords& offensive)
+bool isNothingButName(const Sources& sources, const std::string& word)
 {
-    std::vector<Ranked> ranked;
-    for (const auto& [word, size] : scowl.classes) {
-        const auto entry = counts.find(word);
-        if (size > level2Class || entry == counts.end() || !isWord(word) || offensive.contains(word))
-            continue;
-        const bool everyday = size <= everydayClass;
-        const bool isName = !everyday && scowl.names.contains(word);
-        const bool isContraction = // "id", "em"
-            size > contractionClass && (scowl.bareContractions.contains(word) || counts.contains("'" + word));
-        const double ofOthers = isContraction || size > level1Class ? shared : sharedWithNames;
-        const double count = entry->second + (isName || isContraction ? ofOthers : 0);
-        ranked.push_back({word, count, size <= level1Class && !isName});
-    }
-    std::sort(ranked.begin(), ranked.end(), [](const Ranked& a, const Ranked& b) {
-        return a.count != b.count ? a.count > b.count : a.word < b.word;
-    });
-    return ranked;
+    const std::vector<Base> bases = sources.wordNet.bases(word);
+    return sources.names.contains(word) && !sources.wordNet.use(word, Part::Noun).defined &&
+           std::all_of(bases.begin(), bases.end(), [&](const Base& base) { return sources.names.contains(base.word); });
 }
 
 /// SCOWL's large classes list names and abbreviations in lower case too: "texas", "gif". A rare word that is spelled
-/// like one is taken for one.
-bool isPlainLevelWord(const Scowl& scowl, const std::string& word, int size)
+/// like one is taken for one, unless WordNet defines it.
+bool isPlainLevelWord(const Sources& sources, const std::string& word, int size)
 {
-    return isWord(word) &&
-           (size <= surelyPlainClass || (!scowl.names.contains(word) && !scowl.abbreviations.contains(word)));
+    const Scowl& scowl = sources.scowl;
+    if (!isPronounced(word))
+        return false;
+    if (size <= surelyPlainClass)
+        return !isNothingButName(sources, word);
+    const auto name = scowl.names.find(word);
+    if (name == scowl.names.end() && !scowl.abbreviations.contains(word))
+        return true;
+    return (name == scowl.names.end() || name->second > commonNameClass) && !scowl.abbreviations.contains(word) &&
+           isConfirmed(sources, word);
 }
 
-/// All words of the complete classes, and those of the largest class up to the length that brings the level closest to
-/// its size.
-std::vector<std::string> wordsOfLevel3(const Scowl& scowl)
+/// All words of the complete classes; of the largest class those that another source confirms, and of the others the
+/// shorter ones, up to the length that brings the level closest to its size.
+std::vector<std::string> wordsOfLevel3(const Sources& sources)
 {
     std::vector<std::string> words;
     std::map<std::size_t, std::vector<std::string>> rareByLength;
-    for (const auto& [word, size] : scowl.classes) {
-        if (!isPlainLevelWord(scowl, word, size))
+    for (const auto& [word, size] : sources.scowl.classes) {
+        if (!isPlainLevelWord(sources, word, size))
             continue;
-        (size <= completeClass ? words : rareByLength[word.size()]).push_back(word);
+        const bool known = size <= completeClass || sources.counts.contains(word) || isConfirmed(sources, word);
+        (known ? words : rareByLength[word.size()]).push_back(word);
     }
     const auto distance = [](std::size_t count) {
         return std::abs(static_cast<double>(count) - static_cast<double>(levelSizes[2]));
@@ -88,6 +74,18 @@ std::vector<std::string> wordsOfLevel3(const Scowl& scowl)
     return words;
 }
 
+/// The words so far, and the first of the others that there is room for.
+std::vector<std::string> filledUp(std::vector<std::string> words, const std::vector<std::string>& others,
+                                  std::size_t size)
+{
+    std::unordered_set<std::string> held(words.begin(), words.end());
+    for (const std::string& word : others) {
+        if (words.size() < size && held.insert(word).second)
+            words.push_back(word);
+    }
+    return words;
+}
+
 std::vector<std::string> printed(std::vector<std::string> words)
 {
     for (std::string& word : words)
@@ -96,35 +94,37 @@ std::vector<std::string> printed(std::vector<std::string> words)
     return words;
 }
 
+void requireThemes(const Sources& sources, const CoarseWords& coarse)
+{
+    for (const std::string& word : sources.themes) {
+        if (!sources.scowl.classes.contains(word) || coarse.contains(word) || !isPronounced(word))
+            throw std::runtime_error("\"" + word + "\" among the everyday words is unknown or coarse.");
+    }
+}
+
 void requireSizes(const Levels& levels)
 {
     for (std::size_t level = 0; level < levels.size(); ++level) {
-        const double share = static_cast<double>(levels[level].size()) / static_cast<double>(levelSizes[level]);
+        const double share = static_cast<double>(levels.at(level).size()) / static_cast<double>(levelSizes.at(level));
         if (share < 0.95 || share > 1.05)
             throw std::runtime_error("Level " + std::to_string(level + 1) + " would have " +
-                                     std::to_string(levels[level].size()) + " words in place of about " +
-                                     std::to_string(levelSizes[level]) +
+                                     std::to_string(levels.at(level).size()) + " words in place of about " +
+                                     std::to_string(levelSizes.at(level)) +
                                      ": the word lists are not SCOWL's whole ones.");
     }
 }
 
 } // namespace
 
-Levels makeLevels(const Scowl& scowl, const WordCounts& counts, const OffensiveWords& offensive)
+Levels makeLevels(Sources sources)
 {
-    const std::vector<Ranked> ranked = rankedWords(scowl, counts, offensive);
-    std::vector<std::string> level1;
-    for (const Ranked& entry : ranked) {
-        if (entry.forLevel1 && level1.size() < levelSizes[0])
-            level1.push_back(entry.word);
-    }
-    std::vector<std::string> level2 = level1;
-    const std::unordered_set<std::string> inLevel1(level1.begin(), level1.end());
-    for (const Ranked& entry : ranked) {
-        if (level2.size() < levelSizes[1] && !inLevel1.contains(entry.word))
-            level2.push_back(entry.word);
-    }
-    Levels levels{printed(level1), printed(level2), printed(wordsOfLevel3(scowl))};
+    addVariants(sources);
+    const CoarseWords coarse(sources.coarse, sources.wordNet);
+    requireThemes(sources, coarse);
+    const std::vector<std::string> level1 =
+        filledUp(filledUp({}, sources.themes, sources.themes.size()), themeForms(sources, coarse), levelSizes[0]);
+    const std::vector<std::string> level2 = filledUp(level1, commonWords(sources, coarse), levelSizes[1]);
+    Levels levels{printed(level1), printed(level2), printed(wordsOfLevel3(sources))};
     requireSizes(levels);
     return levels;
 }

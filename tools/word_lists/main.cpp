@@ -2,6 +2,7 @@
 
 #include "platform/text_file.hpp"
 #include "tools/word_lists/levels.hpp"
+#include "tools/word_lists/word_file.hpp"
 
 #include <array>
 #include <exception>
@@ -34,16 +35,22 @@ void writeNotices(const std::string& path, const std::vector<std::string>& notic
 int main(int argc, char** argv)
 {
     const std::vector<std::string> arguments(argv + 1, argv + argc);
-    if (arguments.size() < 5) {
-        std::cerr << "Usage: make-word-lists TARGET-FOLDER SCOWL-FOLDER COUNTS-FILE WORDNET-FOLDER NOTICE...\n";
+    if (arguments.size() < 6) {
+        std::cerr << "Usage: make-word-lists TARGET-FOLDER OWN-FOLDER SCOWL-FOLDER COUNTS-FILE WORDNET-FOLDER "
+                     "NOTICE...\n";
         return 2;
     }
     try {
         const std::string folder = arguments[0] + "/";
-        const tools::Levels levels =
-            tools::makeLevels(tools::readScowl(arguments[1]), tools::readWordCounts(arguments[2]),
-                              tools::readOffensiveWords(arguments[3]));
-        writeNotices(folder + "Words-Notices.txt", {arguments.begin() + 4, arguments.end()});
+        const std::string own = arguments[1] + "/";
+        const std::vector<std::string> names = tools::readOwnWords(own + "names.txt");
+        const tools::Levels levels = tools::makeLevels({.scowl = tools::readScowl(arguments[2]),
+                                                        .counts = tools::readWordCounts(arguments[3]),
+                                                        .wordNet = tools::readWordNet(arguments[4]),
+                                                        .themes = tools::readOwnWords(own + "themes.txt"),
+                                                        .coarse = tools::readOwnWords(own + "coarse.txt"),
+                                                        .names = {names.begin(), names.end()}});
+        writeNotices(folder + "Words-Notices.txt", {arguments.begin() + 5, arguments.end()});
         for (std::size_t level = 0; level < levels.size(); ++level)
             replaceLines(folder + levelFiles.at(level), levels.at(level));
         return 0;

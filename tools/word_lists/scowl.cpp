@@ -16,7 +16,10 @@ namespace
 namespace fs = std::filesystem;
 
 /// Names beyond this class are so rare that they make no word suspect.
-constexpr int largestNameClass = 50;
+constexpr int largestNameClass = 80;
+
+/// Variants beyond this class are no longer in use.
+constexpr int largestVariantClass = 60;
 
 /// Abbreviations beyond this class are so rare that a word of the same letters is the likelier one.
 constexpr int largestAbbreviationClass = 60;
@@ -54,6 +57,29 @@ bool isOurSpelling(const std::string& spelling)
     return spelling == "english" || spelling == "american" || spelling == "british";
 }
 
+bool isVariant(const ListFile& list)
+{
+    return (list.spelling == "variant_1" || list.spelling == "variant_2") && list.kind == "words" &&
+           list.size <= largestVariantClass;
+}
+
+/// "cafe" for "café" in UTF-8, where the small letters with accents are 0xC3 and a byte from 0xA0 on. What is no such
+/// letter becomes a blank.
+std::string withoutAccents(const std::string& text)
+{
+    constexpr std::string_view letters = "aaaaaa ceeeeiiii nooooo  uuuuy y";
+    std::string plain;
+    for (std::size_t place = 0; place < text.size(); ++place) {
+        if (text[place] != '\xC3' || place + 1 == text.size()) {
+            plain += text[place];
+            continue;
+        }
+        const auto letter = static_cast<unsigned char>(text[++place]);
+        plain += letter >= 0xA0U && letter < 0xA0U + letters.size() ? letters[letter - 0xA0U] : ' ';
+    }
+    return plain;
+}
+
 std::string lettersInLowerCase(std::string_view text)
 {
     std::string letters;
@@ -68,7 +94,10 @@ void readList(const ListFile& list, Scowl& scowl)
 {
     std::ifstream file(list.path);
     for (std::string line; std::getline(file, line);) {
-        if (list.kind == "words" && isPlainWord(line)) {
+        line = withoutAccents(line);
+        if (isVariant(list) && isPlainWord(line)) {
+            scowl.variants.insert(line);
+        } else if (list.kind == "words" && isPlainWord(line)) {
             const auto [entry, isNew] = scowl.classes.emplace(line, list.size);
             entry->second = std::min(entry->second, list.size);
         } else if (list.kind == "contractions" &&
@@ -77,8 +106,10 @@ void readList(const ListFile& list, Scowl& scowl)
         } else if (list.kind == "abbreviations" && list.size <= largestAbbreviationClass) {
             scowl.abbreviations.insert(lettersInLowerCase(line));
         } else if ((list.kind == "upper" || list.kind == "proper-names") && list.size <= largestNameClass) {
-            if (line.find('\'') == std::string::npos)
-                scowl.names.insert(lettersInLowerCase(line));
+            if (line.find('\'') != std::string::npos)
+                continue;
+            const auto [entry, isNew] = scowl.names.emplace(lettersInLowerCase(line), list.size);
+            entry->second = std::min(entry->second, list.size);
         }
     }
     if (file.bad())
@@ -112,7 +143,7 @@ Scowl readScowl(const std::string& folder)
     Scowl scowl;
     for (const fs::directory_entry& entry : fs::directory_iterator(folder)) {
         const ListFile list = listFile(entry.path());
-        if (isOurSpelling(list.spelling) && list.size <= largestClass)
+        if ((isOurSpelling(list.spelling) && list.size <= largestClass) || isVariant(list))
             readList(list, scowl);
     }
     return scowl;

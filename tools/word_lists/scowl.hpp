@@ -10,10 +10,11 @@ namespace lexigrove::tools
 
 /// The word lists of SCOWL, which sort English words by how widely they are known: class 10 holds what everybody
 /// writes, 35 the words of a small dictionary, 70 of a large one, 80 of a huge one. All texts consist of lower-case
-/// letters a to z.
+/// letters a to z; accents are left out.
 struct Scowl {
     std::unordered_map<std::string, int> classes;  ///< by word, the smallest class that lists it, American or British
-    std::unordered_set<std::string> names;         ///< names of people, places and things, in lower case
+    std::unordered_set<std::string> variants;      ///< other spellings, "donut"; some are in the classes, too
+    std::unordered_map<std::string, int> names;    ///< names of people, places and things, and their smallest class
     std::unordered_set<std::string> abbreviations; ///< in lower case
     std::unordered_set<std::string> bareContractions; ///< contractions without their apostrophe: "cant", "id"
 };
