@@ -1,5 +1,7 @@
 #include "tools/word_lists/coarse_words.hpp"
 
+#include <algorithm>
+
 namespace lexigrove::tools
 {
 
@@ -51,7 +53,9 @@ bool CoarseWords::isVerbForm(std::string_view word) const
 
 bool CoarseWords::contains(const std::string& word) const
 {
-    return isListed(word) || isPlural(word) || isVerbForm(word);
+    const std::vector<Base> bases = wordNet_.bases(word);
+    return isListed(word) || isPlural(word) || isVerbForm(word) ||
+           std::any_of(bases.begin(), bases.end(), [&](const Base& base) { return isListed(base.word); });
 }
 
 } // namespace lexigrove::tools

@@ -33,7 +33,7 @@ constexpr double ofThings = 6;
 constexpr double ofMovements = 3;
 constexpr double ofRareThings = 1; ///< beyond level1Class
 constexpr double ofEachLetter = -0.4;
-constexpr double inflected = -2.8;
+constexpr double inflected = -2.6;
 constexpr double inflectedRarely = -8; ///< "husbanding": the base is hardly ever used as a verb
 constexpr double longThemeForm = -0.4;   ///< for each letter beyond a short word
 
@@ -140,11 +140,12 @@ Ranks ranksOfWords(const Sources& sources)
     return ranks;
 }
 
-/// Whether a form is as natural as "houses", not as rare as "husbanding".
+/// Whether a form is as natural as "houses", not as rare as "husbanding" or "beavered".
 bool isNatural(const WordNet& wordNet, const Base& base)
 {
-    const Part other = base.part == Part::Noun ? Part::Verb : Part::Noun;
-    return wordNet.use(base.word, base.part).common || !wordNet.use(base.word, other).common;
+    const Use& noun = wordNet.use(base.word, Part::Noun);
+    const Use& verb = wordNet.use(base.word, Part::Verb);
+    return base.part == Part::Noun ? noun.common || !verb.common : verb.common || !noun.defined;
 }
 
 /// A form is known to those who know its base.

@@ -196,8 +196,11 @@ private:
             std::istringstream fields(line);
             std::string inflected;
             fields >> inflected;
-            for (std::string base; fields >> base;)
+            for (std::string base; fields >> base;) {
                 wordNet_.exceptions_.at(static_cast<std::size_t>(part))[inflected].push_back(base);
+                if (part == Part::Verb && !inflected.ends_with("d") && !inflected.ends_with("ing"))
+                    wordNet_.strongVerbs_.insert(base);
+            }
         }
     }
 
@@ -238,7 +241,9 @@ std::vector<Base> WordNet::bases(const std::string& word) const
         const auto irregular = exceptions.find(word);
         for (const std::string& base :
              irregular != exceptions.end() ? irregular->second : regularBases(word, endings)) {
-            if (base != word && use(base, part).defined)
+            const bool isSlip = part == Part::Verb && word.ends_with("ed") && irregular == exceptions.end() &&
+                                strongVerbs_.contains(base); // "hided"
+            if (base != word && !isSlip && use(base, part).defined)
                 found.push_back({base, part});
         }
     };

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <string>
 #include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 namespace lexigrove::tools
@@ -49,6 +50,7 @@ private:
 
     std::unordered_map<std::string, Uses> uses_;
     std::array<Exceptions, 2> exceptions_; ///< by irregular plural or verb form, its bases
+    std::unordered_set<std::string> strongVerbs_; ///< those with forms like "hidden" and "sung"
 };
 
 /// Reads the data base in a folder such as Debian's /usr/share/wordnet. Throws std::runtime_error if it is missing.
