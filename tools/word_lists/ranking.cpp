@@ -33,9 +33,9 @@ constexpr double ofThings = 6;
 constexpr double ofMovements = 3;
 constexpr double ofRareThings = 1; ///< beyond level1Class
 constexpr double ofEachLetter = -0.4;
-constexpr double inflected = -2.6;
+constexpr double inflected = -2.2;
 constexpr double inflectedRarely = -8; ///< "husbanding": the base is hardly ever used as a verb
-constexpr double longThemeForm = -0.4;   ///< for each letter beyond a short word
+constexpr double longThemeForm = -0.4; ///< for each letter beyond a short word
 
 constexpr std::size_t shortWord = 5;
 constexpr std::size_t ordinaryWord = 8;

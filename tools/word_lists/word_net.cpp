@@ -18,8 +18,8 @@ namespace
 constexpr std::array<const char*, parts.size()> fileNames{"noun", "verb", "adj", "adv"};
 constexpr std::array<std::string_view, 3> offensiveUses{"ethnic_slur", "disparagement", "obscenity"};
 
-/// The lexicographer files of animals, artefacts, bodies, food, objects and plants; of the body's verbs, eating, touching,
-/// moving, sensing and the weather.
+/// The lexicographer files of animals, artefacts, bodies, food, objects and plants; of the body's verbs, eating,
+/// touching, moving, sensing and the weather.
 constexpr std::array concreteFiles{5, 6, 8, 13, 17, 20, 29, 34, 35, 38, 39, 43};
 constexpr std::size_t commonMeanings = 2;
 

@@ -49,7 +49,7 @@ private:
     bool anyUse(const std::string& word, const Property& property) const;
 
     std::unordered_map<std::string, Uses> uses_;
-    std::array<Exceptions, 2> exceptions_; ///< by irregular plural or verb form, its bases
+    std::array<Exceptions, 2> exceptions_;        ///< by irregular plural or verb form, its bases
     std::unordered_set<std::string> strongVerbs_; ///< those with forms like "hidden" and "sung"
 };
 
