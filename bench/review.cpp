@@ -42,7 +42,7 @@ SearchBoard plainBoardOf(const BoardPosition& position)
 
 std::size_t openReview(const std::string& folder, const std::string& text)
 {
-    ReviewLists lists(folder);
+    LevelLists lists(folder);
     const Review review(gameRecordOf(text), lists);
     const ReviewList list = ReviewList::Own;
     return rarestText(review).size() + summaryText(review, list).size() + review.mostLeftBehind(list).size();
@@ -62,7 +62,7 @@ int main(int argumentCount, char** arguments)
     const std::string text = textOf(record);
     std::printf("A record of %d turns: %zu bytes\n", turnCount, text.size());
 
-    ReviewLists lists(folder);
+    LevelLists lists(folder);
     if (lists.level(3).count() == 0) {
         std::fprintf(stderr, "No word lists in %s\n", folder.c_str());
         return 1;

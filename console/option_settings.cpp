@@ -39,6 +39,8 @@ constexpr ChoiceOption meanings{
 constexpr const ChoiceOption* choiceOptions[] = {&arrangement, &dictionary, &strategy, &sound, &animation, &meanings};
 
 constexpr std::string_view yesNo[] = {"no", "yes"};
+constexpr std::string_view vocabularies[] = {"every", "common", "simple"};
+constexpr std::string_view pressures[] = {"on", "relaxed"};
 
 const ChoiceOption* findChoiceOption(std::string_view key)
 {
@@ -94,7 +96,8 @@ OptionSetting readOption(std::string_view text)
         setting.value = text.substr(equals + 1);
     const std::string& key = setting.key;
     const ChoiceOption* const option = findChoiceOption(key);
-    if (option == nullptr && key != "computer" && key != "preset" && !isFreeText(key))
+    if (option == nullptr && key != "computer" && key != "preset" && key != "computer_knows" && key != "pressure" &&
+        !isFreeText(key))
         throw CommandError("unknown option: " + key);
     if (equals == std::string_view::npos)
         throw CommandError("missing value: " + key);
@@ -102,6 +105,10 @@ OptionSetting readOption(std::string_view text)
         placeOf(*option, setting.value);
     else if (key == "computer")
         choiceOf(key, setting.value, yesNo);
+    else if (key == "computer_knows")
+        choiceOf(key, setting.value, vocabularies);
+    else if (key == "pressure")
+        choiceOf(key, setting.value, pressures);
     else if (key == "preset")
         checkPreset(setting.value);
     return setting;
@@ -131,6 +138,10 @@ void applyOption(OptionsForm& form, const OptionSetting& setting)
     } else if (key == "computer") {
         form.setValue(form.Check1, value == "yes");
         form.mouseReleased(form.Check1);
+    } else if (key == "computer_knows") {
+        form.settings.vocabulary = static_cast<Vocabulary>(choiceOf(key, value, vocabularies));
+    } else if (key == "pressure") {
+        form.settings.pressure = static_cast<Pressure>(choiceOf(key, value, pressures));
     } else if (key == "user_dictionary") {
         form.typeUserDictName(value);
     } else if (key == "scheme") {
@@ -142,16 +153,22 @@ void applyOption(OptionsForm& form, const OptionSetting& setting)
 
 Lines optionLines(const OptionsForm& form, const std::string& schemeName)
 {
-    return {line(arrangement, form),
-            line(dictionary, form),
-            "user_dictionary=" + form.UsrDictName.Text,
-            std::string("computer=") + (form.Check1.Value ? "yes" : "no"),
-            line(strategy, form),
-            line(sound, form),
-            line(animation, form),
-            line(meanings, form),
-            "scheme=" + schemeName,
-            "preset=" + form.settings.presetLetters.text()};
+    Lines lines{line(arrangement, form),
+                line(dictionary, form),
+                "user_dictionary=" + form.UsrDictName.Text,
+                std::string("computer=") + (form.Check1.Value ? "yes" : "no"),
+                line(strategy, form),
+                line(sound, form),
+                line(animation, form),
+                line(meanings, form),
+                "scheme=" + schemeName,
+                "preset=" + form.settings.presetLetters.text()};
+    if (form.settings.vocabulary != Vocabulary::Every)
+        lines.push_back("computer_knows=" +
+                        std::string(vocabularies[static_cast<std::size_t>(form.settings.vocabulary)]));
+    if (form.settings.pressure != Pressure::On)
+        lines.push_back("pressure=" + std::string(pressures[static_cast<std::size_t>(form.settings.pressure)]));
+    return lines;
 }
 
 } // namespace lexigrove

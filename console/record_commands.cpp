@@ -121,7 +121,7 @@ Lines summary(CommandContext& context, int number)
 
 Lines reviewGame(CommandContext& context, const ReviewPlace& place)
 {
-    ReviewLists lists(folderOf(context));
+    LevelLists lists(folderOf(context));
     const Review review(gameAt(context, place.game), lists);
     if (!place.turn)
         return gameLines(review);

@@ -40,7 +40,7 @@ ScoreForm::Answer offerScore(GameParts& parts)
     return showTopTen(parts.scoreForm, parts.ports.windows, score);
 }
 
-std::vector<std::string> memorableTexts(const GameRecord& game, ReviewLists& lists)
+std::vector<std::string> memorableTexts(const GameRecord& game, LevelLists& lists)
 {
     try {
         return memorableTexts(Review(game, lists), ReviewList::Own);
@@ -228,15 +228,24 @@ void GameFlow::beginGame()
     p.services.choose(p.options);
     p.game.state.resetForNewGame();
     p.game.state.computerGame = p.options.isComputerGame();
-    p.game.state.kind = p.options.settings.presetLetters.areWaiting() ? GameKind::Preset : GameKind::Normal;
+    p.game.state.kind = kindOfNextGame();
     readDictionary();
     offerCorrectedList();
     p.game.board.layOut(p.options.isSquare() ? Arrangement::Square : Arrangement::Staggered);
     p.game.supply.dealLetters();
     p.game.refreshLooks();
-    if (p.game.state.computerGame)
+    if (p.game.state.computerGame || p.game.state.kind == GameKind::Relaxed)
         p.options.settings.presetLetters.markUnrecorded();
     gameBegun();
+}
+
+GameKind GameFlow::kindOfNextGame() const
+{
+    const OptionsForm& options = parts_->options;
+    if (options.settings.presetLetters.areWaiting())
+        return GameKind::Preset;
+    const bool relaxed = options.settings.pressure == Pressure::Relaxed && !options.isComputerGame();
+    return relaxed ? GameKind::Relaxed : GameKind::Normal;
 }
 
 /// Reads the words of a game. A level in the maintained format has none that can be played: it can be made a plain list
@@ -363,7 +372,7 @@ void GameFlow::endOfGame(GameEnd end, const std::string& reason)
     const std::optional<GameRecord> over = recordGame(end);
     forgetSavedGame();
     p.ports.screen.showEnd(
-        {reason, p.game.state.yourScore, over ? memorableTexts(*over, p.reviewLists) : std::vector<std::string>()});
+        {reason, p.game.state.yourScore, over ? memorableTexts(*over, p.levelLists) : std::vector<std::string>()});
     p.sounds.play(cue::menu);
     PresetLetters& preset = p.options.settings.presetLetters;
     if (preset.isNormalGame()) {

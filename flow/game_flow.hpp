@@ -136,6 +136,7 @@ private:
     void beginFrom(const BoardPosition& board, GameKind kind);
     void gameBegun();
     void clearGame();
+    [[nodiscard]] GameKind kindOfNextGame() const;
     bool giveUpGame();
     void askForSharedBoard();
     bool beginShared(const std::string& text);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/dc.hpp"
+#include "dictionary/level_lists.hpp"
 #include "dictionary/maintenance.hpp"
 #include "game/game.hpp"
 #include "opponent/board_search.hpp"
@@ -9,7 +10,6 @@
 #include "platform/ports.hpp"
 #include "record/past_games.hpp"
 #include "record/record_folder.hpp"
-#include "record/review_lists.hpp"
 #include "record/saved_game_file.hpp"
 #include "scores/score_file.hpp"
 #include "scores/score_form.hpp"
@@ -46,12 +46,12 @@ struct GameParts {
     SavedGameFile savedGame{folder};
     RecordFolder records{folder};
     BoardSearch search;
-    ComputerTurn computerTurn{game, search, Dc1};
+    LevelLists levelLists{folder};
+    ComputerTurn computerTurn{game, search, levelLists, Dc1};
     Meanings meanings{game.state, ports.status, sounds, services, ports.windows};
     HintsForm hintsForm{game, meanings};
     Hints hints{game, search, computerTurn, hintsForm};
-    ReviewLists reviewLists{folder};
-    PastGamesForm pastGames{folder, reviewLists, meanings};
+    PastGamesForm pastGames{folder, levelLists, meanings};
     Configuration configuration{{ports.dialogs, ports.clock, options, Dc1, scheme, dictionary, folder}};
 };
 

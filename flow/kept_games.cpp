@@ -236,11 +236,11 @@ void GameFlow::playDaily()
 
 // ---- Games that are over
 
-/// A game without a word is none, and one that was recorded is not recorded again. Nothing is returned for these, nor
-/// where no record can be kept, which never stops what the player is doing.
+/// A game without a word is none, a relaxed one stays unrecorded, and one that was recorded is not recorded again.
+/// Nothing is returned for these, nor where no record can be kept, which never stops what the player is doing.
 std::optional<GameRecord> GameFlow::record(const Position& game, GameEnd end)
 {
-    if (game.state.turns.empty() || game.state.begun.empty())
+    if (game.state.turns.empty() || game.state.begun.empty() || game.state.kind == GameKind::Relaxed)
         return std::nullopt;
     try {
         GameRecord record = recordOf(game, end);
@@ -275,7 +275,7 @@ void GameFlow::lookBack()
     GameParts& p = *parts_;
     std::optional<ReviewForm> review;
     try {
-        review.emplace(p.records.load(lastRecord_), p.reviewLists, p.meanings);
+        review.emplace(p.records.load(lastRecord_), p.levelLists, p.meanings);
     } catch (const std::exception& failure) {
         p.ports.dialogs.message(failure.what());
         return;

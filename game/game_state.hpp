@@ -22,6 +22,7 @@ enum class GameKind {
     Position, ///< from a position that was set up
     Shared,   ///< from a board that somebody shared
     Daily,    ///< from the board of a day
+    Relaxed,  ///< without red tiles and pushes, and not recorded
 };
 
 /// Whether letters come from the queue, and so what `TilesLeft` shows: nothing before the deal, the count, "NONE".

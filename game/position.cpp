@@ -109,6 +109,7 @@ Position positionOf(const Game& game)
     position.userDictionary = game.dictionary.loadedLevel() == 0 ? game.dictionary.fileTable[0] : "";
     position.words = game.dictionary.fingerprint();
     position.strategy = game.options.settings.strategy;
+    position.vocabulary = game.options.settings.vocabulary;
     position.state = game.state;
     position.redThreshold = game.dictionary.redThreshold();
     position.letterCounts = game.dictionary.letters.letterCounts;
@@ -136,6 +137,7 @@ void restore(Game& game, const Position& position)
     game.letterSwap.mark(position.swapTile);
     game.state = position.state;
     game.options.settings.strategy = position.strategy;
+    game.options.settings.vocabulary = position.vocabulary;
     game.dictionary.setRedThreshold(position.redThreshold);
     game.dictionary.letters.letterCounts = position.letterCounts;
     std::copy(position.pool.begin(), position.pool.end(), game.dictionary.letters.pool.begin() + 1);

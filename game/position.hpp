@@ -21,6 +21,7 @@ struct Position {
     std::string userDictionary; ///< the file of dictionary 0
     std::uint64_t words = 0;    ///< fingerprint of the word list
     Strategy strategy = Strategy::HighestScore;
+    Vocabulary vocabulary = Vocabulary::Every;
     GameState state; ///< scores, counters, statistics, the rows of the words made
     int redThreshold = 0;
     std::array<int, 27> letterCounts{}; ///< of the pool, 1 to 26

@@ -10,7 +10,7 @@ namespace lexigrove
 
 int RedTiles::redTimerTick()
 {
-    if (game_.state.redTileHold || game_.state.computerGame)
+    if (isHeld())
         return 0;
     game_.ports.screen.yield();
     countUp(game_.state.tickCount);
@@ -56,10 +56,14 @@ int RedTiles::makeRedTile()
     return tile;
 }
 
+bool RedTiles::isHeld() const
+{
+    return game_.state.redTileHold || game_.state.computerGame || game_.state.kind == GameKind::Relaxed;
+}
+
 std::vector<int> RedTiles::pushable() const
 {
-    const bool held = game_.state.redTileHold || game_.state.computerGame;
-    return held ? std::vector<int>() : game_.board.specialTiles();
+    return isHeld() ? std::vector<int>() : game_.board.specialTiles();
 }
 
 RedTiles::PushResult RedTiles::pushTimerTick()

@@ -52,6 +52,7 @@ public:
     void pushOutRedTile(int col);
 
 private:
+    [[nodiscard]] bool isHeld() const;
     void pushColumn(int col);
 
     Game& game_;

@@ -3,6 +3,8 @@
 #include "game/position.hpp"
 
 #include <algorithm>
+#include <string_view>
+#include <vector>
 
 namespace lexigrove
 {
@@ -15,7 +17,7 @@ void ComputerTurn::take()
     {
         const BusyPointer busy(game_.ports.screen);
         begin();
-        search_.sweep(snapshotOf(game_.board), game_.dictionary.words);
+        search_.sweep(snapshotOf(game_.board), knownWords());
     }
     const CandidateList& candidates = search_.candidates();
     if (candidates.count() < 1) {
@@ -40,6 +42,27 @@ void ComputerTurn::begin()
     game_.state.prompt = Prompt::ComputerMove;
     game_.state.computerTurnInProgress = true;
     game_.ports.screen.yield();
+}
+
+/// Never a word that the player's dictionary does not have.
+const WordList& ComputerTurn::knownWords()
+{
+    const WordList& players = game_.dictionary.words;
+    const Vocabulary vocabulary = game_.options.settings.vocabulary;
+    if (vocabulary == Vocabulary::Every)
+        return players;
+    if (vocabulary == vocabulary_ && players.isCopyOf(players_))
+        return known_;
+    const WordList& level = lists_.level(vocabulary == Vocabulary::Common ? 2 : 1);
+    std::vector<std::string_view> words;
+    for (int entry = 1; entry <= level.count(); ++entry) {
+        if (players.findWord(level.entry(entry)) > 0)
+            words.push_back(level.entry(entry));
+    }
+    known_ = WordList::of(words);
+    players_ = players;
+    vocabulary_ = vocabulary;
+    return known_;
 }
 
 /// "Any" picks the first candidate twice as often as any other, and never the last one of several.

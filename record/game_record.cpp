@@ -27,6 +27,7 @@ void visitFields(Fields& fields, Record& record)
     fields.choice("kind", record.kind, kindNames);
     fields.choice("against-computer", record.computerGame, yesNo);
     fields.choice("computer-plays", record.strategy, strategyNames);
+    fields.choiceUnlessFirst("computer-knows", record.vocabulary, vocabularyNames);
     fields.number("score", record.yourScore, -mostPoints, mostPoints);
     fields.number("computer-score", record.compScore, -mostPoints, mostPoints);
     fields.number("seconds-played", record.secondsPlayed, 0, mostPoints);
@@ -58,6 +59,7 @@ GameRecord recordOf(const Position& game, GameEnd end)
             .kind = state.kind,
             .computerGame = state.computerGame,
             .strategy = game.strategy,
+            .vocabulary = game.vocabulary,
             .yourScore = state.yourScore,
             .compScore = state.compScore,
             .secondsPlayed = state.secondsPlayed,

@@ -30,6 +30,7 @@ struct GameRecord {
     GameKind kind = GameKind::Normal;
     bool computerGame = false;
     Strategy strategy = Strategy::HighestScore; ///< of the computer
+    Vocabulary vocabulary = Vocabulary::Every;  ///< of the computer
     int yourScore = 0;
     int compScore = 0;
     int secondsPlayed = 0;

@@ -62,6 +62,11 @@ LineReader::LineReader(std::string_view text, std::string_view firstLine) : text
         fail("another version of the game has written this");
 }
 
+bool LineReader::isNext(std::string_view name) const
+{
+    return place_ + 1 < lines_.size() && lines_[place_ + 1].starts_with(std::string(name) + ' ');
+}
+
 void LineReader::number(std::string_view name, int& value, int lowest, int highest)
 {
     value = numberIn(take(name), lowest, highest);

@@ -18,8 +18,9 @@ namespace lexigrove
 namespace field
 {
 inline constexpr std::string_view noText = "-"; ///< stands for an empty value
-inline constexpr std::string_view kindNames[] = {"normal", "preset", "position", "shared", "daily"};
+inline constexpr std::string_view kindNames[] = {"normal", "preset", "position", "shared", "daily", "relaxed"};
 inline constexpr std::string_view strategyNames[] = {"highest", "longest", "any"};
+inline constexpr std::string_view vocabularyNames[] = {"every", "common", "simple"};
 inline constexpr std::string_view makerNames[] = {"player", "computer"};
 inline constexpr std::string_view yesNo[] = {"no", "yes"};
 
@@ -44,6 +45,13 @@ public:
     void choice(std::string_view name, Enum value, std::span<const std::string_view> names)
     {
         line(name, names[static_cast<std::size_t>(value)]);
+    }
+    /// A field that came with a later version: the first choice, which the earlier ones made, has no line.
+    template <typename Enum>
+    void choiceUnlessFirst(std::string_view name, Enum value, std::span<const std::string_view> names)
+    {
+        if (value != Enum{})
+            choice(name, value, names);
     }
 
     /// The whole text, each line ended by a line feed: last comes "check" with the hash of all lines above.
@@ -77,6 +85,11 @@ public:
     {
         value = static_cast<Enum>(choiceIn(name, names));
     }
+    template <typename Enum>
+    void choiceUnlessFirst(std::string_view name, Enum& value, std::span<const std::string_view> names)
+    {
+        value = isNext(name) ? static_cast<Enum>(choiceIn(name, names)) : Enum{};
+    }
     /// "check" is the last line.
     void expectEnd();
     /// The text is what the game would write for what was read from it: its check is right, and there is nothing in it
@@ -88,6 +101,7 @@ public:
 
 private:
     std::string_view take(std::string_view name);
+    [[nodiscard]] bool isNext(std::string_view name) const;
     [[nodiscard]] int numberIn(std::string_view text, int lowest, int highest) const;
     std::size_t choiceIn(std::string_view name, std::span<const std::string_view> names);
 

@@ -16,7 +16,7 @@ std::string kindText(const PastGame& game)
 {
     if (game.computerGame && game.kind == GameKind::Normal)
         return "Computer";
-    constexpr const char* names[] = {"Normal", "Preset", "Position", "Shared", "Daily"};
+    constexpr const char* names[] = {"Normal", "Preset", "Position", "Shared", "Daily", "Relaxed"};
     return names[static_cast<std::size_t>(game.kind)] + std::string(game.computerGame ? ", computer" : "");
 }
 
@@ -72,7 +72,7 @@ PastGame pastGameOf(const NamedRecord& game)
     return row;
 }
 
-PastGamesForm::PastGamesForm(const std::string& programFolder, ReviewLists& lists, Meanings& meanings)
+PastGamesForm::PastGamesForm(const std::string& programFolder, LevelLists& lists, Meanings& meanings)
     : folder_(programFolder), lists_(lists), meanings_(meanings)
 {
 }

@@ -39,7 +39,7 @@ public:
                                                                    "Score", "Words", "Longest", "Min."};
 
     /// `programFolder` ends with its separator. The lists and the meanings outlive the form.
-    PastGamesForm(const std::string& programFolder, ReviewLists& lists, Meanings& meanings);
+    PastGamesForm(const std::string& programFolder, LevelLists& lists, Meanings& meanings);
 
     /// Reads the folder for a showing: all levels, the newest game first.
     void activate(Day today);
@@ -105,7 +105,7 @@ private:
     void arrange();
 
     RecordFolder folder_;
-    ReviewLists& lists_;
+    LevelLists& lists_;
     Meanings& meanings_;
     std::vector<PastGame> games_; ///< all, the oldest first
     std::vector<PastGame> rows_;

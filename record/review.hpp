@@ -1,7 +1,7 @@
 #pragma once
 
+#include "dictionary/level_lists.hpp"
 #include "record/game_record.hpp"
-#include "record/review_lists.hpp"
 
 #include <array>
 #include <optional>
@@ -34,7 +34,7 @@ class Review
 {
 public:
     /// The lists outlive the review.
-    Review(GameRecord record, ReviewLists& lists) : record_(std::move(record)), lists_(lists) {}
+    Review(GameRecord record, LevelLists& lists) : record_(std::move(record)), lists_(lists) {}
 
     [[nodiscard]] const GameRecord& record() const { return record_; }
     [[nodiscard]] int turnCount() const { return static_cast<int>(record_.turns.size()); }
@@ -64,7 +64,7 @@ private:
     [[nodiscard]] const WordList& wordsOf(ReviewList list) const;
 
     GameRecord record_;
-    ReviewLists& lists_;
+    LevelLists& lists_;
     mutable std::array<std::vector<WordsThere>, 2> there_; ///< by list; empty before it is asked for
 };
 

@@ -5,7 +5,7 @@
 namespace lexigrove
 {
 
-ReviewForm::ReviewForm(GameRecord record, ReviewLists& lists, Meanings& meanings)
+ReviewForm::ReviewForm(GameRecord record, LevelLists& lists, Meanings& meanings)
     : review_(std::move(record), lists), meanings_(meanings)
 {
     first();

@@ -21,7 +21,7 @@ public:
     using TurnRow = lexigrove::TurnRow;
 
     /// The lists and the meanings outlive the form.
-    ReviewForm(GameRecord record, ReviewLists& lists, Meanings& meanings);
+    ReviewForm(GameRecord record, LevelLists& lists, Meanings& meanings);
 
     // The game
 

@@ -44,6 +44,7 @@ void visitFields(Fields& fields, Game& game, KeptFields& kept)
     fields.choice("kind", state.kind, kindNames);
     fields.choice("against-computer", state.computerGame, yesNo);
     fields.choice("computer-plays", position.strategy, strategyNames);
+    fields.choiceUnlessFirst("computer-knows", position.vocabulary, vocabularyNames);
     fields.number("score", state.yourScore, -mostPoints, mostPoints);
     fields.number("computer-score", state.compScore, -mostPoints, mostPoints);
     fields.choice("letters", state.letterDraw, drawNames);

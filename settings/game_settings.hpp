@@ -9,6 +9,13 @@ namespace lexigrove
 /// How the computer picks its word.
 enum class Strategy { HighestScore, LongestWord, Any };
 
+/// The words that the computer knows, among those of the player's dictionary: all, those of level 2, or those of
+/// level 1.
+enum class Vocabulary { Every, Common, Simple };
+
+/// Whether a game alone has red tiles and pushes. A relaxed one has not, and is not recorded.
+enum class Pressure { On, Relaxed };
+
 /// The preset letters: 100 letters for the board and the queue (1 to 64 fill the tiles, 65 to 100 the queue) or none,
 /// and whether the score of the game may enter the top ten. A game is normal, and its score offered, only if there are
 /// neither letters nor the mark.
@@ -64,6 +71,8 @@ struct GameSettings {
     int dropDelay = startDelay;
 
     Strategy strategy = Strategy::HighestScore;
+    Vocabulary vocabulary = Vocabulary::Every;
+    Pressure pressure = Pressure::On;
 
     PresetLetters presetLetters;
 };

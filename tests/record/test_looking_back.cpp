@@ -74,7 +74,7 @@ TEST(Review, FindsTheBestAsPlainTracingDoes)
             list += "\n";
         }
         folder.write("L1Ascii.txt", list);
-        ReviewLists lists(folder.path());
+        LevelLists lists(folder.path());
         GameRecord record{.start = board};
         record.turns = {{.before = board, .word = "X", .path = {}}};
         const Review review(record, lists);
@@ -115,7 +115,7 @@ TEST(Review, AddsUpWhatWasThere)
     folder.write("L1Ascii.txt", "AT\r\nCAT\r\nDO\r\n");
     folder.write("L2Ascii.txt", "AT\nCAT\nCOG\nDO\n");
     folder.write("L3Ascii.txt", "AT\nCAT\nCOG\nDO\nDOC\nQI\n");
-    ReviewLists lists(folder.path());
+    LevelLists lists(folder.path());
     const BoardPosition board = boardPositionOf(
         "square 1 .....CDQ/.....AOI3/......T*G/......../......../......../......../........ ........ -");
     GameRecord record{.start = board};
@@ -181,7 +181,7 @@ protected:
     SoundCues sounds_{device_, folder_.path()};
     MeaningServices services_{folder_.path()};
     Meanings meanings_{state_, status_, sounds_, services_, windows_};
-    ReviewLists lists_{folder_.path()};
+    LevelLists lists_{folder_.path()};
     PastGamesForm form_{folder_.path(), lists_, meanings_};
 };
 

@@ -295,7 +295,10 @@ private:
     QGroupBox* newPlayingFrame()
     {
         auto* const box = new QGroupBox(tr("While You Play"), this);
-        auto* const row = new QHBoxLayout(box);
+        auto* const rows = new QVBoxLayout(box);
+        auto* const row = new QHBoxLayout;
+        rows->addLayout(row);
+        rows->addLayout(newOpponentRow());
         row->setSpacing(Theme::gap);
         auto* const pauses = new QCheckBox(tr("Pause when the window is left"));
         pauses->setObjectName("PauseWhenLeft");
@@ -319,9 +322,39 @@ private:
         return box;
     }
 
+    /// What makes a game easier: a computer that knows fewer words, no red tiles.
+    QHBoxLayout* newOpponentRow()
+    {
+        auto* const relaxed = new QCheckBox(tr("Relaxed: no red tiles, no pushes"));
+        relaxed->setObjectName("Relaxed");
+        relaxed->setToolTip(tr("For a quiet game alone; it is not recorded"));
+        relaxed->setChecked(host.settings.pressure() == Pressure::Relaxed);
+        connect(relaxed, &QCheckBox::toggled, this,
+                [this](bool on) { host.settings.setPressure(on ? Pressure::Relaxed : Pressure::On); });
+        auto* const knows = new ArrowBox(host.theme);
+        knows->setObjectName("ComputerKnows");
+        knows->setAccessibleName(tr("The computer knows"));
+        knows->addItems({tr("Every word"), tr("Common words"), tr("Simple words")});
+        knows->setCurrentIndex(static_cast<int>(host.settings.vocabulary()));
+        knows->setToolTip(tr("Of your dictionary the computer knows all words, those of level 2, or those of level 1"));
+        connect(knows, &QComboBox::activated, this,
+                [this](int choice) { host.settings.setVocabulary(static_cast<Vocabulary>(choice)); });
+        auto* const caption = new QLabel(tr("The computer knows"));
+        caption->setBuddy(knows);
+        auto* const row = new QHBoxLayout;
+        row->setSpacing(Theme::gap);
+        row->addWidget(relaxed);
+        row->addStretch(1);
+        row->addWidget(caption);
+        row->addWidget(knows);
+        return row;
+    }
+
     /// An animation that was just switched on has no delay yet.
     void start()
     {
+        form_.settings.vocabulary = host.settings.vocabulary();
+        form_.settings.pressure = host.settings.pressure();
         if (form_.animates() && (paceChosen_ || form_.settings.dropDelay == 0))
             form_.settings.dropDelay = SettingsFile::delayOf(host.settings.pace());
         form_.pressStart();

@@ -1,6 +1,5 @@
 #include "ui/machine/settings_file.hpp"
 
-#include "settings/game_settings.hpp"
 #include "ui/look/text.hpp"
 
 namespace lexigrove
@@ -10,6 +9,7 @@ namespace
 {
 
 const char* const paceNames[] = {"slow", "medium", "fast"};
+const char* const vocabularyNames[] = {"every", "common", "simple"};
 
 } // namespace
 
@@ -26,6 +26,26 @@ SettingsFile::Pace SettingsFile::pace() const
             return pace;
     }
     return Pace::Medium;
+}
+
+Vocabulary SettingsFile::vocabulary() const
+{
+    const QString name = file_.value("play/computer-knows").toString();
+    for (const Vocabulary vocabulary : {Vocabulary::Every, Vocabulary::Common}) {
+        if (name == vocabularyNames[static_cast<int>(vocabulary)])
+            return vocabulary;
+    }
+    return Vocabulary::Simple;
+}
+
+void SettingsFile::setVocabulary(Vocabulary vocabulary)
+{
+    file_.setValue("play/computer-knows", vocabularyNames[static_cast<int>(vocabulary)]);
+}
+
+Pressure SettingsFile::pressure() const
+{
+    return file_.value("play/relaxed").toBool() ? Pressure::Relaxed : Pressure::On;
 }
 
 void SettingsFile::setPace(Pace pace)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "settings/game_settings.hpp"
+
 #include <QByteArray>
 #include <QSettings>
 #include <QString>
@@ -28,6 +30,13 @@ public:
     void setPace(Pace pace);
     /// The drop-animation delay of a pace, in rounds.
     [[nodiscard]] static int delayOf(Pace pace);
+
+    /// The words that the computer knows; at first the simple ones, so that nobody begins against a wall.
+    [[nodiscard]] Vocabulary vocabulary() const;
+    void setVocabulary(Vocabulary vocabulary);
+
+    [[nodiscard]] Pressure pressure() const;
+    void setPressure(Pressure pressure) { file_.setValue("play/relaxed", pressure == Pressure::Relaxed); }
 
     /// Whether a hint of the first games was followed.
     [[nodiscard]] bool isHintDone(const char* name) const { return file_.value(QString("hints/") + name).toBool(); }

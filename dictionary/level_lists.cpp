@@ -1,4 +1,4 @@
-#include "record/review_lists.hpp"
+#include "dictionary/level_lists.hpp"
 
 #include "dictionary/maintained_format.hpp"
 #include "platform/text_file.hpp"
@@ -24,18 +24,18 @@ WordList wordsOf(std::string text)
 
 } // namespace
 
-const WordList& ReviewLists::level(int level)
+const WordList& LevelLists::level(int level)
 {
     return read("L" + std::to_string(level) + "Ascii.txt");
 }
 
-const WordList& ReviewLists::own(int ownLevel, const std::string& userDictionary)
+const WordList& LevelLists::own(int ownLevel, const std::string& userDictionary)
 {
     return ownLevel == 0 ? read(userDictionary) : level(ownLevel);
 }
 
 /// A relative name lies in the program folder.
-const WordList& ReviewLists::read(const std::string& name)
+const WordList& LevelLists::read(const std::string& name)
 {
     const auto [entry, isNew] = lists_.try_emplace(name);
     if (isNew) {

@@ -9,12 +9,13 @@
 namespace lexigrove
 {
 
-/// The word lists that looking back asks, each read when it is first asked for and then kept.
-class ReviewLists
+/// The word lists beside that of the game: looking back asks them, and an opponent who does not know every word. Each
+/// is read when it is first asked for and then kept.
+class LevelLists
 {
 public:
     /// `programFolder` ends with its separator.
-    explicit ReviewLists(std::string programFolder) : folder_(std::move(programFolder)) {}
+    explicit LevelLists(std::string programFolder) : folder_(std::move(programFolder)) {}
 
     /// The list of level 1 to 3. A file in the maintained format gives the words that it codes; one that cannot be read
     /// gives an empty list.
