@@ -236,6 +236,8 @@ void GameFlow::beginGame()
     p.game.refreshLooks();
     if (p.game.state.computerGame || p.game.state.kind == GameKind::Relaxed)
         p.options.settings.presetLetters.markUnrecorded();
+    if (p.game.state.kind == GameKind::Relaxed)
+        p.ports.status.tell("A relaxed game: no red tiles, no pushes, no record");
     gameBegun();
 }
 

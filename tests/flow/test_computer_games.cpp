@@ -1,4 +1,5 @@
 #include "platform/text_file.hpp"
+#include "record/saved_game.hpp"
 #include "tests/support/random_play.hpp"
 
 namespace lexigrove
@@ -88,6 +89,50 @@ TEST(ComputerGames, AnyWordAndWordsWithoutScore)
     other.flow.perform(Command::EnterWord);
     EXPECT_TRUE(other.board.isVisible(1));
     EXPECT_EQ(other.state.WordsMade.text(1, WordsGrid::wordColumn), "IT'S");
+}
+
+// Guards an opponent who knows more than was chosen, or than the player's dictionary, also after the game was kept.
+TEST(ComputerGames, TheComputerKnowsNoMoreThanWasChosen)
+{
+    PlayedGame played("EE\r\nEEE\r\nEEEE\r\n");
+    played.folder.write("L1Ascii.txt", "EE\r\nEEEEE\r\n");
+    played.choose(&OptionsForm::Check1);
+    played.choose(&OptionsForm::Option13);
+    std::vector<std::string> words;
+    played.screen.onWait = [&] { words.push_back(played.path.word()); };
+    for (const Vocabulary vocabulary : {Vocabulary::Every, Vocabulary::Common, Vocabulary::Simple}) {
+        played.study.chooseOptions([=](OptionsForm& form) { form.settings.vocabulary = vocabulary; });
+        played.start(Arrangement::Square);
+        played.flow.perform(Command::EnterWord);
+    }
+    EXPECT_EQ(words, (std::vector<std::string>{"EEEE", "EEEE", "EE"}));
+    const SavedGame kept = savedGameOf(textOf(SavedGame{"2026-11-23 04:15", played.flow.position()}));
+    EXPECT_EQ(kept.position.vocabulary, Vocabulary::Simple);
+    EXPECT_EQ(kept.position, played.flow.position());
+}
+
+// Guards the quiet of a relaxed game: no red tile, no push, no score, no record.
+TEST(ComputerGames, ARelaxedGameIsQuiet)
+{
+    PlayedGame played;
+    played.study.chooseOptions([](OptionsForm& form) { form.settings.pressure = Pressure::Relaxed; });
+    played.start(Arrangement::Square, "CAT");
+    EXPECT_EQ(played.state.kind, GameKind::Preset) << "a preset board stays one";
+    played.start(Arrangement::Square);
+    played.study.editTile(1, "C", multiplier::doubled);
+    played.study.setRedThreshold(1);
+    for (const Timer timer : {Timer::Red, Timer::Push})
+        played.flow.tick(timer);
+    EXPECT_EQ(played.state.redTilesOnBoard, 0);
+    EXPECT_EQ(played.board.letter(1), "C") << "not pushed";
+    played.study.editTile(9, "A", multiplier::plain);
+    played.study.editTile(17, "T", multiplier::plain);
+    played.click({1, 9, 17});
+    played.flow.perform(Command::EnterWord);
+    played.dialogs.answers = {"yes"};
+    played.flow.perform(Command::NewGame);
+    EXPECT_EQ(played.dialogs.questions, std::vector<std::string>{"Do you wish to reset?"}) << "no name is asked";
+    EXPECT_FALSE(std::filesystem::exists(played.folder.file("Games")));
 }
 
 } // namespace

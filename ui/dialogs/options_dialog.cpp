@@ -135,8 +135,7 @@ public:
         columns->setSpacing(Theme::gap);
         columns->addLayout(newFrames({newFrame(form.SoundFrame), newFrame(form.ArrangementFrame),
                                       newFrame(form.DropFrame), newFrame(form.MeaningsFrame)}));
-        columns->addLayout(
-            newFrames({newSchemeFrame(), newDictionaryFrame(), newComputerFrame(), newFrame(form.StrategyFrame)}));
+        columns->addLayout(newFrames({newSchemeFrame(), newDictionaryFrame(), newComputerFrame(), newStrategyFrame()}));
 
         rows->addLayout(columns);
         rows->addWidget(newPlayingFrame());
@@ -249,6 +248,17 @@ private:
         return box;
     }
 
+    /// How strong each strategy is.
+    QGroupBox* newStrategyFrame()
+    {
+        QGroupBox* const box = newFrame(form_.StrategyFrame);
+        box->findChild<QWidget*>("Option14")->setToolTip(tr("The weakest: a word by chance"));
+        box->findChild<QWidget*>("Option13")->setToolTip(tr("Loses to a practised player"));
+        box->findChild<QWidget*>("Option12")
+            ->setToolTip(tr("The strongest: beaten by those who see nearly everything"));
+        return box;
+    }
+
     static QVBoxLayout* newFrames(std::initializer_list<QGroupBox*> frames)
     {
         auto* const column = new QVBoxLayout;
@@ -336,7 +346,8 @@ private:
         knows->setAccessibleName(tr("The computer knows"));
         knows->addItems({tr("Every word"), tr("Common words"), tr("Simple words")});
         knows->setCurrentIndex(static_cast<int>(host.settings.vocabulary()));
-        knows->setToolTip(tr("Of your dictionary the computer knows all words, those of level 2, or those of level 1"));
+        knows->setToolTip(tr("Of your dictionary the computer knows all words, those of level 2, or those of level 1: "
+                             "the fewer, the weaker it is"));
         connect(knows, &QComboBox::activated, this,
                 [this](int choice) { host.settings.setVocabulary(static_cast<Vocabulary>(choice)); });
         auto* const caption = new QLabel(tr("The computer knows"));
