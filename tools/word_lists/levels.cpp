@@ -17,7 +17,6 @@ namespace
 constexpr int variantClass = 55;  ///< what a variant is taken for: known to most, written by few
 constexpr int completeClass = 70; ///< a large dictionary: level 3 has all of it
 constexpr int surelyPlainClass = 60;
-constexpr int commonNameClass = 50;
 
 /// Variants that another source knows. The others are slips: "landslidden".
 void addVariants(Sources& sources)

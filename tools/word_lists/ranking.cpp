@@ -21,7 +21,6 @@ constexpr int level1Class = 35;      ///< a small dictionary
 constexpr int level2Class = 40; ///< beyond it, names, brands and oaths begin to outnumber words that everybody knows
 constexpr int inflectionClass = 50;
 constexpr int definedClass = 55; ///< up to here a counted word is taken if WordNet defines it: "online", "donut"
-constexpr int commonNameClass = 50;
 
 constexpr double shared = -2.3;          ///< what is left of a count that belongs to something else: a tenth
 constexpr double sharedWithNames = -1.1; ///< what is left of the count of "lamb", "attic" or "ginger": a third

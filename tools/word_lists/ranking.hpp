@@ -8,6 +8,9 @@
 namespace lexigrove::tools
 {
 
+/// SCOWL's class up to which a name is common: a rarer word that is spelled like one is taken for it.
+constexpr int commonNameClass = 50;
+
 /// Whether the word has a vowel or is one of the few that go without: "dkl" is an abbreviation, "cs" the plural of a
 /// letter, but "psst" is a word.
 bool isPronounced(const std::string& word);

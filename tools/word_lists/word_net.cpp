@@ -12,6 +12,15 @@
 namespace lexigrove::tools
 {
 
+/// A meaning and the words that have it: a line of a data file.
+struct Meaning {
+    int file = 0; ///< the lexicographer file that it comes from
+    std::vector<std::string> words;
+    std::vector<std::pair<std::string, std::size_t>>
+        usages; ///< the usage it belongs to, and for which of the words (0: all)
+};
+using Meanings = std::unordered_map<std::string, Meaning>; ///< by the offset that names it within its part of speech
+
 namespace
 {
 
@@ -22,15 +31,6 @@ constexpr std::array<std::string_view, 3> offensiveUses{"ethnic_slur", "disparag
 /// touching, moving, sensing and the weather.
 constexpr std::array concreteFiles{5, 6, 8, 13, 17, 20, 29, 34, 35, 38, 39, 43};
 constexpr std::size_t commonMeanings = 2;
-
-/// A meaning and the words that have it: a line of a data file.
-struct Meaning {
-    int file = 0; ///< the lexicographer file that it comes from
-    std::vector<std::string> words;
-    std::vector<std::pair<std::string, std::size_t>>
-        usages; ///< the usage it belongs to, and for which of the words (0: all)
-};
-using Meanings = std::unordered_map<std::string, Meaning>; ///< by the offset that names it within its part of speech
 
 bool isComment(const std::string& line)
 {
