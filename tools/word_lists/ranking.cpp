@@ -32,7 +32,7 @@ constexpr double ofThings = 6;
 constexpr double ofMovements = 3;
 constexpr double ofRareThings = 1; ///< beyond level1Class
 constexpr double ofEachLetter = -0.4;
-constexpr double inflected = -2.2;
+constexpr double inflectedFreely = -2.2;
 constexpr double inflectedRarely = -8; ///< "husbanding": the base is hardly ever used as a verb
 constexpr double longThemeForm = -0.4; ///< for each letter beyond a short word
 
@@ -153,7 +153,8 @@ double rankOfForm(const Sources& sources, const Ranks& ranks, const std::string&
     for (const Base& base : sources.wordNet.bases(word)) {
         const auto entry = ranks.find(base.word);
         if (entry != ranks.end())
-            rank = std::max(rank, entry->second + (isNatural(sources.wordNet, base) ? inflected : inflectedRarely));
+            rank =
+                std::max(rank, entry->second + (isNatural(sources.wordNet, base) ? inflectedFreely : inflectedRarely));
     }
     return rank;
 }

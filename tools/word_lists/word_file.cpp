@@ -12,13 +12,16 @@ namespace lexigrove::tools
 std::vector<std::string> readOwnWords(const std::string& path)
 {
     std::vector<std::string> words;
+    const auto fault = [&path](const std::string& word) {
+        return std::runtime_error("\"" + word + "\" in " + path + " is no word in lower case.");
+    };
     for (const std::string& line : readLines(path)) {
         if (line.starts_with("# "))
             continue;
         std::istringstream text(line);
         for (std::string word; text >> word;) {
             if (!isPlainWord(word))
-                throw std::runtime_error("\"" + word + "\" in " + path + " is no word in lower case.");
+                throw fault(word);
             words.push_back(word);
         }
     }
