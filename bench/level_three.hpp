@@ -36,10 +36,11 @@ inline std::string madeUpList()
     return text;
 }
 
-/// The text of the list named on the command line, else of the one in the build's bin folder, else of a made-up one.
+/// The text of the list named on the command line, else of the one in the build, else of a made-up one.
 inline std::string levelThreeList(int argumentCount, char** arguments)
 {
-    const std::filesystem::path built = std::filesystem::path(arguments[0]).parent_path() / "../bin/L3Ascii.txt";
+    const std::filesystem::path built =
+        std::filesystem::path(arguments[0]).parent_path() / "../share/lexigrove/L3Ascii.txt";
     const std::string path = argumentCount > 1 ? arguments[1] : built.string();
     if (argumentCount > 1 || std::filesystem::exists(path)) {
         std::printf("List: %s\n", path.c_str());

@@ -52,11 +52,11 @@ std::size_t openReview(const std::string& folder, const std::string& text)
 
 } // namespace lexigrove
 
-/// The folder with the three word lists may be named on the command line; without it the build's bin folder.
+/// The folder with the three word lists may be named on the command line; without it the build.
 int main(int argumentCount, char** arguments)
 {
     using namespace lexigrove;
-    const std::string built = (std::filesystem::path(arguments[0]).parent_path() / "../bin/").string();
+    const std::string built = (std::filesystem::path(arguments[0]).parent_path() / "../share/lexigrove/").string();
     const std::string folder = argumentCount > 1 ? arguments[1] + std::string("/") : built;
     const GameRecord record = gameOnFullBoards();
     const std::string text = textOf(record);

@@ -309,19 +309,19 @@ void measureDictionary(const std::string& name, const std::string& dictionary)
 
 } // namespace lexigrove
 
-/// Measures the word lists named on the command line, or those of the build's bin folder.
+/// Measures the word lists named on the command line, or those of the build.
 int main(int argumentCount, char** arguments)
 {
     std::vector<std::string> paths(arguments + 1, arguments + argumentCount);
     if (paths.empty()) {
-        const std::filesystem::path bin = std::filesystem::path(arguments[0]).parent_path() / "../bin";
+        const std::filesystem::path shipped = std::filesystem::path(arguments[0]).parent_path() / "../share/lexigrove";
         for (const char* const name : {"L1Ascii.txt", "L2Ascii.txt", "L3Ascii.txt"}) {
-            if (std::filesystem::exists(bin / name))
-                paths.push_back((bin / name).string());
+            if (std::filesystem::exists(shipped / name))
+                paths.push_back((shipped / name).string());
         }
     }
     if (paths.empty()) {
-        std::fprintf(stderr, "No word lists in ../bin beside the program; name one\n");
+        std::fprintf(stderr, "No word lists in ../share/lexigrove beside the program; name one\n");
         return 1;
     }
     std::printf("Medians over %d random full boards; times in ms. Goals at level 3: 0.01 times the plain reading,\n"

@@ -171,6 +171,7 @@ int main(int argc, char** argv)
     const int rounds = arguments.size() > 2 ? std::stoi(arguments[2]) : 15;
     const QTemporaryDir folder;
     fill(folder, source);
+    qputenv("XDG_STATE_HOME", folder.path().toLocal8Bit()); // the window's place
 
     std::vector<Start> empty;
     std::vector<Start> game;

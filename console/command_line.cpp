@@ -9,18 +9,17 @@
 namespace lexigrove
 {
 
-const char* const helpText =
-    "LexiGrove without a window: commands come in line by line, answers and events go out.\n"
-    "\n"
-    "usage: lexigrove-console [--folder DIR] [--time-of-day SECONDS] [--position TEXT]\n"
-    "                         [--help] [--version]\n"
-    "\n"
-    "  --folder DIR           the program folder: word lists, options, scores\n"
-    "  --time-of-day SECONDS  freezes the clock at this time and fixes the random letters,\n"
-    "                         so that a run can be repeated exactly\n"
-    "  --position TEXT        begins with this board, as \"position\" prints one\n"
-    "\n"
-    "\"list_commands\" lists the commands; a game starts with \"new_game\" and is shown by \"show\".\n";
+const char* const helpText = "LexiGrove without a window: commands come in line by line, answers and events go out.\n"
+                             "\n"
+                             "usage: lexigrove-console [--folder DIR] [--time-of-day SECONDS] [--position TEXT]\n"
+                             "                         [--help] [--version]\n"
+                             "\n"
+                             "  --folder DIR           the program folder: word lists, options, scores\n"
+                             "  --time-of-day SECONDS  freezes the clock at this time and fixes the random letters,\n"
+                             "                         so that a run can be repeated exactly\n"
+                             "  --position TEXT        begins with this board, as \"position\" prints one\n"
+                             "\n"
+                             "A game starts with \"new_game\" and is shown by \"show\"; \"help\" says more.\n";
 
 namespace
 {

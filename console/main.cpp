@@ -14,12 +14,14 @@ constexpr int badOptionStatus = 2;
 
 int play(const lexigrove::CommandLine& options)
 {
-    const std::string folder = lexigrove::programFolder(lexigrove::programFolderRequest(options.folder));
+    const lexigrove::ProgramFolder folder(lexigrove::programFolderRequest(options.folder));
+    if (!folder.notice().empty())
+        std::cerr << "lexigrove-console: " << folder.notice() << '\n';
     if (isatty(STDIN_FILENO) != 0) {
         std::cerr << "LexiGrove " << LEXIGROVE_VERSION
-                  << ": \"new_game\" starts a game, \"show\" shows it, \"list_commands\" lists the commands.\n";
+                  << ": \"new_game\" starts a game, \"show\" shows it, \"help\" says more.\n";
     }
-    lexigrove::Console console(folder, options.timeOfDay, std::cin, std::cout);
+    lexigrove::Console console(folder.path(), options.timeOfDay, std::cin, std::cout);
     console.run(options.position);
     return 0;
 }

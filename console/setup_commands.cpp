@@ -10,6 +10,20 @@ namespace lexigrove
 namespace
 {
 
+Lines guide()
+{
+    return {"new_game      starts a game; daily is the board of the day",
+            "show          shows the letters that wait, and the board: its tiles are 1 to 64, down the columns",
+            "type WORD     spells a word on the board; click N selects tiles one by one",
+            "enter         makes the word: its tiles leave, and what lies above slides down",
+            "drop COLUMN   drops the letter that waits over a column, 1 to 8",
+            "hint          shows words that are on the board",
+            "value NAME    shows YourScore, TilesLeft and more; words_made and scores are lists",
+            "options       shows the choices; options KEY=VALUE makes one for the next game",
+            "keep          leaves the game and keeps it; quit just stops",
+            "list_commands lists all commands; docs/console.md and the manual page say more"};
+}
+
 Lines commandNames(CommandContext& context)
 {
     Lines names;
@@ -42,6 +56,7 @@ std::vector<ConsoleCommand> setUpCommands()
         command("protocol_version", When::Always, [](CommandContext&) { return "1"; }),
         command("list_commands", When::Always, commandNames),
         command("known_command", When::Always, name, knows),
+        command("help", When::Always, [](CommandContext&) { return guide(); }),
         command("quit", When::Always, [](CommandContext& context) { context.quitting = true; }),
         command("options", When::Always, readOptions, setOptions),
         command("new_game", When::Always, [](CommandContext& context) { context.flow.startGame(); }),

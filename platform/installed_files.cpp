@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <map>
+#include <unistd.h>
 #include <vector>
 
 namespace lexigrove
@@ -26,9 +27,9 @@ struct ManifestEntry {
 };
 using Manifest = std::map<std::string, ManifestEntry>;
 
-std::string checksum(const std::string& path)
+std::string checksumOf(std::string_view content)
 {
-    return std::to_string(hashOf(readFile(path)));
+    return std::to_string(hashOf(content));
 }
 
 std::string stampOf(const fs::path& file)
@@ -68,12 +69,12 @@ void writeManifest(const std::string& path, const Manifest& manifest)
 /// Syncs one file. Returns its manifest entry.
 ManifestEntry syncFile(const fs::path& installed, const fs::path& target, const ManifestEntry& entry)
 {
-    ManifestEntry now{stampOf(installed), checksum(installed.string())};
+    ManifestEntry now{stampOf(installed), checksumOf(readFile(installed.string()))};
     if (!fs::exists(target)) {
         copyFile(installed.string(), target.string());
         return now;
     }
-    const std::string present = checksum(target.string());
+    const std::string present = checksumOf(readFile(target.string()));
     if (present == now.sum)
         return now;
     if (present == entry.sum) {
@@ -92,6 +93,38 @@ std::vector<fs::path> filesToSync(const std::string& installed)
     }
     std::sort(files.begin(), files.end());
     return files;
+}
+
+/// The regular files of a folder and its subfolders, by their paths in it; locks are nobody's.
+std::vector<fs::path> filesBelow(const fs::path& folder)
+{
+    std::vector<fs::path> files;
+    for (const fs::directory_entry& entry : fs::recursive_directory_iterator(folder)) {
+        if (entry.is_regular_file() && entry.path().extension() != ".lock")
+            files.push_back(entry.path().lexically_relative(folder));
+    }
+    return files;
+}
+
+void writeBelow(const fs::path& folder, const fs::path& name, const std::string& content)
+{
+    fs::create_directories((folder / name).parent_path());
+    replaceFile((folder / name).string(), content);
+}
+
+/// The configuration names a user dictionary by its path.
+void replaceAll(std::string& text, const std::string& old, const std::string& now)
+{
+    for (std::size_t at = text.find(old); at != std::string::npos; at = text.find(old, at + now.size()))
+        text.replace(at, old.size(), now);
+}
+
+fs::path unusedFolder(const fs::path& parent)
+{
+    fs::path folder = parent / "Earlier";
+    for (int number = 2; fs::exists(folder); ++number)
+        folder = parent / ("Earlier " + std::to_string(number));
+    return folder;
 }
 
 } // namespace
@@ -120,11 +153,51 @@ void syncInstalledFiles(const std::string& installed, const std::string& target)
         const fs::path copy = fs::path(target) / name;
         if (entry.stamp == stampOf(file) && fs::exists(copy))
             continue;
-        entry = syncFile(file, copy, entry);
-        changed = true;
+        try {
+            entry = syncFile(file, copy, entry);
+            changed = true;
+        } catch (const FileError&) { // stays as it is, and is tried again at the next start
+            continue;
+        }
     }
     if (changed)
         writeManifest(manifestPath, manifest);
+}
+
+std::string takeOverFiles(const std::string& earlier, const std::string& target)
+{
+    const FileLock lock((fs::path(target) / manifestName).string());
+    const Manifest manifest = readManifest((fs::path(earlier) / manifestName).string());
+    const fs::path aside = unusedFolder(target);
+    std::vector<fs::path> taken;
+    for (const fs::path& name : filesBelow(earlier)) {
+        std::string content = readFile((fs::path(earlier) / name).string());
+        if (content.starts_with("\x7f"
+                                "ELF"))
+            continue; // a program or a module
+        taken.push_back(name);
+        const auto entry = manifest.find(name.string());
+        if (entry != manifest.end() && entry->second.sum == checksumOf(content))
+            continue; // the game's own
+        if (name == "Lexigrove.cfg")
+            replaceAll(content, fs::path(earlier) / "", fs::path(target) / "");
+        const fs::path present = fs::path(target) / name;
+        if (!fs::exists(present))
+            writeBelow(target, name, content);
+        else if (name != manifestName && readFile(present.string()) != content)
+            writeBelow(aside, name, content);
+    }
+    for (const fs::path& name : taken)
+        fs::remove(fs::path(earlier) / name);
+    return fs::exists(aside) ? aside.string() : "";
+}
+
+void copyFiles(const std::string& source, const std::string& target)
+{
+    for (const fs::path& name : filesBelow(source)) {
+        if (access((fs::path(source) / name).c_str(), R_OK) == 0)
+            writeBelow(target, name, readFile((fs::path(source) / name).string()));
+    }
 }
 
 } // namespace lexigrove

@@ -3,6 +3,7 @@
 #include "platform/installed_files.hpp"
 #include "platform/text_file.hpp"
 
+#include <cerrno>
 #include <cstdlib>
 #include <filesystem>
 #include <pwd.h>
@@ -47,13 +48,15 @@ std::string namedFolder(const std::string& name)
     return withTrailingSlash(fs::absolute(name));
 }
 
+fs::path dataBeside(const ProgramFolderRequest& request)
+{
+    return fs::path(request.executable).parent_path().parent_path() / "share" / gameFolder;
+}
+
 fs::path installedData(const ProgramFolderRequest& request)
 {
-    if (!request.executable.empty()) {
-        fs::path beside = fs::path(request.executable).parent_path().parent_path() / "share" / gameFolder;
-        if (holdsData(beside))
-            return beside;
-    }
+    if (!request.executable.empty() && holdsData(dataBeside(request)))
+        return dataBeside(request);
     return !request.installedData.empty() && holdsData(request.installedData) ? request.installedData : "";
 }
 
@@ -67,35 +70,26 @@ std::string oneLine(std::string text)
     return text;
 }
 
-fs::path userFolder(const ProgramFolderRequest& request)
+/// The game's folder in one of the user's base folders: the one that the environment names, else the one in the home.
+fs::path userFolder(const std::string& named, const std::string& home, const char* inHome)
 {
-    if (request.dataHome.starts_with('/'))
-        return fs::path(request.dataHome) / gameFolder;
-    if (request.home.empty())
-        throw ProgramFolderError("There is no home folder to keep the game's files in; name a folder with --folder.");
-    return fs::path(request.home) / ".local" / "share" / gameFolder;
+    if (named.starts_with('/'))
+        return fs::path(named) / gameFolder;
+    return home.empty() ? fs::path() : fs::path(home) / inHome / gameFolder;
 }
 
-std::string filledUserFolder(const ProgramFolderRequest& request)
+/// Runs the action. Returns what has failed, in words for a sentence; empty if nothing has.
+template <typename Action>
+std::string failureOf(const Action& action)
 {
-    const fs::path folder = userFolder(request);
-    const fs::path installed = installedData(request);
     try {
-        if (!installed.empty()) {
-            if (fs::create_directories(folder))
-                placeFirstFiles(installed.string(), folder.string());
-            syncInstalledFiles(installed.string(), folder.string());
-        }
+        action();
     } catch (const fs::filesystem_error& error) {
-        throw ProgramFolderError("The folder \"" + folder.string() +
-                                 "\" cannot be made or filled: " + error.code().message() + ".");
+        return error.code().message();
     } catch (const FileError& error) {
-        throw ProgramFolderError("The folder \"" + folder.string() + "\" cannot be filled: " + oneLine(error.what()));
+        return oneLine(error.what());
     }
-    if (!holdsData(folder))
-        throw ProgramFolderError("The game's word lists are not installed, and \"" + folder.string() +
-                                 "\" does not hold them.");
-    return withTrailingSlash(folder);
+    return {};
 }
 
 std::string environment(const char* name)
@@ -122,14 +116,81 @@ ProgramFolderRequest programFolderRequest(std::optional<std::string> folderOptio
             environment("XDG_DATA_HOME"), homeFolder()};
 }
 
-std::string programFolder(const ProgramFolderRequest& request)
+ProgramFolder::ProgramFolder(const ProgramFolderRequest& request)
 {
-    if (request.folderOption)
-        return namedFolder(*request.folderOption);
+    if (request.folderOption) {
+        path_ = namedFolder(*request.folderOption);
+        return;
+    }
     const fs::path own = fs::path(request.executable).parent_path();
-    if (!request.executable.empty() && holdsData(own) && access(own.c_str(), W_OK) == 0)
-        return withTrailingSlash(own);
-    return filledUserFolder(request);
+    const bool ownIsGame = !request.executable.empty() && holdsData(own) && access(own.c_str(), W_OK) == 0;
+    if (ownIsGame && !holdsData(dataBeside(request))) {
+        path_ = withTrailingSlash(own);
+        return;
+    }
+    const fs::path user = userFolder(request.dataHome, request.home, ".local/share");
+    if (user.empty())
+        throw ProgramFolderError("There is no home folder to keep the game's files in; name a folder with --folder.");
+    installed_ = installedData(request).string();
+    user_ = withTrailingSlash(user);
+    path_ = user_;
+    const std::string failure = failureOf([&] { fillUserFolder(ownIsGame ? own.string() : ""); });
+    if (!failure.empty())
+        fillPassingFolder("The folder \"" + user.string() + "\" cannot be written: " + failure + ".");
+    if (!holdsData(path_))
+        throw ProgramFolderError("The game's word lists are not installed, and \"" + user.string() +
+                                 "\" does not hold them.");
+}
+
+ProgramFolder::PassingFolder::~PassingFolder()
+{
+    std::error_code ignored;
+    if (!path.empty())
+        fs::remove_all(path, ignored);
+}
+
+void ProgramFolder::fillUserFolder(const std::string& earlier)
+{
+    if (!installed_.empty()) {
+        const bool isNew = fs::create_directories(user_);
+        if (!earlier.empty()) {
+            const std::string aside = takeOverFiles(earlier, user_);
+            notice_ = "Your scores, words and options have moved from \"" + earlier + "\" to \"" + user_ + "\".";
+            if (!aside.empty())
+                notice_ += " There were some already; the earlier ones are in \"" + aside + "\".";
+        }
+        if (isNew)
+            placeFirstFiles(installed_, user_);
+        syncInstalledFiles(installed_, user_);
+    }
+    if (access(user_.c_str(), W_OK) != 0 && errno != ENOENT)
+        throw fs::filesystem_error("", std::error_code(errno, std::generic_category()));
+}
+
+void ProgramFolder::fillPassingFolder(const std::string& reason)
+{
+    const std::string failure = failureOf([&] {
+        std::string pattern = fs::temp_directory_path() / "lexigrove-XXXXXX";
+        if (mkdtemp(pattern.data()) == nullptr)
+            throw ProgramFolderError(reason);
+        passing_.path = pattern;
+        if (fs::is_directory(user_))
+            copyFiles(user_, pattern);
+        if (!installed_.empty()) {
+            placeFirstFiles(installed_, pattern);
+            syncInstalledFiles(installed_, pattern);
+        }
+    });
+    if (!failure.empty())
+        throw ProgramFolderError(reason);
+    path_ = withTrailingSlash(passing_.path);
+    notice_ = reason + " You can play, but nothing is kept.";
+}
+
+std::string stateFolder(const std::string& otherwise)
+{
+    const fs::path folder = userFolder(environment("XDG_STATE_HOME"), homeFolder(), ".local/state");
+    return folder.empty() ? otherwise : withTrailingSlash(folder);
 }
 
 } // namespace lexigrove

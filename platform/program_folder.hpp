@@ -26,13 +26,49 @@ struct ProgramFolderRequest {
 /// The request for this process, from its executable, its environment and the user's home.
 ProgramFolderRequest programFolderRequest(std::optional<std::string> folderOption);
 
-/// The absolute path, with a trailing "/", of the folder that holds all of the game's files. The first of these that
-/// applies:
-/// - the folder that the player named; it must exist, and nothing is copied into it;
-/// - the executable's own folder, if it holds "L1Ascii.txt" and is writable (a build tree, a portable copy);
-/// - "lexigrove" in the user's data folder, created if missing and synced by `syncInstalledFiles` from the installed
-///   data ("../share/lexigrove" relative to the executable's folder, else `installedData`).
-/// Throws ProgramFolderError.
-std::string programFolder(const ProgramFolderRequest& request);
+/// The folder that holds all of the game's files, for as long as the game runs.
+class ProgramFolder
+{
+public:
+    /// The first of these that applies:
+    /// - the folder that the player named; it must exist, and nothing is copied into it;
+    /// - the executable's own folder, if it holds "L1Ascii.txt" and is writable (a portable copy);
+    /// - "lexigrove" in the user's data folder, created if missing and synced by `syncInstalledFiles` from the
+    /// installed
+    ///   data ("../share/lexigrove" relative to the executable's folder, else `installedData`). The files of a player
+    ///   beside an executable with such data, where games played from a build tree once kept them, are taken over;
+    /// - where that cannot be written, a copy of it that goes with this object.
+    /// Throws ProgramFolderError.
+    explicit ProgramFolder(const ProgramFolderRequest& request);
+
+    /// Absolute, with a trailing "/".
+    [[nodiscard]] const std::string& path() const { return path_; }
+    /// What the player must know of it, in plain sentences; mostly empty.
+    [[nodiscard]] const std::string& notice() const { return notice_; }
+
+private:
+    /// A folder that is removed in the end.
+    struct PassingFolder {
+        PassingFolder() = default;
+        ~PassingFolder();
+        PassingFolder(const PassingFolder&) = delete;
+        PassingFolder& operator=(const PassingFolder&) = delete;
+
+        std::string path;
+    };
+
+    void fillUserFolder(const std::string& earlier);
+    void fillPassingFolder(const std::string& reason);
+
+    std::string installed_; ///< the installed data; empty if there is none
+    std::string user_;      ///< the user's folder
+    std::string path_;
+    PassingFolder passing_; ///< without a path if the files are kept
+    std::string notice_;
+};
+
+/// "lexigrove" in the user's state folder, with a trailing "/", for what no player would miss; `otherwise` if there is
+/// no home.
+std::string stateFolder(const std::string& otherwise);
 
 } // namespace lexigrove

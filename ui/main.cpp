@@ -1,6 +1,7 @@
 #include "platform/program_folder.hpp"
 #include "ui/first_start.hpp"
 #include "ui/front_end.hpp"
+#include "ui/machine/console_instead.hpp"
 #include "ui/machine/one_game.hpp"
 #include "ui/start_options.hpp"
 
@@ -9,6 +10,7 @@
 #include <QPushButton>
 
 #include <cstdio>
+#include <optional>
 
 namespace
 {
@@ -38,10 +40,13 @@ void comeToFront(QWidget& window)
 
 int play(const StartOptions& options)
 {
-    const std::string folder = programFolder(programFolderRequest(options.folder));
+    const ProgramFolder programFolder(programFolderRequest(options.folder));
+    const std::string& folder = programFolder.path();
     const OneGame oneGame(folder);
     if (!oneGame.isFirst() && !goesOnBeside(oneGame))
         return EXIT_SUCCESS;
+    if (!programFolder.notice().empty())
+        QMessageBox::information(nullptr, "LexiGrove", QString::fromLocal8Bit(programFolder.notice()));
     prepareFirstStart(folder);
     FrontEnd game(folder);
     GameFlow& flow = game.flow;
@@ -88,7 +93,9 @@ int main(int argc, char** argv)
         std::fputs(options.answer->c_str(), stdout);
         return EXIT_SUCCESS;
     }
+    std::optional<ConsoleInstead> consoleInstead(options);
     QApplication application(argc, argv);
+    consoleInstead.reset();
     QApplication::setApplicationName("lexigrove");
     QApplication::setApplicationVersion(LEXIGROVE_VERSION);
     QApplication::setDesktopFileName("lexigrove");

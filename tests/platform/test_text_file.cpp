@@ -4,10 +4,12 @@
 #include <cerrno>
 #include <csignal>
 #include <filesystem>
+#include <fstream>
 #include <functional>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <random>
+#include <sched.h>
 #include <sys/mount.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -135,8 +137,15 @@ TEST_F(TextFile, aFailedWriteLosesNothing)
 // Guards the same where nothing can be written at all.
 TEST_F(TextFile, aReadOnlyDiskIsTold)
 {
+    const std::string user = "0 " + std::to_string(::getuid()) + " 1";
+    const std::string group = "0 " + std::to_string(::getgid()) + " 1";
+    if (::unshare(CLONE_NEWUSER | CLONE_NEWNS) == 0) { // with the right to mount, whoever the user is
+        std::ofstream("/proc/self/setgroups") << "deny";
+        std::ofstream("/proc/self/uid_map") << user;
+        std::ofstream("/proc/self/gid_map") << group;
+    }
     if (::mount("none", folder_.c_str(), "tmpfs", 0, "size=64k") != 0)
-        GTEST_SKIP() << "needs the right to mount a small disk";
+        GTEST_SKIP() << "A small disk could not be mounted: neither root's rights nor a user namespace";
     replaceFile(path("file"), "old");
     EXPECT_EQ(::mount("none", folder_.c_str(), "tmpfs", MS_REMOUNT | MS_RDONLY, "size=64k"), 0);
     for (const char* name : {"file", "other"})

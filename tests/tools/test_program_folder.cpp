@@ -14,10 +14,10 @@ namespace fs = std::filesystem;
 using testing::HasSubstr;
 
 /// A machine on which the game is installed below "usr" and the user lives in "home".
-class ProgramFolder : public testing::Test
+class ProgramFolderTest : public testing::Test
 {
 protected:
-    ProgramFolder()
+    ProgramFolderTest()
     {
         for (const char* name : {"usr/bin", "usr/share/lexigrove/first", "home"})
             fs::create_directories(path(name));
@@ -44,7 +44,7 @@ protected:
         return request;
     }
 
-    std::string start() const { return programFolder(request()); }
+    std::string start() const { return ProgramFolder(request()).path(); }
 
     TemporaryFolder machine_;
 };
@@ -52,7 +52,7 @@ protected:
 std::string errorOf(const ProgramFolderRequest& request)
 {
     try {
-        return "none, but " + programFolder(request);
+        return "none, but " + ProgramFolder(request).path();
     } catch (const ProgramFolderError& error) {
         return error.what();
     }
@@ -60,7 +60,7 @@ std::string errorOf(const ProgramFolderRequest& request)
 
 // Guards against a game that reads one folder and writes another, and against a folder without its trailing separator,
 // to which every file name is simply appended.
-TEST_F(ProgramFolder, TheFirstThatAppliesWins)
+TEST_F(ProgramFolderTest, TheFirstThatAppliesWins)
 {
     EXPECT_EQ(start(), user(""));
 
@@ -68,11 +68,11 @@ TEST_F(ProgramFolder, TheFirstThatAppliesWins)
     portable.executable = path("stick/lexigrove");
     fs::create_directories(path("stick"));
     replaceFile(path("stick/L1Ascii.txt"), "ONE\r\n");
-    EXPECT_EQ(programFolder(portable), path("stick/"));
+    EXPECT_EQ(ProgramFolder(portable).path(), path("stick/"));
 
     for (const char* name : {"home", "home/", "home/../home/."}) {
         portable.folderOption = path(name);
-        EXPECT_EQ(programFolder(portable), path("home/")) << name;
+        EXPECT_EQ(ProgramFolder(portable).path(), path("home/")) << name;
     }
     EXPECT_FALSE(fs::exists(path("home/L1Ascii.txt"))) << "a named folder is used as it stands";
 
@@ -80,15 +80,15 @@ TEST_F(ProgramFolder, TheFirstThatAppliesWins)
     elsewhere.dataHome = path("data home");
     elsewhere.executable = path("opt/lexigrove");
     elsewhere.installedData = path("usr/share/lexigrove");
-    EXPECT_EQ(programFolder(elsewhere), path("data home/lexigrove/"));
+    EXPECT_EQ(ProgramFolder(elsewhere).path(), path("data home/lexigrove/"));
     EXPECT_EQ(readFile(path("data home/lexigrove/Default.sch")), "first colours");
 
     elsewhere.dataHome = "relative";
-    EXPECT_EQ(programFolder(elsewhere), user("")) << "a relative XDG_DATA_HOME is to be ignored";
+    EXPECT_EQ(ProgramFolder(elsewhere).path(), user("")) << "a relative XDG_DATA_HOME is to be ignored";
 }
 
 // Guards against an upgrade that takes a player's own colours, words or scores away.
-TEST_F(ProgramFolder, WhatTheUserChangedOrBroughtStays)
+TEST_F(ProgramFolderTest, WhatTheUserChangedOrBroughtStays)
 {
     fs::create_directories(user(""));
     replaceFile(user("Own.sch"), "brought before the first start");
@@ -109,7 +109,7 @@ TEST_F(ProgramFolder, WhatTheUserChangedOrBroughtStays)
 }
 
 // Guards against players who keep the word lists of their first version forever.
-TEST_F(ProgramFolder, WhatTheUserLeftAloneFollowsTheInstalledFiles)
+TEST_F(ProgramFolderTest, WhatTheUserLeftAloneFollowsTheInstalledFiles)
 {
     install("first/Lexigrove.cfg", "kind");
     start();
@@ -138,7 +138,7 @@ TEST_F(ProgramFolder, WhatTheUserLeftAloneFollowsTheInstalledFiles)
 }
 
 // Guards against a stack of system errors, or silence, instead of one sentence that a player can act on.
-TEST_F(ProgramFolder, WhatCannotBeHadIsSaidInOneSentence)
+TEST_F(ProgramFolderTest, WhatCannotBeHadIsSaidInOneSentence)
 {
     ProgramFolderRequest request = this->request();
     request.folderOption = path("nowhere");
@@ -148,18 +148,58 @@ TEST_F(ProgramFolder, WhatCannotBeHadIsSaidInOneSentence)
     request.home = "";
     EXPECT_THAT(errorOf(request), HasSubstr("no home folder"));
 
-    request.home = path("usr/share/lexigrove/L1Ascii.txt"); // a file where a folder should be
-    EXPECT_THAT(errorOf(request), HasSubstr("cannot be made or filled: Not a directory."));
-
-    request = this->request();
-    fs::create_directories(user("Default.sch/folder")); // in the way of a file
-    EXPECT_THAT(errorOf(request), testing::AllOf(HasSubstr("cannot be filled: "), testing::Not(HasSubstr("\n"))));
-
     request = this->request();
     request.executable = path("home/lexigrove");
     request.dataHome = path("empty");
     EXPECT_THAT(errorOf(request), HasSubstr("word lists are not installed"));
     EXPECT_FALSE(fs::exists(path("empty")));
+}
+
+// Guards a game that cannot be played because of one file in the way, and one that keeps nothing without a word.
+TEST_F(ProgramFolderTest, ItIsPlayedWhereverItCanBe)
+{
+    fs::create_directories(user("Default.sch/folder")); // in the way of a file
+    EXPECT_EQ(start(), user(""));
+    install("Other.sch", "others");
+    EXPECT_EQ(start(), user(""));
+    EXPECT_EQ(readFile(user("Other.sch")), "others");
+
+    ProgramFolderRequest request = this->request();
+    request.home = path("usr/share/lexigrove/L1Ascii.txt"); // a file where a folder should be
+    std::string passing;
+    {
+        const ProgramFolder folder(request);
+        passing = folder.path();
+        EXPECT_EQ(readFile(passing + "Default.sch"), "first colours");
+        EXPECT_THAT(folder.notice(), HasSubstr("Not a directory. You can play, but nothing is kept."));
+    }
+    EXPECT_FALSE(fs::exists(passing));
+}
+
+// Guards the scores of games played from a build tree, which once lay beside the programs.
+TEST_F(ProgramFolderTest, AnEarlierFolderIsTakenOver)
+{
+    const auto earlier = [this](const std::string& name) { return path("usr/bin/" + name); };
+    for (const char* name : {"L1Ascii.txt", "Default.sch"})
+        fs::copy_file(path(std::string("usr/share/lexigrove/") + name), earlier(name));
+    replaceFile(earlier("lexigrove"), "\x7f"
+                                      "ELF program");
+    replaceFile(earlier("LexigroveScores.txt"), "earlier scores");
+    replaceFile(earlier("Lexigrove.cfg"), earlier("Mine.txt"));
+    fs::create_directories(earlier("Games"));
+    replaceFile(earlier("Games/a.txt"), "a game");
+    fs::create_directories(user(""));
+    replaceFile(user("LexigroveScores.txt"), "scores");
+
+    const ProgramFolder folder(request());
+    EXPECT_EQ(readFile(user("LexigroveScores.txt")), "scores");
+    EXPECT_EQ(readFile(user("Earlier/LexigroveScores.txt")), "earlier scores");
+    EXPECT_EQ(readFile(user("Games/a.txt")), "a game");
+    EXPECT_EQ(readFile(user("Lexigrove.cfg")), user("Mine.txt"));
+    EXPECT_TRUE(fs::exists(earlier("lexigrove")));
+    EXPECT_FALSE(fs::exists(earlier("LexigroveScores.txt")));
+    EXPECT_THAT(folder.notice(), HasSubstr("have moved from"));
+    EXPECT_EQ(ProgramFolder(request()).notice(), "");
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "ui/machine/settings_file.hpp"
 
+#include "platform/program_folder.hpp"
 #include "ui/look/text.hpp"
 
 namespace lexigrove
@@ -14,7 +15,8 @@ const char* const vocabularyNames[] = {"every", "common", "simple"};
 } // namespace
 
 SettingsFile::SettingsFile(const std::string& folder)
-    : file_(pathToQString(folder + "LexigroveSettings.ini"), QSettings::IniFormat)
+    : file_(pathToQString(folder + "LexigroveSettings.ini"), QSettings::IniFormat),
+      state_(pathToQString(stateFolder(folder) + "window.ini"), QSettings::IniFormat)
 {
 }
 

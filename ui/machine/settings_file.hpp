@@ -12,7 +12,8 @@ namespace lexigrove
 {
 
 /// What the player has chosen beside the configuration, whose lines are fixed: "LexigroveSettings.ini" of the program
-/// folder. A missing file or value means the default; one that cannot be written is not kept.
+/// folder, and the window's place in "window.ini" of the user's state folder. A missing file or value means the
+/// default; one that cannot be written is not kept.
 class SettingsFile
 {
 public:
@@ -43,11 +44,16 @@ public:
     void setHintDone(const char* name) { file_.setValue(QString("hints/") + name, true); }
 
     /// The main window's place and size in the toolkit's own form; empty before they were kept.
-    [[nodiscard]] QByteArray windowPlace() const { return file_.value("window/place").toByteArray(); }
-    void setWindowPlace(const QByteArray& place) { file_.setValue("window/place", place); }
+    [[nodiscard]] QByteArray windowPlace() const
+    {
+        const char* const key = "window/place"; // once kept beside the other settings
+        return state_.value(key, file_.value(key)).toByteArray();
+    }
+    void setWindowPlace(const QByteArray& place) { state_.setValue("window/place", place); }
 
 private:
     QSettings file_;
+    QSettings state_;
 };
 
 } // namespace lexigrove
