@@ -1,10 +1,13 @@
 #include "platform/text_file.hpp"
 
 #include <cerrno>
+#include <chrono>
 #include <cstring>
 #include <fcntl.h>
+#include <future>
 #include <sys/file.h>
 #include <sys/stat.h>
+#include <thread>
 #include <unistd.h>
 #include <utility>
 
@@ -39,7 +42,11 @@ public:
     Descriptor(Descriptor&& other) noexcept : number_(std::exchange(other.number_, -1)) {}
     Descriptor(const Descriptor&) = delete;
     Descriptor& operator=(const Descriptor&) = delete;
-    Descriptor& operator=(Descriptor&&) = delete;
+    Descriptor& operator=(Descriptor&& other) noexcept
+    {
+        std::swap(number_, other.number_);
+        return *this;
+    }
 
     [[nodiscard]] int get() const { return number_; }
     [[nodiscard]] bool isOpen() const { return number_ >= 0; }
@@ -48,11 +55,38 @@ private:
     int number_;
 };
 
-/// Waits for the exclusive lock. Without lock support, continues unlocked.
-void lockExclusively(int descriptor)
+/// Folders, pipes and devices are no files to read or to replace: some never end, others never answer.
+void requireRegular(const struct stat& status, const char* failure, const std::string& path)
 {
-    while (::flock(descriptor, LOCK_EX) != 0 && errno == EINTR) {
-    }
+    if (S_ISDIR(status.st_mode))
+        throw FileError(failure, path, EISDIR);
+    if (!S_ISREG(status.st_mode))
+        throw FileError(failure, path + "\nIt is no regular file", 0);
+}
+
+bool lockedExclusively(int descriptor, int operation)
+{
+    int result = 0;
+    do
+        result = ::flock(descriptor, operation);
+    while (result != 0 && errno == EINTR);
+    return result == 0 || errno != EWOULDBLOCK; // without lock support, the program goes on unlocked
+}
+
+/// Waits for the exclusive lock, but no longer than a player would: false if it is another's turn still.
+bool lockExclusively(int descriptor)
+{
+    if (lockedExclusively(descriptor, LOCK_EX | LOCK_NB))
+        return true;
+    // The system lets those that wait have their turns, but gives no time limit: a thread of its own waits. It may
+    // outlive this call, and then gives the lock back at once.
+    std::promise<void> locked;
+    const std::future<void> turn = locked.get_future();
+    std::thread([own = Descriptor(::dup(descriptor)), locked = std::move(locked)]() mutable {
+        lockedExclusively(own.get(), LOCK_EX);
+        locked.set_value();
+    }).detach();
+    return turn.wait_for(std::chrono::seconds(3)) == std::future_status::ready;
 }
 
 bool isSameFile(int descriptor, const std::string& path)
@@ -107,13 +141,18 @@ void flush(int descriptor, const std::string& path)
 }
 
 /// The temporary file beside a target. Its name is fixed, so that a crash leaves at most one such file, which the next
-/// writer reuses; a lock keeps two writers apart.
+/// writer reuses; a lock keeps two writers apart. Where that name is taken for good, by another user's file or by what
+/// is no file, each user has a name of their own.
 class TemporaryFile
 {
 public:
     explicit TemporaryFile(const std::string& target)
-        : target_(target), path_(target + ".new"), descriptor_(openLocked(path_, target))
+        : target_(target), path_(target + ".new"), descriptor_(openLocked(path_))
     {
+        if (!descriptor_.isOpen())
+            descriptor_ = openLocked(path_ += "-" + std::to_string(::geteuid()));
+        if (!descriptor_.isOpen())
+            throw FileError("Cannot write the file", target, errno);
     }
     ~TemporaryFile()
     {
@@ -152,15 +191,19 @@ public:
     }
 
 private:
-    /// Another writer may have renamed or removed the file while this one waited for its lock; then there is a new file
-    /// to lock.
-    static Descriptor openLocked(const std::string& path, const std::string& target)
+    /// Not open, with errno, where no such file can be written. Another writer may have renamed or removed the file
+    /// while this one waited for its lock; then there is a new file to lock.
+    static Descriptor openLocked(const std::string& path)
     {
         for (;;) {
-            Descriptor file(::open(path.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0666));
+            Descriptor file(::open(path.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK, 0666));
             if (!file.isOpen())
-                throw FileError("Cannot write the file", target, errno);
-            lockExclusively(file.get());
+                return file;
+            struct stat status = {};
+            if (::fstat(file.get(), &status) != 0 || !S_ISREG(status.st_mode) || !lockExclusively(file.get())) {
+                errno = EBUSY;
+                return Descriptor(-1);
+            }
             if (isSameFile(file.get(), path))
                 return file;
         }
@@ -179,24 +222,33 @@ FileError::FileError(const std::string& failure, const std::string& path, int er
 {
 }
 
-std::string readFile(const std::string& path)
+std::string readFile(const std::string& path, std::size_t largest)
 {
-    const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
+    // A pipe without a writer would not open, so it is opened without waiting. A regular file never waits.
+    const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
     if (!file.isOpen())
         throw FileError("Cannot open the file", path, errno);
-
+    constexpr const char* failure = "Cannot read the file";
     struct stat status = {};
-    const bool known = ::fstat(file.get(), &status) == 0 && status.st_size > 0;
-    std::string bytes(known ? static_cast<std::size_t>(status.st_size) + 1 : 4096, '\0'); // one more to read the end
+    if (::fstat(file.get(), &status) != 0)
+        throw FileError(failure, path, errno);
+    requireRegular(status, failure, path);
+
+    const auto size = static_cast<std::size_t>(status.st_size);
+    if (size > largest)
+        throw FileError(failure, path, EFBIG);
+    std::string bytes(size > 0 ? size + 1 : 4096, '\0'); // one more to read the end
     std::size_t length = 0;
     for (;;) {
+        if (length > largest)
+            throw FileError(failure, path, EFBIG);
         if (length == bytes.size())
             bytes.resize(2 * bytes.size());
         const ssize_t got = ::read(file.get(), bytes.data() + length, bytes.size() - length);
         if (got < 0 && errno == EINTR)
             continue;
         if (got < 0)
-            throw FileError("Cannot read the file", path, errno);
+            throw FileError(failure, path, errno);
         if (got == 0)
             break;
         length += static_cast<std::size_t>(got);
@@ -234,8 +286,8 @@ void replaceFile(const std::string& path, std::string_view bytes, Durability dur
     const std::string target = followLinks(path);
     struct stat old = {};
     const bool exists = ::stat(target.c_str(), &old) == 0;
-    if (exists && !S_ISREG(old.st_mode))
-        throw FileError("Cannot replace the file", path, S_ISDIR(old.st_mode) ? EISDIR : EINVAL);
+    if (exists)
+        requireRegular(old, "Cannot replace the file", path);
     if (exists && ::access(target.c_str(), W_OK) != 0) // a rename would bypass the player's write protection
         throw FileError("Cannot replace the file", path, errno);
 
@@ -269,19 +321,32 @@ void copyFile(const std::string& source, const std::string& target)
 }
 
 FileLock::FileLock(const std::string& path)
-    : descriptor_(::open((path + ".lock").c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666))
+    : descriptor_(::open((path + ".lock").c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK, 0666))
 {
     if (descriptor_ < 0) // created by another user of the folder; read access is enough for a lock
-        descriptor_ = ::open((path + ".lock").c_str(), O_RDONLY | O_CLOEXEC);
-    if (descriptor_ >= 0)
-        lockExclusively(descriptor_);
+        descriptor_ = ::open((path + ".lock").c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    if (descriptor_ < 0)
+        return;
+    // The file names the process that holds it, for whoever waits.
+    std::string holder = std::to_string(::getpid()) + '\n';
+    if (lockExclusively(descriptor_)) {
+        (void)!::pwrite(descriptor_, holder.data(), holder.size(), 0);
+        return;
+    }
+    holder.assign(20, '\0');
+    (void)!::pread(descriptor_, holder.data(), holder.size(), 0);
+    release();
+    throw FileError("It is the turn of another game, process " +
+                        holder.substr(0, holder.find_first_not_of("0123456789")) +
+                        "; try again when it is done with the file",
+                    path, 0);
 }
 
 // The lock file is kept. Deleting it would let two games lock different files.
-FileLock::~FileLock()
+void FileLock::release()
 {
     if (descriptor_ >= 0)
-        ::close(descriptor_);
+        ::close(std::exchange(descriptor_, -1));
 }
 
 } // namespace lexigrove

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <cstddef>
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace lexigrove
@@ -16,8 +18,12 @@ public:
     FileError(const std::string& failure, const std::string& path, int errorNumber);
 };
 
-/// The whole file, byte for byte. Throws FileError.
-std::string readFile(const std::string& path);
+/// More than any file of the game holds.
+inline constexpr std::size_t largestFile = std::size_t{64} << 20;
+
+/// The whole file, byte for byte. Throws FileError, also for what is no regular file and for one of more than `largest`
+/// bytes, before it takes any memory for them.
+std::string readFile(const std::string& path, std::size_t largest = largestFile);
 
 /// The lines of a text; CR LF, LF and CR all end a line. Text after the last line end is a line too. The views point
 /// into `text`.
@@ -41,15 +47,18 @@ void replaceLines(const std::string& path, const std::vector<std::string>& lines
 void copyFile(const std::string& source, const std::string& target);
 
 /// Holds an exclusive lock on "<path>.lock" until the end of the scope, so that running games take turns with the file.
-/// In a folder that is not writable it silently holds nothing. A second lock on the same file within one process would
-/// wait forever for the first.
+/// In a folder that is not writable it silently holds nothing. Throws FileError if the turn of another does not end
+/// within some seconds; so does a second lock on the same file within one process.
 class FileLock
 {
 public:
     explicit FileLock(const std::string& path);
-    ~FileLock();
+    ~FileLock() { release(); }
+    FileLock(FileLock&& other) noexcept : descriptor_(std::exchange(other.descriptor_, -1)) {}
     FileLock(const FileLock&) = delete;
     FileLock& operator=(const FileLock&) = delete;
+
+    void release(); ///< ends the turn before the scope does
 
 private:
     int descriptor_;

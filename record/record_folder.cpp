@@ -89,10 +89,7 @@ RecordFolder::Contents RecordFolder::list() const
 
 GameRecord RecordFolder::load(const std::string& name) const
 {
-    std::error_code failure;
-    if (fs::file_size(folder_ + name, failure) > largestRecord && !failure) // nobody waits for a gigabyte to be read
-        throw FileError("This is no record of a game", folder_ + name, 0);
-    return gameRecordOf(readFile(folder_ + name));
+    return gameRecordOf(readFile(folder_ + name, largestRecord));
 }
 
 } // namespace lexigrove

@@ -14,10 +14,7 @@ std::optional<std::string> SavedGameFile::read() const
     if (!std::filesystem::exists(path_, failure))
         return std::nullopt;
     constexpr std::size_t most = std::size_t{1} << 20; // a game of 60 words takes about 20,000 bytes
-    std::string text = readFile(path_);
-    if (text.size() > most)
-        throw FileError("This is no saved game", path_, 0);
-    return text;
+    return readFile(path_, most);
 }
 
 bool SavedGameFile::write(const std::string& text, Durability durability) const

@@ -86,6 +86,19 @@ bool isMissingOrEmpty(const std::string& path)
     return failure ? !std::filesystem::exists(path, failure) : size == 0;
 }
 
+/// Waits for the turn with the file. The player is told whose it is if it does not end; a score that is then written
+/// out of turn is better than one that is lost.
+std::optional<FileLock> takeTurn(const std::string& path, Dialogs& dialogs)
+{
+    std::optional<FileLock> turn;
+    try {
+        turn.emplace(path);
+    } catch (const FileError& error) {
+        dialogs.message(error.what());
+    }
+    return turn;
+}
+
 } // namespace
 
 ScoreFile::ScoreFile(std::string folder, Dialogs& dialogs)
@@ -98,7 +111,7 @@ void ScoreFile::ensure()
     if (!isMissingOrEmpty(path_))
         return;
     dialogs_.message("Scores File not found - will create a new one");
-    const FileLock lock(path_);
+    const auto turn = takeTurn(path_, dialogs_);
     if (isMissingOrEmpty(path_)) // another game may have created it while the message was open
         writeScoreLines(path_, defaultLines());
 }
@@ -116,7 +129,7 @@ int ScoreFile::lowest()
 
 std::vector<std::string> ScoreFile::record(int score, const std::string& name)
 {
-    const FileLock lock(path_);
+    const auto turn = takeTurn(path_, dialogs_);
     const auto readable = readScoreLines(path_);
     std::vector<std::string> list = bestTen(readable.value_or(std::vector<std::string>{}));
     const std::string line = scoreLine(score, name);

@@ -1,5 +1,9 @@
 #include "tests/support/played_game.hpp"
 
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
 namespace lexigrove
 {
 namespace
@@ -119,6 +123,67 @@ TEST(WholeGame, ListsThatCannotBePlayedAreMended)
     played.study.chooseOptions([](OptionsForm& form) { form.typeUserDictName("Mine.txt"); });
     EXPECT_EQ(wordsAfter(true, 4), "QUIZ");
     EXPECT_EQ(wordsAfter(true, 4), "QUIZ") << "the copy stays chosen";
+}
+
+/// Puts something else into the place of a file.
+void put(const std::string& kind, const std::filesystem::path& path)
+{
+    std::filesystem::remove(path);
+    if (kind == "folder")
+        std::filesystem::create_directory(path);
+    else if (kind == "pipe")
+        ASSERT_EQ(::mkfifo(path.c_str(), 0600), 0);
+    else if (kind == "loop")
+        std::filesystem::create_symlink(path.filename(), path);
+    else if (kind == "device")
+        std::filesystem::create_symlink("/dev/zero", path);
+    else
+        std::filesystem::resize_file((std::ofstream(path), path), std::uintmax_t{2} << 30);
+}
+
+/// Reads and writes all that a game keeps.
+void playWith(QuietWorld& world, bool canPlay)
+{
+    world.dialogs.answers = {"Ada", "yes", "yes", "no"};
+    GameFlow flow(world.ports(), world.folder.path(), SystemPalette());
+    Study study(flow);
+    flow.startUp();
+    flow.continueGame();
+    study.loadScheme("Night.sch");
+    flow.startGame();
+    ASSERT_EQ(flow.inGame(), canPlay);
+    flow.saveIfChanged();
+    study.maintain(Study::Maintenance::AddWord, "EMU");
+    study.saveConfiguration();
+    study.showTopTen(500);
+    flow.perform(Command::PastGames);
+    flow.perform(Command::ExportWords);
+    flow.perform(Command::Exit);
+    EXPECT_TRUE(flow.ended());
+}
+
+// Guards against a game that hangs or eats the memory because something else stands where it keeps a file.
+TEST(WholeGame, WhatIsNoFileStopsNoGame)
+{
+    for (const char* name :
+         {"Lexigrove.cfg", "Lexigrove.cfg.new", "LexigroveScores.txt", "LexigroveScores.txt.new",
+          "LexigroveScores.txt.lock", "LexigroveGame.txt", "LexigroveGame.txt.new", "Games", "Night.sch", "Default.sch",
+          "MeaningServices.txt", "L2Ascii.txt", "L2Ascii.txt.new", "L2Ascii.txt.lock", "SysDik2Backup.txt"}) {
+        for (const char* kind : {"folder", "pipe", "loop", "device", "giant"}) {
+            SCOPED_TRACE(std::string(name) + " is a " + kind);
+            QuietWorld world("CAT\r\nQUIZ\r\n");
+            put(kind, world.folder.file(name));
+            const pid_t child = ::fork();
+            if (child == 0) {
+                ::alarm(10);
+                playWith(world, std::string(name) != "L2Ascii.txt");
+                ::_exit(HasFailure() ? 1 : 0);
+            }
+            int status = 0;
+            ASSERT_EQ(::waitpid(child, &status, 0), child);
+            EXPECT_EQ(status, 0);
+        }
+    }
 }
 
 } // namespace

@@ -188,6 +188,25 @@ TEST_F(TextFile, killedAtAnyMomentItIsTheOldFileOrTheNew)
     EXPECT_THAT(names(), ElementsAre("file"));
 }
 
+// Guards a game that waits for ever for one that hangs, and a folder in which one writer's litter stops all others.
+TEST_F(TextFile, whoeverHoldsAFileDoesNotStopTheGame)
+{
+    replaceFile(path("file"), "old");
+    const FileLock held(path("file"));
+    const pid_t other = inChild([&] {
+        ::alarm(20);
+        const std::string error = errorOf([&] { const FileLock lock(path("file")); });
+        ::_exit(error.find("process " + std::to_string(::getppid()) + ";") != std::string::npos ? 0 : 1);
+    });
+    EXPECT_EQ(endOf(other), 0) << "waited for ever, or did not say whose turn it is";
+
+    fs::create_directory(path("file.new"));
+    replaceFile(path("file"), "new");
+    EXPECT_EQ(readFile(path("file")), "new");
+    EXPECT_TRUE(fs::is_directory(path("file.new")));
+    EXPECT_EQ(names().size(), 3U) << "the third is the lock";
+}
+
 // Guards two running games: no addition is lost under the lock, a leftover lock file does no harm, and writers without
 // a lock never mix their bytes.
 TEST_F(TextFile, twoProcessesDoNotDisturbEachOther)
