@@ -62,11 +62,13 @@ void Dictionary::read(Dialogs& dialogs, StatusLine& status, Random& random, cons
     status.write("Reading Dictionary...");
     nameLevelFiles();
     try {
+        const FileVersion version = versionOf(path(choice_)); // of before: a change meanwhile is one from then on
         std::string text = readFile(path(choice_));
         const LetterFrequencies frequencies = countLetters(text);
         WordList lines = WordList::ofLines(std::move(text));
         letters.derive(frequencies, random, clock);
         words = std::move(lines);
+        wordsRead = version;
     } catch (const std::exception&) {
         showReadFailure(dialogs, fileTable[static_cast<std::size_t>(choice_)]);
         throw ProgramEnd{};

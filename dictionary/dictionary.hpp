@@ -6,6 +6,7 @@
 #include "platform/dialogs.hpp"
 #include "platform/random.hpp"
 #include "platform/status_line.hpp"
+#include "platform/text_file.hpp"
 
 #include <array>
 #include <cstdint>
@@ -80,6 +81,7 @@ public:
 
     LetterTables letters;
     WordList words;
+    FileVersion wordsRead; ///< the version of the file that the words were read from, or written to
 
 private:
     void nameLevelFiles();

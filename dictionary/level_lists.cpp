@@ -5,24 +5,9 @@
 
 #include <filesystem>
 #include <stdexcept>
-#include <vector>
 
 namespace lexigrove
 {
-
-namespace
-{
-
-WordList wordsOf(std::string text)
-{
-    if (!isMaintainedHeader(std::string_view(text).substr(0, text.find_first_of("\r\n"))))
-        return WordList::ofLines(std::move(text));
-    const MaintainedWords decoded = decodeMaintained(text);
-    const std::vector<std::string_view> words(decoded.words.begin(), decoded.words.end());
-    return WordList::of(words);
-}
-
-} // namespace
 
 const WordList& LevelLists::level(int level)
 {
@@ -41,7 +26,7 @@ const WordList& LevelLists::read(const std::string& name)
     if (isNew) {
         try {
             const std::string path = std::filesystem::path(name).is_absolute() ? name : folder_ + name;
-            entry->second = wordsOf(readFile(path));
+            entry->second = wordsIn(readFile(path));
         } catch (const std::exception&) { // no file, or too much of it: no words
             return entry->second;
         }

@@ -47,7 +47,7 @@ void DictionaryMaintenance::tellStage(const Rewrite& rewrite, const std::string&
 
 /// Backs the file up, writes it and verifies it. Returns true if it reads back as written. A plain list is written from
 /// coded lines, so that a backup which is plain may be the only list that is left from before: it stays.
-bool DictionaryMaintenance::rewriteFile(const LevelFiles& files, const Rewrite& rewrite)
+bool DictionaryMaintenance::rewriteFile(LevelFiles& files, const Rewrite& rewrite)
 {
     std::string oldText;
     std::string backup = "File " + files.backup;
@@ -74,32 +74,44 @@ bool DictionaryMaintenance::rewriteFile(const LevelFiles& files, const Rewrite& 
         }
         replaceFile(files.path, text += rewrite.lines);
     } catch (const FileError& error) {
-        dialogs_.message(error.what() + putBack(files.path, oldText));
+        const std::string failure = error.what() + putBack(files.path, oldText);
+        endTurn(files);
+        dialogs_.message(failure);
         return false;
     }
     tellStage(rewrite, rewrite.written + " now read and verify " + files.name);
     return readBack(files, rewrite, oldText);
 }
 
-bool DictionaryMaintenance::readBack(const LevelFiles& files, const Rewrite& rewrite, const std::string& oldText)
+bool DictionaryMaintenance::readBack(LevelFiles& files, const Rewrite& rewrite, const std::string& oldText)
 {
     std::optional<Difference> difference;
     try {
         const BusyPointer busy(screen_);
         difference = verify(files, rewrite);
     } catch (const FileError& error) {
-        dialogs_.message(error.what() + putBack(files.path, oldText));
+        const std::string failure = error.what() + putBack(files.path, oldText);
+        endTurn(files);
+        dialogs_.message(failure);
         return false;
     }
     if (!difference) {
+        endTurn(files);
         tellStage(rewrite, rewrite.done);
         return true;
     }
     std::string text = "Error "; // the blank is the number's sign
     text += std::to_string(difference->index);
     text += rewrite.words.entry(difference->index);
-    dialogs_.message(text + difference->read);
-    restore(files, rewrite, oldText);
+    try {
+        dialogs_.message(text + difference->read);
+    } catch (...) { // closed with the program
+        (void)restore(files, rewrite, oldText);
+        throw;
+    }
+    const std::string outcome = restore(files, rewrite, oldText);
+    endTurn(files);
+    dialogs_.message(outcome);
     return false;
 }
 
@@ -133,8 +145,8 @@ std::optional<DictionaryMaintenance::Difference> DictionaryMaintenance::verify(c
 }
 
 /// Copies the backup over the file or, if that fails or the backup is an older one, writes the text read before the
-/// rewrite.
-void DictionaryMaintenance::restore(const LevelFiles& files, const Rewrite& rewrite, const std::string& oldText)
+/// rewrite. Returns the message about it.
+std::string DictionaryMaintenance::restore(const LevelFiles& files, const Rewrite& rewrite, const std::string& oldText)
 {
     try {
         if (rewrite.coding == Coding::Plain)
@@ -143,12 +155,10 @@ void DictionaryMaintenance::restore(const LevelFiles& files, const Rewrite& rewr
             copyFile(files.backup, files.path);
     } catch (const FileError& error) {
         const std::string failure = putBack(files.path, oldText);
-        if (!failure.empty()) {
-            dialogs_.message(error.what() + failure);
-            return;
-        }
+        if (!failure.empty())
+            return error.what() + failure;
     }
-    dialogs_.message(rewrite.restored + files.name);
+    return rewrite.restored + files.name;
 }
 
 } // namespace lexigrove

@@ -53,6 +53,11 @@ void expand(std::string& word, std::string_view line, std::ptrdiff_t unshared)
     word += line.substr(1);
 }
 
+bool beginsWithHeader(std::string_view text)
+{
+    return isMaintainedHeader(text.substr(0, text.find_first_of("\r\n")));
+}
+
 std::ptrdiff_t unsharedLetters(int codingBase, std::string_view previous)
 {
     return codingBase - std::ssize(previous);
@@ -142,8 +147,7 @@ std::optional<Coding> codingOf(const std::string& path)
         const std::string text = readFile(path);
         if (text.empty())
             return std::nullopt;
-        const std::string_view firstLine = std::string_view(text).substr(0, text.find_first_of("\r\n"));
-        return isMaintainedHeader(firstLine) ? Coding::Maintained : Coding::Plain;
+        return beginsWithHeader(text) ? Coding::Maintained : Coding::Plain;
     } catch (const FileError&) {
         return std::nullopt;
     }
@@ -184,6 +188,15 @@ MaintainedWords decodeMaintained(std::string_view text, Coding coding)
     }
     decoded.codingBase = decoder.codingBase();
     return decoded;
+}
+
+WordList wordsIn(std::string text)
+{
+    if (!beginsWithHeader(text))
+        return WordList::ofLines(std::move(text));
+    const MaintainedWords decoded = decodeMaintained(text);
+    const std::vector<std::string_view> words(decoded.words.begin(), decoded.words.end());
+    return WordList::of(words);
 }
 
 } // namespace lexigrove

@@ -93,4 +93,7 @@ struct MaintainedWords {
 /// than 64 MiB in all (a file of a few hundred kilobytes could otherwise exhaust the memory).
 MaintainedWords decodeMaintained(std::string_view text, Coding coding = Coding::Maintained);
 
+/// The words of a dictionary file, plain or maintained. Throws FormatError, or std::length_error above 250,000 lines.
+WordList wordsIn(std::string text);
+
 } // namespace lexigrove

@@ -90,7 +90,7 @@ void DictionaryMaintenance::spellCheck()
 
 void DictionaryMaintenance::addWord()
 {
-    const std::optional<LevelFiles> files = filesToChange();
+    std::optional<LevelFiles> files = filesToChange();
     if (!files)
         return;
     const std::string sought = upperCase(ascii::trimmed(Text1));
@@ -127,7 +127,7 @@ void DictionaryMaintenance::addWord()
 
 void DictionaryMaintenance::removeWord()
 {
-    const std::optional<LevelFiles> files = filesToChange();
+    std::optional<LevelFiles> files = filesToChange();
     if (!files)
         return;
     const std::string removed = upperCase(ascii::trimmed(Text1));
@@ -173,8 +173,8 @@ bool DictionaryMaintenance::restorePlainList()
 
 bool DictionaryMaintenance::makePlain(Stages stages)
 {
-    const std::optional<LevelFiles> files = chosenFiles();
-    if (!files)
+    std::optional<LevelFiles> files = chosenFiles();
+    if (!files || !takeTurn(*files))
         return false;
     Rewrite rewrite{.coding = Coding::Plain,
                     .stages = stages,
@@ -228,7 +228,35 @@ std::optional<DictionaryMaintenance::LevelFiles> DictionaryMaintenance::filesToC
         dialogs_.message(dictionary_.codedLinesNotice());
         return {};
     }
+    if (files && !takeTurn(*files))
+        return {};
     return files;
+}
+
+/// Waits for the turn with the file. If another game has rewritten it, its words are read again.
+bool DictionaryMaintenance::takeTurn(LevelFiles& files)
+{
+    try {
+        const BusyPointer busy(screen_);
+        files.turn.emplace(files.path, LockFile::Goes);
+        const FileVersion version = versionOf(files.path);
+        if (version == dictionary_.wordsRead || dictionary_.holdsCodedLines())
+            return true;
+        dictionary_.words = wordsIn(readFile(files.path));
+        dictionary_.wordsRead = version;
+        return true;
+    } catch (const FileError& error) {
+        dialogs_.message(error.what());
+    } catch (const std::exception& error) {
+        dialogs_.message(FileError(error.what(), files.path, 0).what());
+    }
+    return false;
+}
+
+void DictionaryMaintenance::endTurn(LevelFiles& files)
+{
+    dictionary_.wordsRead = versionOf(files.path);
+    files.turn.reset();
 }
 
 /// Copies the sorted items into the word array, unless the file could not hold the resulting words; this is checked

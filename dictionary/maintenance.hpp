@@ -7,6 +7,7 @@
 #include "platform/dialogs.hpp"
 #include "platform/screen.hpp"
 #include "platform/status_line.hpp"
+#include "platform/text_file.hpp"
 
 #include <array>
 #include <optional>
@@ -50,6 +51,9 @@ inline constexpr std::string_view plainListQuestion =
 
 /// The window "Dictionary Maintenance": lists the words of the loaded level, checks, adds and removes words, and
 /// rewrites the level's file. Each operation runs to its end and shows its messages on the way.
+///
+/// Several games may change the words of one folder: each has its turn from reading the file to verifying it, and
+/// changes the words that it finds there.
 ///
 /// A file is backed up before it is rewritten and is replaced whole. If reading or writing fails, the operation ends
 /// with one message (the failure, the file, the system's reason); the level file is unchanged and the backup is left
@@ -112,6 +116,7 @@ private:
         std::string name;   ///< as the file table gives it, for messages
         std::string path;   ///< its full path
         std::string backup; ///< its full path
+        std::optional<FileLock> turn = {};
     };
 
     /// Whether each stage of a rewrite has its message.
@@ -138,14 +143,16 @@ private:
     [[nodiscard]] std::array<Option*, 3> options() { return {&Option1, &Option2, &Option3}; }
     [[nodiscard]] std::optional<LevelFiles> chosenFiles();
     [[nodiscard]] std::optional<LevelFiles> filesToChange();
+    bool takeTurn(LevelFiles& files);
+    void endTurn(LevelFiles& files);
     bool changeWords(std::span<const std::string_view> items, int count, Rewrite& rewrite, const LevelFiles& files);
     bool makePlain(Stages stages);
     bool readAsPlainList(const LevelFiles& files, Rewrite& rewrite);
     void tellStage(const Rewrite& rewrite, const std::string& text);
-    bool rewriteFile(const LevelFiles& files, const Rewrite& rewrite);
-    bool readBack(const LevelFiles& files, const Rewrite& rewrite, const std::string& oldText);
+    bool rewriteFile(LevelFiles& files, const Rewrite& rewrite);
+    bool readBack(LevelFiles& files, const Rewrite& rewrite, const std::string& oldText);
     [[nodiscard]] std::optional<Difference> verify(const LevelFiles& files, const Rewrite& rewrite);
-    void restore(const LevelFiles& files, const Rewrite& rewrite, const std::string& oldText);
+    [[nodiscard]] std::string restore(const LevelFiles& files, const Rewrite& rewrite, const std::string& oldText);
 
     Dictionary& dictionary_;
     Dialogs& dialogs_;

@@ -222,6 +222,15 @@ FileError::FileError(const std::string& failure, const std::string& path, int er
 {
 }
 
+FileVersion versionOf(const std::string& path)
+{
+    struct stat status = {};
+    if (::stat(path.c_str(), &status) != 0)
+        return {};
+    return {status.st_ino, static_cast<std::uint64_t>(status.st_size),
+            std::int64_t{status.st_ctim.tv_sec} * 1'000'000'000 + status.st_ctim.tv_nsec};
+}
+
 std::string readFile(const std::string& path, std::size_t largest)
 {
     // A pipe without a writer would not open, so it is opened without waiting. A regular file never waits.
@@ -320,33 +329,48 @@ void copyFile(const std::string& source, const std::string& target)
     replaceFile(target, readFile(source));
 }
 
-FileLock::FileLock(const std::string& path)
-    : descriptor_(::open((path + ".lock").c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK, 0666))
+namespace
 {
-    if (descriptor_ < 0) // created by another user of the folder; read access is enough for a lock
-        descriptor_ = ::open((path + ".lock").c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
-    if (descriptor_ < 0)
-        return;
-    // The file names the process that holds it, for whoever waits.
-    std::string holder = std::to_string(::getpid()) + '\n';
-    if (lockExclusively(descriptor_)) {
-        (void)!::pwrite(descriptor_, holder.data(), holder.size(), 0);
-        return;
-    }
-    holder.assign(20, '\0');
-    (void)!::pread(descriptor_, holder.data(), holder.size(), 0);
-    release();
-    throw FileError("It is the turn of another game, process " +
-                        holder.substr(0, holder.find_first_not_of("0123456789")) +
-                        "; try again when it is done with the file",
-                    path, 0);
+
+/// The process that holds a lock writes its number into the file, for whoever waits.
+std::string holderOf(int descriptor)
+{
+    std::string holder(20, '\0');
+    (void)!::pread(descriptor, holder.data(), holder.size(), 0);
+    return holder.substr(0, holder.find_first_not_of("0123456789"));
 }
 
-// The lock file is kept. Deleting it would let two games lock different files.
+} // namespace
+
+FileLock::FileLock(const std::string& path, LockFile file) : path_(path + ".lock"), file_(file)
+{
+    constexpr int flags = O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK;
+    do {
+        release();
+        descriptor_ = ::open(path_.c_str(), O_RDWR | O_CREAT | flags, 0666);
+        if (descriptor_ < 0) // created by another user of the folder; read access is enough for a lock
+            descriptor_ = ::open(path_.c_str(), O_RDONLY | flags);
+        if (descriptor_ < 0)
+            return;
+        if (!lockExclusively(descriptor_)) {
+            const std::string holder = holderOf(descriptor_);
+            ::close(std::exchange(descriptor_, -1));
+            throw FileError("It is the turn of another game, process " + holder +
+                                "; try again when it is done with the file",
+                            path, 0);
+        }
+    } while (!isSameFile(descriptor_, path_)); // it went with the turn before
+    const std::string holder = std::to_string(::getpid()) + '\n';
+    (void)!::pwrite(descriptor_, holder.data(), holder.size(), 0);
+}
+
 void FileLock::release()
 {
-    if (descriptor_ >= 0)
-        ::close(std::exchange(descriptor_, -1));
+    if (descriptor_ < 0)
+        return;
+    if (file_ == LockFile::Goes && isSameFile(descriptor_, path_))
+        ::unlink(path_.c_str());
+    ::close(std::exchange(descriptor_, -1));
 }
 
 } // namespace lexigrove

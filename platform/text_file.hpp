@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -20,6 +21,17 @@ public:
 
 /// More than any file of the game holds.
 inline constexpr std::size_t largestFile = std::size_t{64} << 20;
+
+/// Tells without reading them whether a file's contents are the same as before: every write and replacement changes it.
+struct FileVersion {
+    std::uint64_t file = 0;
+    std::uint64_t size = 0;
+    std::int64_t changed = 0; ///< nanoseconds
+
+    bool operator==(const FileVersion&) const = default;
+};
+/// All 0 for no file.
+FileVersion versionOf(const std::string& path);
 
 /// The whole file, byte for byte. Throws FileError, also for what is no regular file and for one of more than `largest`
 /// bytes, before it takes any memory for them.
@@ -46,22 +58,30 @@ void replaceLines(const std::string& path, const std::vector<std::string>& lines
 /// Replaces `target` with a copy of `source`, whole or not at all.
 void copyFile(const std::string& source, const std::string& target);
 
+/// Whether the file that a lock is held on goes with it or stays in the folder.
+enum class LockFile { Goes, Stays };
+
 /// Holds an exclusive lock on "<path>.lock" until the end of the scope, so that running games take turns with the file.
 /// In a folder that is not writable it silently holds nothing. Throws FileError if the turn of another does not end
 /// within some seconds; so does a second lock on the same file within one process.
 class FileLock
 {
 public:
-    explicit FileLock(const std::string& path);
+    explicit FileLock(const std::string& path, LockFile file = LockFile::Stays);
     ~FileLock() { release(); }
-    FileLock(FileLock&& other) noexcept : descriptor_(std::exchange(other.descriptor_, -1)) {}
+    FileLock(FileLock&& other) noexcept
+        : path_(std::move(other.path_)), file_(other.file_), descriptor_(std::exchange(other.descriptor_, -1))
+    {
+    }
     FileLock(const FileLock&) = delete;
     FileLock& operator=(const FileLock&) = delete;
 
-    void release(); ///< ends the turn before the scope does
-
 private:
-    int descriptor_;
+    void release();
+
+    std::string path_;
+    LockFile file_;
+    int descriptor_ = -1;
 };
 
 } // namespace lexigrove

@@ -4,6 +4,8 @@
 #include <gmock/gmock.h>
 #include <rapidcheck.h>
 #include <set>
+#include <sys/wait.h>
+#include <unistd.h>
 
 using namespace lexigrove;
 using testing::ElementsAre;
@@ -168,11 +170,51 @@ TEST_F(MaintenanceTest, WhatReadsBackOtherwiseIsUndone)
     };
     remove("DOG");
     EXPECT_EQ(messages.back(), "file restored " + file);
+    dialogs.at["Error"] = [&] {
+        EXPECT_NE(readFile(file), "CAT\r\nDOG\r\n");
+        throw Leaving{};
+    };
+    EXPECT_THROW(add("FOX"), Leaving);
+    EXPECT_EQ(readFile(file), "CAT\r\nDOG\r\n");
+    dialogs.at.erase("Error");
     EXPECT_EQ(readFile(file), "CAT\r\nDOG\r\n");
     dialogs.at["File compressed"] = [&] { fs::remove(file); };
     add("FOX");
     EXPECT_EQ(messages.back(), "Cannot open the file\n" + file + "\nNo such file or directory");
     EXPECT_EQ(readFile(file), "CAT\r\nDOG\r\n");
+}
+
+// Guards two games on one folder: what each was told is so, and no game undoes the other's change.
+TEST_F(MaintenanceTest, TwoGamesChangeTheSameWords)
+{
+    const std::vector<std::string> words = countedWords(70);
+    const auto some = [&](int from, int to) { return std::vector(words.begin() + from, words.begin() + to); };
+    load(1, some(0, 20));
+    const auto inAnotherGame = [&](const std::vector<std::string>& added, const std::vector<std::string>& removed) {
+        const pid_t child = ::fork();
+        if (child != 0)
+            return child;
+        int done = 0;
+        dialogs.at[""] = [&] {
+            const std::string& text = messages.back();
+            done += text.ends_with(" to " + levelFile(1)) || text.ends_with(" from " + levelFile(1)) ? 1 : 0;
+        };
+        for (std::size_t i = 0; i < added.size(); ++i) {
+            add(added[i]);
+            if (i < removed.size())
+                remove(removed[i]);
+        }
+        ::_exit(done);
+    };
+    const pid_t games[] = {inAnotherGame(some(20, 50), {}), inAnotherGame(some(40, 70), some(0, 10))};
+    int done = 0;
+    for (const pid_t game : games) {
+        int end = 0;
+        ASSERT_EQ(::waitpid(game, &end, 0), game);
+        done += WEXITSTATUS(end);
+    }
+    EXPECT_EQ(done, 60) << "50 new words, some of them wanted by both games, and 10 removed";
+    EXPECT_EQ(wordsInFile(1), some(10, 70));
 }
 
 // Neither leaving the program at a message nor a file that cannot be written costs the level file or the backup; and a
