@@ -136,7 +136,8 @@ void GameFlow::offerEndIfNoWordIsLeft()
     if (!inGame_ || ended_ || noWordLeft_ || letterWaits || p.game.state.computerGame)
         return;
     try {
-        noWordLeft_ = p.search.sweep(snapshotOf(board), p.dictionary.words).count() == 0;
+        noWordLeft_ =
+            p.search.sweep(snapshotOf(board), p.dictionary.words, [&p] { p.ports.screen.yield(); }).count() == 0;
     } catch (const std::exception&) {
         return; // a board with too many words to count
     }

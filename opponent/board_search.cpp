@@ -34,8 +34,11 @@ TracedWord BoardSearch::traceWord(const SearchBoard& board, std::string_view wor
     return traced;
 }
 
-const CandidateList& BoardSearch::sweep(const SearchBoard& board, const WordList& words)
+const CandidateList& BoardSearch::sweep(const SearchBoard& board, const WordList& words,
+                                        const std::function<void()>& meanwhile)
 {
+    meanwhile_ = meanwhile;
+    pathsSeen_ = 0;
     if (!words_.isCopyOf(words)) {
         trie_.build(words);
         words_ = words;
@@ -50,11 +53,23 @@ const CandidateList& BoardSearch::sweep(const SearchBoard& board, const WordList
     return candidates_;
 }
 
+Frontier BoardSearch::extend(const Frontier& paths, char letter)
+{
+    constexpr std::size_t many = std::size_t{1} << 22; // some 50 ms of work; a whole sweep of English words sees less
+    pathsSeen_ += paths.end - paths.begin;
+    if (pathsSeen_ > many) {
+        pathsSeen_ = 0;
+        if (meanwhile_)
+            meanwhile_();
+    }
+    return board_.extend(paths, letter);
+}
+
 /// Continues from the paths that spell a node to those children whose letter is next to the end of a path.
 void BoardSearch::visitChildren(WordTrie::Node parent, const Frontier& paths, int length, int score)
 {
     const auto visit = [&](WordTrie::Node node, char letter, int letterScore) {
-        const Frontier longer = board_.extend(paths, letter);
+        const Frontier longer = extend(paths, letter);
         if (longer.empty())
             return;
         if (trie_.endsWord(node))

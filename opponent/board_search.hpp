@@ -6,7 +6,8 @@
 #include "opponent/spelling_board.hpp"
 #include "opponent/word_trie.hpp"
 
-#include <cstdint>
+#include <cstddef>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -38,18 +39,26 @@ public:
     ///
     /// The first sweep over a list prepares its words, in a few milliseconds for 200,000. Later sweeps allocate only if
     /// a board has more words or paths than any before, and more than English words ever have.
-    const CandidateList& sweep(const SearchBoard& board, const WordList& words);
+    ///
+    /// Lists of long runs of one letter, on a board full of it, can take minutes: then `meanwhile` is called again and
+    /// again, and may throw to end the search. No English words get that far. Throws std::length_error if one word can
+    /// be spelled in too many ways; the candidates are then of no use.
+    const CandidateList& sweep(const SearchBoard& board, const WordList& words,
+                               const std::function<void()>& meanwhile = {});
 
     /// List 3: what the last sweep found.
     [[nodiscard]] const CandidateList& candidates() const { return candidates_; }
 
 private:
+    Frontier extend(const Frontier& paths, char letter);
     void visitChildren(WordTrie::Node parent, const Frontier& paths, int length, int score);
 
     WordList words_; ///< the list that the tree was made from
     WordTrie trie_;
     SpellingBoard board_;
     CandidateList candidates_;
+    std::size_t pathsSeen_ = 0;       ///< since `meanwhile_` was called
+    std::function<void()> meanwhile_; ///< of the sweep that runs
 };
 
 } // namespace lexigrove

@@ -3,6 +3,7 @@
 #include "game/position.hpp"
 
 #include <algorithm>
+#include <exception>
 #include <string_view>
 #include <vector>
 
@@ -14,10 +15,13 @@ void ComputerTurn::take()
     GameState& state = game_.state;
     if (state.computerTurnInProgress)
         return;
-    {
+    try {
         const BusyPointer busy(game_.ports.screen);
         begin();
-        search_.sweep(snapshotOf(game_.board), knownWords());
+        search_.sweep(snapshotOf(game_.board), knownWords(), [this] { game_.ports.screen.yield(); });
+    } catch (const std::exception&) { // the search has failed, and the player moves again
+        end();
+        throw;
     }
     const CandidateList& candidates = search_.candidates();
     if (candidates.count() < 1) {
@@ -90,6 +94,8 @@ void ComputerTurn::play()
 {
     const std::string word = game_.selection.word();
     const int score = letterSum(word);
+    for (const int tile : game_.selection.tiles())
+        game_.state.redTilesOnBoard -= game_.board.maskcolor(tile) == multiplier::red ? 1 : 0;
     game_.state.turns.push_back(turnOf(game_, Maker::Computer));
     game_.state.turns.back().score = score;
     game_.removal.removePathTiles();

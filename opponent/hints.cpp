@@ -1,6 +1,7 @@
 #include "opponent/hints.hpp"
 
 #include <algorithm>
+#include <exception>
 
 namespace lexigrove
 {
@@ -20,12 +21,17 @@ int hintPrice(int level)
 void Hints::getHint()
 {
     GameState& state = game_.state;
+    const int scoreBefore = state.yourScore;
     if (state.computerTurnInProgress || !pay())
         return;
 
-    {
+    try {
         const BusyPointer busy(game_.ports.screen);
-        search_.sweep(snapshotOf(game_.board), game_.dictionary.words);
+        search_.sweep(snapshotOf(game_.board), game_.dictionary.words, [this] { game_.ports.screen.yield(); });
+    } catch (const std::exception&) { // the search has failed: nothing was sold
+        state.yourScore = scoreBefore;
+        state.redTileHold = false;
+        throw;
     }
     const CandidateList& candidates = search_.candidates();
     if (candidates.count() == 0) {

@@ -111,6 +111,33 @@ TEST(ComputerGames, TheComputerKnowsNoMoreThanWasChosen)
     EXPECT_EQ(kept.position, played.flow.position());
 }
 
+// Guards a dead board, a stopped clock and a price for nothing after a search with too many ways, and a window that
+// cannot be left while a search takes long.
+TEST(ComputerGames, ASearchThatFailsOrTakesLongIsNoTrap)
+{
+    PlayedGame played("EE\r\nEEEEEEEE\r\nEEEEEEEEX\r\n" + std::string(24, 'E') + "\r\n");
+    played.choose(&OptionsForm::Check1);
+    played.start(Arrangement::Square);
+    played.study.set(&GameState::yourScore, 100);
+    played.dialogs.messages.clear();
+    played.flow.perform(Command::EnterWord);
+    played.flow.perform(Command::GetHint);
+    const std::string failure = "There are too many ways to spell one word on this board";
+    EXPECT_EQ(played.dialogs.messages, (std::vector<std::string>{failure, failure}));
+    EXPECT_FALSE(played.state.computerTurnInProgress);
+    EXPECT_EQ(played.state.prompt, Prompt::YourMove);
+    EXPECT_EQ(played.state.yourScore, 100);
+    EXPECT_FALSE(played.state.redTileHold);
+    EXPECT_GT(played.screen.yields, 10);
+
+    played.screen.onYield = [&] {
+        if (played.state.computerTurnInProgress)
+            throw Leaving{};
+    };
+    played.flow.perform(Command::EnterWord);
+    EXPECT_TRUE(played.flow.ended());
+}
+
 // Guards the quiet of a relaxed game: no red tile, no push, no score, no record.
 TEST(ComputerGames, ARelaxedGameIsQuiet)
 {

@@ -25,10 +25,15 @@ public:
     bool busy = false;
     int mostLocks = 0;
     std::string clipboard;
+    std::function<void()> onYield = [] {};
     std::function<void()> onStep = [] {};
     std::function<void()> onWait = [] {};
 
-    void yield() override { ++yields; }
+    void yield() override
+    {
+        ++yields;
+        onYield();
+    }
     void animationStep(int /*rounds*/) override { onStep(); }
     void setBusyPointer(bool nowBusy) override
     {

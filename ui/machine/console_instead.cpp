@@ -25,6 +25,7 @@ QStringList messages;
         "in place of the window.\n",
         messages.isEmpty() ? "" : qPrintable(" (" + messages.first() + ")"));
     std::vector<char*> arguments;
+    arguments.reserve(consoleCommand.size() + 1);
     for (std::string& argument : consoleCommand)
         arguments.push_back(argument.data());
     arguments.push_back(nullptr);
