@@ -7,6 +7,7 @@
 #include "ui/game_windows.hpp"
 #include "ui/look/text.hpp"
 #include "ui/machine/host.hpp"
+#include "word_services/meaning_services.hpp"
 
 #include <QApplication>
 #include <QDialog>
@@ -75,6 +76,6 @@ int main(int argumentCount, char** arguments)
         measure(dictionary.words, *host.gate.onTop());
         host.gate.onTop()->close();
     });
-    GameWindows(host).show(form);
+    GameWindows(host, MeaningServices(folder.prefix())).show(form);
     return 0;
 }

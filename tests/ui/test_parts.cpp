@@ -137,7 +137,7 @@ TEST(BrowserRules, OnlyWhatAViewIsForIsAllowed)
 TEST(PageView, WithoutTheEngineTheViewSaysSo)
 {
     const TemporaryFolder empty;
-    BrowserLoader loader({QString::fromStdString(empty.path())});
+    BrowserLoader loader({}, {QString::fromStdString(empty.path())});
     BrowserView view(loader, BrowserRules::forServices("https://words.example"));
     view.navigate(QUrl("https://words.example/CAT"));
     const QString text = view.findChild<QLabel*>("Failure")->text();

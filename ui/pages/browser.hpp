@@ -43,6 +43,7 @@ struct BrowserPageSetup {
     QColor background;                ///< behind a page that is not painted yet
     double zoom = 1;                  ///< the size of the game's text as a multiple of the usual one
     std::function<void(bool)> loaded; ///< called with whether a page could be loaded
+    std::function<void()> died;       ///< called if the page's process has ended
 };
 
 /// The web engine, in a separate module, so that a game that shows no page does not load it.
@@ -58,18 +59,20 @@ public:
 class BrowserLoader
 {
 public:
-    /// `folders` are searched for the module in order; by default these are beside the executables and where it is
-    /// installed.
-    explicit BrowserLoader(QStringList folders = moduleFolders());
+    /// Pages reach the `services` (addresses, "https://host") wherever they are. `folders` are searched for the module
+    /// in order; by default these are beside the executables and where it is installed.
+    explicit BrowserLoader(QStringList services, QStringList folders = moduleFolders());
 
-    /// Whether the module is there at all: it is a package of its own.
-    [[nodiscard]] bool isInstalled() const;
+    /// Whether strangers' pages may be shown here: the module, a package of its own, is there, and the kernel lets the
+    /// engine have its sandbox. As root it goes without one.
+    [[nodiscard]] bool isUsable() const;
 
     /// A page, or null if the module cannot be loaded; `failure` then says why.
     [[nodiscard]] std::unique_ptr<BrowserPage> newPage(const BrowserPageSetup& setup);
     [[nodiscard]] const QString& failure() const { return failure_; }
 
 private:
+    QStringList services_;
     QStringList folders_;
     QString failure_;
     BrowserModule* module_ = nullptr;

@@ -1,6 +1,8 @@
 #include "ui/pages/browser.hpp"
 
 #include <QAuthenticator>
+#include <QChildEvent>
+#include <QDialog>
 #include <QFileInfo>
 #include <QLoggingCategory>
 #include <QOpenGLContext>
@@ -21,8 +23,6 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <sched.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 namespace lexigrove
@@ -31,30 +31,15 @@ namespace lexigrove
 namespace
 {
 
-/// Whether the kernel lets this user's processes create namespaces, which the sandbox needs.
-bool kernelAllowsSandbox()
-{
-    const pid_t child = fork();
-    if (child == 0)
-        _exit(unshare(CLONE_NEWUSER) == 0 && unshare(CLONE_NEWPID | CLONE_NEWNET) == 0 ? 0 : 1);
-    int status = 0;
-    return child > 0 && waitpid(child, &status, 0) == child && WIFEXITED(status) && WEXITSTATUS(status) == 0;
-}
-
-/// Turns the sandbox off only where the engine would not start with it.
+/// The engine does not start with its sandbox as root.
 void decideOnSandbox()
 {
-    const char* reason = nullptr;
-    if (geteuid() == 0)
-        reason = "the game runs as root";
-    else if (!kernelAllowsSandbox())
-        reason = "the kernel refuses it";
-    if (reason == nullptr) {
+    if (geteuid() != 0) {
         qunsetenv("QTWEBENGINE_DISABLE_SANDBOX");
         return;
     }
     qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
-    std::fprintf(stderr, "LexiGrove: pages are shown without the web engine's sandbox: %s.\n", reason);
+    std::fputs("LexiGrove: pages are shown without the web engine's sandbox: the game runs as root.\n", stderr);
 }
 
 /// OpenGL contexts would slow every start of the game, page or no page. Without them the engine shows nothing unless
@@ -85,6 +70,21 @@ public:
 
 private:
     BrowserRules rules_;
+};
+
+/// A view in which no dialog of the engine opens, such as the one for colours.
+class GuardedView : public QWebEngineView
+{
+protected:
+    /// A dialog is about to be shown.
+    void childEvent(QChildEvent* event) override
+    {
+        auto* const dialog = qobject_cast<QDialog*>(event->child());
+        if (event->type() != QEvent::ChildPolished || dialog == nullptr)
+            return;
+        dialog->setAttribute(Qt::WA_DontShowOnScreen);
+        QMetaObject::invokeMethod(dialog, &QDialog::reject, Qt::QueuedConnection);
+    }
 };
 
 /// A page that asks the player nothing and opens no other windows.
@@ -170,6 +170,19 @@ QWebEngineScript colouring(const PageColours& colours)
     return script;
 }
 
+/// The script that takes the clipboard from a page's own scripts, which the engine lets write to it after any click.
+/// The player still copies what is selected.
+QWebEngineScript withoutClipboard()
+{
+    QWebEngineScript script;
+    script.setInjectionPoint(QWebEngineScript::DocumentCreation);
+    script.setWorldId(QWebEngineScript::MainWorld);
+    script.setRunsOnSubFrames(true);
+    script.setSourceCode("Object.defineProperty(Document.prototype, 'execCommand', {value: () => false});"
+                         "Object.defineProperty(Navigator.prototype, 'clipboard', {value: undefined});");
+    return script;
+}
+
 /// One view with its own profile, which lives only in memory and ends with it.
 class EnginePage : public BrowserPage
 {
@@ -183,9 +196,14 @@ public:
         QObject::connect(&profile_, &QWebEngineProfile::downloadRequested, &profile_,
                          [](QWebEngineDownloadRequest* download) { download->cancel(); });
         setLimits(*page_.settings());
+        profile_.scripts()->insert(withoutClipboard());
         page_.setBackgroundColor(setup.background);
         if (setup.loaded)
             QObject::connect(&page_, &QWebEnginePage::loadFinished, &page_, setup.loaded);
+        QObject::connect(&page_, &QWebEnginePage::renderProcessTerminated, &page_, [died = setup.died](auto status) {
+            if (died && status != QWebEnginePage::NormalTerminationStatus)
+                died();
+        });
         view_.setContextMenuPolicy(Qt::NoContextMenu);
         view_.setAcceptDrops(false);
         view_.setPage(&page_);
@@ -219,7 +237,7 @@ private:
     QWebEngineProfile profile_;
     GuardedPage page_;
     bool scripts_;
-    QWebEngineView view_;
+    GuardedView view_;
 };
 
 } // namespace

@@ -63,4 +63,20 @@ bool BrowserRules::allowsFile(const BrowserRequest& request) const
            file.canonicalFilePath().startsWith(realFolder(localPage_));
 }
 
+QString engineOptions(const QStringList& services)
+{
+    QStringList refused{"localhost", "*.localhost", "*.local", "[::*",  "[fc*",      "[fd*",
+                        "[fe80:*",   "0.*",         "10.*",    "127.*", "169.254.*", "192.168.*"};
+    for (int net = 16; net <= 31; ++net)
+        refused += QString("172.%1.*").arg(net);
+    QStringList rules;
+    for (const QString& pattern : refused)
+        rules += "MAP " + pattern + " ~NOTFOUND";
+    for (const QString& service : services)
+        rules += "EXCLUDE " + QUrl(service).host();
+    const char* const calls = "ip-handling-policy=disable_non_proxied_udp";
+    return QString("--host-resolver-rules=\"%1\" --force-webrtc-%2 --webrtc-%2 --js-flags=--max-old-space-size=256")
+        .arg(rules.join(','), calls);
+}
+
 } // namespace lexigrove

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <QUrl>
 
 namespace lexigrove
@@ -35,5 +36,11 @@ private:
     QString localPage_;
     bool isServiceLocal_ = false; ///< on this machine
 };
+
+/// Options for the engine's command line, which hold for all pages. A request that the rules allow may be redirected to
+/// another address before they are asked again, so no name is resolved that stands for this machine or its private
+/// network, but for those of `services` (addresses, "https://host"). Calls between browsers, which no rule sees, go
+/// nowhere, and a page's scripts have 256 MiB.
+QString engineOptions(const QStringList& services);
 
 } // namespace lexigrove

@@ -55,7 +55,7 @@ void BrowserView::navigate(const QUrl& address)
     const auto pointer = qScopeGuard([] { QGuiApplication::restoreOverrideCursor(); });
     wanted_ = address;
     if (!page_ && !openPage()) {
-        showFailure(address);
+        showFailure("The page cannot be shown here:\n" + loader_.failure());
         return;
     }
     page_->widget()->show();
@@ -65,9 +65,18 @@ void BrowserView::navigate(const QUrl& address)
 bool BrowserView::openPage()
 {
     const auto emitLoaded = [this](bool success) { emit loaded(success); };
-    page_ = !loader_.isInstalled() && wanted_.isLocalFile()
+    const auto giveUp = [this] { // the page ends after its own signal
+        QMetaObject::invokeMethod(
+            this,
+            [this] {
+                close();
+                showFailure("The page has stopped working.");
+            },
+            Qt::QueuedConnection);
+    };
+    page_ = !loader_.isUsable() && wanted_.isLocalFile()
                 ? newTextPage()
-                : loader_.newPage({rules_, palette().color(QPalette::Window), Theme::textScale(), emitLoaded});
+                : loader_.newPage({rules_, palette().color(QPalette::Window), Theme::textScale(), emitLoaded, giveUp});
     if (!page_)
         return false;
     failure_->hide();
@@ -78,10 +87,9 @@ bool BrowserView::openPage()
     return true;
 }
 
-void BrowserView::showFailure(const QUrl& address)
+void BrowserView::showFailure(const QString& reason)
 {
-    reason_->setText(QString("The page cannot be shown here:\n%1\n\n%2")
-                         .arg(loader_.failure(), address.toDisplayString(QUrl::PreferLocalFile)));
+    reason_->setText(reason + "\n\n" + wanted_.toDisplayString(QUrl::PreferLocalFile));
     failure_->show();
 }
 

@@ -10,8 +10,9 @@
 namespace lexigrove
 {
 
-/// Shows pages of the web engine. The engine is loaded with the first page; if that fails, the view says so instead and
-/// offers the system's browser. Where the engine is not installed, a local page is shown by the toolkit.
+/// Shows pages of the web engine. The engine is loaded with the first page; if that fails, or a page's process ends,
+/// the view says so instead and offers the system's browser. Where the engine cannot be used, a local page is shown by
+/// the toolkit.
 class BrowserView : public QWidget
 {
     Q_OBJECT
@@ -40,7 +41,7 @@ signals:
 
 private:
     [[nodiscard]] bool openPage();
-    void showFailure(const QUrl& address);
+    void showFailure(const QString& reason);
 
     BrowserLoader& loader_;
     BrowserRules rules_;

@@ -37,7 +37,7 @@ public:
 
 void GameWindows::show(const MeaningForm& form)
 {
-    if (!browser_->isInstalled()) {
+    if (!browser_->isUsable()) {
         QDesktopServices::openUrl(QUrl(toQString(form.address)));
         return;
     }
