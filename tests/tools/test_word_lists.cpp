@@ -112,7 +112,7 @@ TEST_F(WordLists, MissingOrDamagedSourcesAreNamed)
     const TemporaryFolder empty;
     const std::string folder = empty.path();
     EXPECT_THAT(errorOf([&] { readScowl(folder); }),
-                testing::AllOf(HasSubstr("scowl"), HasSubstr("LEXIGROVE_WORDS_DIR")));
+                testing::AllOf(HasSubstr("scowl"), HasSubstr("LEXIGROVE_WORD_SOURCES")));
     EXPECT_THAT(errorOf([&] { readWordNet(folder); }), HasSubstr("wordnet-base"));
     EXPECT_THAT(errorOf([&] { readWordCounts(folder + "/none"); }), HasSubstr("pocketsphinx-en-us"));
 

@@ -122,10 +122,8 @@ void requireLists(const std::string& folder)
         for (const int size : {10, 20, 35, 40, 50, 55, 60, 70, 80}) {
             const fs::path list = fs::path(folder) / (std::string(spelling) + "-words." + std::to_string(size));
             if (!fs::is_regular_file(list))
-                throw std::runtime_error(
-                    "The word list " + list.string() +
-                    " is missing. Install Debian's package scowl, or name the folder of another copy "
-                    "with -DLEXIGROVE_WORDS_DIR.");
+                throw std::runtime_error("The word list " + list.string() +
+                                         " is missing. Install Debian's package scowl, or see LEXIGROVE_WORD_SOURCES.");
         }
     }
 }

@@ -77,7 +77,7 @@ WordCounts readWordCounts(const std::string& path)
     } catch (const FileError&) {
         throw std::runtime_error("The word counts in " + path +
                                  " cannot be read. Install Debian's package "
-                                 "pocketsphinx-en-us, or name another copy with -DLEXIGROVE_COUNTS_FILE.");
+                                 "pocketsphinx-en-us, or see LEXIGROVE_WORD_SOURCES.");
     }
     const Bytes bytes(file, path);
     if (!file.starts_with(magic))

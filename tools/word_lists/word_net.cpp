@@ -113,8 +113,8 @@ private:
         std::ifstream file(folder_ + "/" + name);
         if (!file)
             throw std::runtime_error("WordNet's file " + folder_ + "/" + name +
-                                     " cannot be read. Install Debian's package wordnet-base, or name another copy "
-                                     "with -DLEXIGROVE_WORDNET_DIR.");
+                                     " cannot be read. Install Debian's package wordnet-base, or see "
+                                     "LEXIGROVE_WORD_SOURCES.");
         return file;
     }
 
