@@ -288,7 +288,7 @@ void GameFlow::offerCorrectedList()
         p.ports.dialogs.offer(fault + "\r\n\r\nPlay with a corrected copy? It is written beside the list, as " +
                               std::filesystem::path(copy).filename().string() + ".")) {
         try {
-            writeCorrected(p.dictionary.path(0), p.folder / std::filesystem::path(copy));
+            writeCorrected(p.dictionary.path(0), (p.folder / std::filesystem::path(copy)).string());
             p.options.UsrDictName.Text = p.options.UsrDictName.ToolTipText = copy;
             p.dictionary.applyChoice(0, copy);
             readDictionary();

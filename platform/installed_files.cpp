@@ -180,7 +180,7 @@ std::string takeOverFiles(const std::string& earlier, const std::string& target)
         if (entry != manifest.end() && entry->second.sum == checksumOf(content))
             continue; // the game's own
         if (name == "Lexigrove.cfg")
-            replaceAll(content, fs::path(earlier) / "", fs::path(target) / "");
+            replaceAll(content, (fs::path(earlier) / "").string(), (fs::path(target) / "").string());
         const fs::path present = fs::path(target) / name;
         if (!fs::exists(present))
             writeBelow(target, name, content);
@@ -195,7 +195,7 @@ std::string takeOverFiles(const std::string& earlier, const std::string& target)
 void copyFiles(const std::string& source, const std::string& target)
 {
     for (const fs::path& name : filesBelow(source)) {
-        if (access((fs::path(source) / name).c_str(), R_OK) == 0)
+        if (access((fs::path(source) / name).string().c_str(), R_OK) == 0)
             writeBelow(target, name, readFile((fs::path(source) / name).string()));
     }
 }

@@ -1,12 +1,12 @@
 #include "platform/program_folder.hpp"
 
 #include "platform/installed_files.hpp"
+#include "platform/system.hpp"
 #include "platform/text_file.hpp"
 
 #include <cerrno>
 #include <cstdlib>
 #include <filesystem>
-#include <pwd.h>
 #include <system_error>
 #include <unistd.h>
 #include <utility>
@@ -98,22 +98,12 @@ std::string environment(const char* name)
     return value != nullptr ? value : "";
 }
 
-std::string homeFolder()
-{
-    std::string home = environment("HOME");
-    if (!home.empty())
-        return home;
-    const passwd* user = getpwuid(getuid());
-    return user != nullptr && user->pw_dir != nullptr ? user->pw_dir : "";
-}
-
 } // namespace
 
 ProgramFolderRequest programFolderRequest(std::optional<std::string> folderOption)
 {
-    std::error_code ignored;
-    return {std::move(folderOption), fs::read_symlink("/proc/self/exe", ignored).string(), LEXIGROVE_INSTALLED_DATA,
-            environment("XDG_DATA_HOME"), homeFolder()};
+    return {std::move(folderOption), ownExecutable(), LEXIGROVE_INSTALLED_DATA, environment("XDG_DATA_HOME"),
+            homeFolder()};
 }
 
 ProgramFolder::ProgramFolder(const ProgramFolderRequest& request)
@@ -123,7 +113,7 @@ ProgramFolder::ProgramFolder(const ProgramFolderRequest& request)
         return;
     }
     const fs::path own = fs::path(request.executable).parent_path();
-    const bool ownIsGame = !request.executable.empty() && holdsData(own) && access(own.c_str(), W_OK) == 0;
+    const bool ownIsGame = !request.executable.empty() && holdsData(own) && access(own.string().c_str(), W_OK) == 0;
     if (ownIsGame && !holdsData(dataBeside(request))) {
         path_ = withTrailingSlash(own);
         return;
@@ -170,15 +160,14 @@ void ProgramFolder::fillUserFolder(const std::string& earlier)
 void ProgramFolder::fillPassingFolder(const std::string& reason)
 {
     const std::string failure = failureOf([&] {
-        std::string pattern = fs::temp_directory_path() / "lexigrove-XXXXXX";
-        if (mkdtemp(pattern.data()) == nullptr)
+        passing_.path = newTemporaryFolder();
+        if (passing_.path.empty())
             throw ProgramFolderError(reason);
-        passing_.path = pattern;
         if (fs::is_directory(user_))
-            copyFiles(user_, pattern);
+            copyFiles(user_, passing_.path);
         if (!installed_.empty()) {
-            placeFirstFiles(installed_, pattern);
-            syncInstalledFiles(installed_, pattern);
+            placeFirstFiles(installed_, passing_.path);
+            syncInstalledFiles(installed_, passing_.path);
         }
     });
     if (!failure.empty())

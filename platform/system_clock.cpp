@@ -1,5 +1,7 @@
 #include "platform/system_clock.hpp"
 
+#include "platform/system.hpp"
+
 #include <algorithm>
 #include <array>
 #include <chrono>
@@ -13,12 +15,9 @@ namespace
 
 using SystemTime = std::chrono::system_clock;
 
-std::tm localTime(SystemTime::time_point moment)
+std::tm localTimeAt(SystemTime::time_point moment)
 {
-    const std::time_t seconds = SystemTime::to_time_t(moment);
-    std::tm local{};
-    localtime_r(&seconds, &local);
-    return local;
+    return localTime(SystemTime::to_time_t(moment));
 }
 
 std::string formatted(const char* form, const std::tm& time)
@@ -45,7 +44,7 @@ std::string shortTimeOf(const std::tm& time)
 
 std::chrono::year_month_day Clock::today() const
 {
-    const std::tm local = localTime(SystemTime::now());
+    const std::tm local = localTimeAt(SystemTime::now());
     return std::chrono::year(local.tm_year + 1900) / (local.tm_mon + 1) / local.tm_mday;
 }
 
@@ -53,23 +52,23 @@ double SystemClock::secondsSinceMidnight() const
 {
     const SystemTime::time_point now = SystemTime::now();
     const std::chrono::duration<double> fraction = now - std::chrono::floor<std::chrono::seconds>(now);
-    const std::tm local = localTime(now);
+    const std::tm local = localTimeAt(now);
     return local.tm_hour * 3600 + local.tm_min * 60 + std::min(local.tm_sec, 59) + fraction.count();
 }
 
 std::string SystemClock::shortDate() const
 {
-    return shortForm("%x", "%Y-%m-%d", localTime(SystemTime::now()));
+    return shortForm("%x", "%Y-%m-%d", localTimeAt(SystemTime::now()));
 }
 
 std::string SystemClock::shortTime() const
 {
-    return shortTimeOf(localTime(SystemTime::now()));
+    return shortTimeOf(localTimeAt(SystemTime::now()));
 }
 
 std::string FrozenClock::shortTime() const
 {
-    std::tm time = localTime(SystemTime::now());
+    std::tm time = localTimeAt(SystemTime::now());
     const int seconds = static_cast<int>(seconds_);
     time.tm_hour = seconds / 3600;
     time.tm_min = seconds / 60 % 60;
