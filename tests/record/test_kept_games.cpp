@@ -15,48 +15,6 @@ std::string keptText(PlayedGame& played)
     return played.folder.read(savedGame);
 }
 
-/// What a player or a timer may do next. The same number does the same in two games that are the same.
-void step(PlayedGame& played, unsigned seed)
-{
-    std::mt19937 random(seed);
-    GameFlow& flow = played.flow;
-    const auto anyOf = [&](int count) { return 1 + static_cast<int>(random() % static_cast<unsigned>(count)); };
-    played.windows.onHints = [&, row = random()](HintsForm& form) {
-        form.pickRow(1 + static_cast<int>(row % static_cast<unsigned>(form.WordsMade.Rows() - 1)));
-        form.pressSelect();
-    };
-    switch (random() % 12) {
-    case 0:
-        for (int ticks = anyOf(300); ticks > 0; --ticks)
-            flow.tick(Timer::Red);
-        return;
-    case 1:
-        return flow.tick(Timer::Push);
-    case 2:
-    case 3:
-    case 4:
-        flow.perform(Command::ClearWord);
-        played.click(anyWord(played, random));
-        if (random() % 4 != 0)
-            flow.perform(Command::EnterWord);
-        return;
-    case 5:
-    case 6:
-        return flow.drop(anyOf(8));
-    case 7:
-        return flow.clickTile(anyOf(64), random() % 2 == 0 ? MouseButton::Left : MouseButton::Right, random() % 2 == 0);
-    case 8:
-        return flow.typeLetter(static_cast<char>('A' + random() % 26));
-    case 9:
-        return flow.perform(Command::GetHint);
-    case 10:
-        return flow.perform(random() % 2 == 0 ? Command::TakeBack : Command::Statistics);
-    default:
-        flow.sortWordsMade(anyOf(2500));
-        return flow.tick(Timer::Clock);
-    }
-}
-
 /// Guards against anything that decides how a game goes on and is not in its position, or is lost in its text: a game
 /// that was kept goes on as if it had never been left.
 TEST(KeptGames, GoOnAsIfNeverLeft)

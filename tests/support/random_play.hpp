@@ -17,6 +17,52 @@ inline std::vector<int> anyWord(PlayedGame& played, std::mt19937& random)
     return {path.begin(), path.end()};
 }
 
+/// What a player or a timer may do next. The same number does the same in two games that are the same.
+inline void step(PlayedGame& played, unsigned seed)
+{
+    std::mt19937 random(seed);
+    GameFlow& flow = played.flow;
+    const auto anyOf = [&](int count) { return 1 + static_cast<int>(random() % static_cast<unsigned>(count)); };
+    played.windows.onHints = [&, row = random()](HintsForm& form) {
+        form.pickRow(1 + static_cast<int>(row % static_cast<unsigned>(form.WordsMade.Rows() - 1)));
+        form.pressSelect();
+    };
+    switch (random() % 13) {
+    case 0:
+        for (int ticks = anyOf(300); ticks > 0; --ticks)
+            flow.tick(Timer::Red);
+        return;
+    case 1:
+        return flow.tick(Timer::Push);
+    case 2:
+    case 3:
+    case 4:
+        flow.perform(Command::ClearWord);
+        played.click(anyWord(played, random));
+        if (random() % 4 != 0)
+            flow.perform(Command::EnterWord);
+        return;
+    case 5:
+    case 6:
+        return flow.drop(anyOf(8));
+    case 7:
+        return flow.clickTile(anyOf(64), random() % 2 == 0 ? MouseButton::Left : MouseButton::Right, random() % 2 == 0);
+    case 8:
+        return flow.typeLetter(static_cast<char>('A' + random() % 26));
+    case 9:
+        return flow.perform(Command::GetHint);
+    case 10:
+        return flow.perform(
+            std::array{Command::TakeBack, Command::Statistics, Command::OtherPath, Command::SwapLetter}[random() % 4]);
+    case 11:
+        flow.perform(Command::Pause);
+        return flow.perform(Command::Pause);
+    default:
+        flow.sortWordsMade(anyOf(2500));
+        return flow.tick(Timer::Clock);
+    }
+}
+
 /// What holds after every step of a game, whatever was played.
 inline void expectSoundBoard(const PlayedGame& played)
 {
@@ -34,6 +80,8 @@ inline void expectSoundBoard(const PlayedGame& played)
         redTiles += board.maskcolor(tile) == multiplier::red ? 1 : 0;
         const bool bottom = Board::row(tile) == board.columnHeight(Board::col(tile));
         EXPECT_TRUE(bottom || board.isVisible(tile + 1)) << "a letter above a gap";
+        for (const std::uint8_t neighbour : board.neighbours(tile))
+            EXPECT_TRUE(board.neighbours(neighbour).contains(tile)) << tile << " and " << int{neighbour};
     }
     EXPECT_EQ(redTiles, played.state.redTilesOnBoard);
     EXPECT_GE(played.state.bonusTilesOnBoard, bonusTiles); // a lower bonus tile behind a higher one goes uncounted
