@@ -22,6 +22,10 @@ if(LEXIGROVE_SANITIZE)
     target_link_options(lexigrove_flags INTERFACE ${sanitizers})
 endif()
 
+if(LEXIGROVE_FUZZ)
+    target_compile_options(lexigrove_flags INTERFACE -fsanitize=fuzzer-no-link)
+endif()
+
 # lexigrove_library(<folder> SOURCES <files> [DEPENDS <lower floors>])
 # A folder is a static library of the folder's name. Where CMAKE_UNITY_BUILD is on, the files of one folder are compiled
 # in one piece, so that every header is read once a folder; a name in an unnamed namespace is therefore unique in its
