@@ -27,7 +27,7 @@ inline void step(PlayedGame& played, unsigned seed)
         form.pickRow(1 + static_cast<int>(row % static_cast<unsigned>(form.WordsMade.Rows() - 1)));
         form.pressSelect();
     };
-    switch (random() % 13) {
+    switch (random() % 14) {
     case 0:
         for (int ticks = anyOf(300); ticks > 0; --ticks)
             flow.tick(Timer::Red);
@@ -55,6 +55,14 @@ inline void step(PlayedGame& played, unsigned seed)
         return flow.perform(
             std::array{Command::TakeBack, Command::Statistics, Command::OtherPath, Command::SwapLetter}[random() % 4]);
     case 11:
+        played.study.setRedThreshold(anyOf(400));
+        if (!played.state.computerGame) { // it shows the time of day, and nobody's time is up
+            const auto messages = played.dialogs.messages.size();
+            flow.clockGotFocus();
+            EXPECT_EQ(played.dialogs.messages.size(), messages);
+        }
+        return;
+    case 12:
         flow.perform(Command::Pause);
         return flow.perform(Command::Pause);
     default:

@@ -5,6 +5,7 @@
 #include "word_services/meanings.hpp"
 
 #include <QDesktopServices>
+#include <QMessageBox>
 #include <QShortcut>
 #include <QVBoxLayout>
 
@@ -38,7 +39,12 @@ public:
 void GameWindows::show(const MeaningForm& form)
 {
     if (!browser_->isUsable()) {
-        QDesktopServices::openUrl(QUrl(toQString(form.address)));
+        if (QDesktopServices::openUrl(QUrl(toQString(form.address))))
+            return;
+        QMessageBox box(QMessageBox::NoIcon, "LexiGrove",
+                        "There is no browser to show the page with:\n" + toQString(form.address), QMessageBox::Ok,
+                        host_.dialogParent());
+        host_.gate.exec(box);
         return;
     }
     MeaningDialog dialog(host_, *browser_, form);
