@@ -61,13 +61,13 @@ int main(int argumentCount, char** arguments)
             replaceFile(path, text);
             dictionary.read(dialogs, status, random, clock);
         });
-    bench::print("AddWord to the plain list", "copying the list", first, 10);
+    bench::print("AddWord to the plain list", "copying the list", first, 8);
 
     const int before = dictionary.words.count();
     int number = 0;
     const bench::Medians further = bench::measure(
         31, [&] { maintenance.addWord(); }, copy, [&] { maintenance.Text1 = "ADDEDWORD" + letterCode(number++); });
-    bench::print("AddWord to the maintained file", "copying that file", further, 10);
+    bench::print("AddWord to the maintained file", "copying that file", further, 8);
     std::printf("Words: %d and then %d\n", before, dictionary.words.count());
 
     const bench::Medians showing = bench::measure(

@@ -1,7 +1,8 @@
 // The start of the game's window against the start of an empty Qt main window: from the process's start to the first
 // painted frame, and the memory that each holds at rest (the game: with a dealt board and the words of level 2).
 //   bench_startup [FOLDER] [ROUNDS]
-// FOLDER holds the word lists and colour schemes; by default the build's own. Goals: at most twice the empty window.
+// FOLDER holds the word lists and colour schemes; by default the build's own. The desktop draws text and loads its
+// fonts in both.
 
 #include "ui/front_end.hpp"
 
@@ -131,7 +132,7 @@ double median(std::vector<double> values)
     return values[values.size() / 2];
 }
 
-void printRow(const char* what, const std::vector<Start>& empty, const std::vector<Start>& game, double Start::*part)
+void print(const char* what, const std::vector<Start>& empty, const std::vector<Start>& game, double Start::*part)
 {
     const auto column = [part](const std::vector<Start>& starts) {
         std::vector<double> values;
@@ -140,7 +141,8 @@ void printRow(const char* what, const std::vector<Start>& empty, const std::vect
             values.push_back(start.*part);
         return median(values);
     };
-    std::printf("%-28s %10.1f %10.1f %8.2f\n", what, column(empty), column(game), column(game) / column(empty));
+    std::printf("%s: %.1f; an empty window: %.1f; ratio %.2f (goal: at most 1.3)\n", what, column(game), column(empty),
+                column(game) / column(empty));
 }
 
 /// A program folder with a configuration, so that nothing is asked.
@@ -183,9 +185,9 @@ int main(int argc, char** argv)
         empty.push_back(one);
         game.push_back(other);
     }
-    std::printf("%-28s %10s %10s %8s   (medians of %d starts each)\n", "", "empty", "game", "ratio", rounds);
-    printRow("first frame, ms", empty, game, &Start::painted);
-    printRow("at rest, resident MB", empty, game, &Start::rss);
-    printRow("at rest, proportional MB", empty, game, &Start::pss);
+    std::printf("Medians of %d starts each\n", rounds);
+    print("First frame, ms", empty, game, &Start::painted);
+    print("At rest, resident MB", empty, game, &Start::rss);
+    print("At rest, proportional MB", empty, game, &Start::pss);
     return EXIT_SUCCESS;
 }
