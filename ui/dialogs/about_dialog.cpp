@@ -2,6 +2,7 @@
 #include "ui/game_windows.hpp"
 #include "ui/look/text.hpp"
 
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QIcon>
 #include <QLabel>
@@ -28,7 +29,7 @@ public:
     {
         auto* const picture = new QLabel;
         picture->setObjectName("Picture");
-        picture->setPixmap(QIcon(":/lexigrove.svg").pixmap(16 * Theme::grid));
+        picture->setPixmap(QApplication::windowIcon().pixmap(16 * Theme::grid));
         AboutText->setObjectName("AboutText");
         AboutText->setTextInteractionFlags(Qt::NoTextInteraction);
         QPushButton* const AboutOk = newButton("AboutOk", "OK");

@@ -214,7 +214,10 @@ QColor toQColor(Colour colour)
 Theme::Theme() : desktop_(systemColoursOf(QApplication::palette()))
 {
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/lexigrove.svg")));
+    QIcon icon;
+    for (const int size : {16, 32, 48, 128, 256}) // pictures: a drawing would load a library at every start
+        icon.addFile(QString(":/icon/%1.png").arg(size));
+    QApplication::setWindowIcon(icon);
 }
 
 void Theme::apply(const ColourScheme& scheme)
