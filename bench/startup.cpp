@@ -1,5 +1,6 @@
 // The start of the game's window against the start of an empty Qt main window: from the process's start to the first
-// painted frame, and the memory that each holds at rest (the game: with a dealt board and the words of level 2).
+// painted frame, and the memory that each holds at rest (the game: with a dealt board and the words of level 2). Then,
+// of the game at rest, how often it wakes up, and how long the board of a large screen takes to paint.
 //   bench_startup [FOLDER] [ROUNDS]
 // FOLDER holds the word lists and colour schemes; by default the build's own. The desktop draws text and loads its
 // fonts in both.
@@ -15,6 +16,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <filesystem>
 #include <fstream>
 #include <functional>
 #include <sstream>
@@ -26,8 +28,16 @@ using namespace lexigrove;
 namespace
 {
 
-constexpr int restingTime = 800; ///< milliseconds
-constexpr int patience = 20'000; ///< milliseconds
+constexpr int restingTime = 800;     ///< milliseconds
+constexpr int settlingTime = 2'000;  ///< milliseconds, for what follows a start
+constexpr int countingTime = 10'000; ///< milliseconds
+constexpr int patience = 20'000;     ///< milliseconds
+
+double median(std::vector<double> values)
+{
+    std::sort(values.begin(), values.end());
+    return values[values.size() / 2];
+}
 
 // ---- In the child
 
@@ -41,6 +51,35 @@ long memory(const std::string& name)
             return std::stol(line.substr(name.size() + 1));
     }
     return 0;
+}
+
+/// How often this program's threads have waited for something so far.
+long wakeUps()
+{
+    long count = 0;
+    for (const auto& thread : std::filesystem::directory_iterator("/proc/self/task")) {
+        std::ifstream lines(thread.path() / "status");
+        for (std::string line; std::getline(lines, line);) {
+            if (line.starts_with("voluntary_ctxt_switches:"))
+                count += std::stol(line.substr(line.find(':') + 1));
+        }
+    }
+    return count;
+}
+
+/// Milliseconds for the whole board on a screen of 3840 by 2160 pixels: the median of some frames.
+double frameTime(QWidget& board)
+{
+    board.resize(3840, 2160);
+    QImage screen(board.size(), QImage::Format_RGB32);
+    std::vector<double> times;
+    for (int frame = 0; frame < 30; ++frame) {
+        QElapsedTimer watch;
+        watch.start();
+        board.render(&screen);
+        times.push_back(static_cast<double>(watch.nsecsElapsed()) / 1e6);
+    }
+    return median(times);
 }
 
 /// Tells the parent when the window has first been painted, and later how much memory it holds at rest.
@@ -96,6 +135,24 @@ int showGame(QApplication& application, const std::string& folder)
     return application.exec();
 }
 
+/// The game that nobody plays, with its clock shown.
+int restGame(QApplication& application, const std::string& folder)
+{
+    FrontEnd game(folder);
+    game.flow.startUp();
+    game.window.show();
+    game.flow.startGame();
+    QTimer::singleShot(settlingTime, [&] {
+        QTimer::singleShot(countingTime, [&, before = wakeUps()] {
+            std::printf("%f ", static_cast<double>(wakeUps() - before) * 1000 / countingTime);
+            std::printf("%f\n", frameTime(*game.window.findChild<QWidget*>("Picture1")));
+            std::fflush(stdout);
+            std::_Exit(EXIT_SUCCESS);
+        });
+    });
+    return application.exec();
+}
+
 // ---- In the parent
 
 struct Start {
@@ -124,12 +181,6 @@ Start measure(const QStringList& arguments)
     start.rss /= 1024;
     start.pss /= 1024;
     return start;
-}
-
-double median(std::vector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
 }
 
 void print(const char* what, const std::vector<Start>& empty, const std::vector<Start>& game, double Start::*part)
@@ -164,6 +215,8 @@ int main(int argc, char** argv)
     const std::vector<std::string> arguments(argv, argv + argc);
     if (arguments.size() > 1 && arguments[1].starts_with("--child")) {
         QApplication application(argc, argv);
+        if (arguments[1] == "--child-at-rest")
+            return restGame(application, arguments[2]);
         return arguments.size() > 2 ? showGame(application, arguments[2]) : showEmptyWindow(application);
     }
 
@@ -189,5 +242,15 @@ int main(int argc, char** argv)
     print("First frame, ms", empty, game, &Start::painted);
     print("At rest, resident MB", empty, game, &Start::rss);
     print("At rest, proportional MB", empty, game, &Start::pss);
+
+    QProcess rest;
+    rest.start(QCoreApplication::applicationFilePath(), {"--child-at-rest", folder.path() + "/"});
+    rest.waitForFinished(patience);
+    std::istringstream figures(rest.readAllStandardOutput().toStdString());
+    double wakeUpRate = 0;
+    double frame = 0;
+    figures >> wakeUpRate >> frame;
+    std::printf("Wake-ups a second of the game at rest; figure %.1f (goal: at most 4)\n", wakeUpRate);
+    std::printf("Painting the board at 3840x2160, ms; figure %.1f (goal: at most 8)\n", frame);
     return EXIT_SUCCESS;
 }

@@ -2,6 +2,11 @@
 #include "ui/pages/browser_view.hpp"
 
 #include <QClipboard>
+#include <QDir>
+#include <QProcess>
+#include <QSslKey>
+#include <QSslServer>
+#include <QStandardPaths>
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <QUdpSocket>
@@ -11,6 +16,7 @@
 #include <csignal>
 #include <gmock/gmock.h>
 #include <memory>
+#include <set>
 #include <vector>
 
 namespace lexigrove
@@ -19,15 +25,15 @@ namespace
 {
 
 /// A web server on the machine itself, which notes what was asked for. It answers "/to/X" with a redirection to "/X" of
-/// a stranger, and everything else with one page.
+/// a stranger, "/password" with the wish for one, and everything else with one page.
 class Server
 {
 public:
-    Server()
+    explicit Server(std::unique_ptr<QTcpServer> server = std::make_unique<QTcpServer>()) : server_(std::move(server))
     {
-        EXPECT_TRUE(server_.listen(QHostAddress::AnyIPv4));
-        QObject::connect(&server_, &QTcpServer::newConnection, &server_, [this] {
-            QTcpSocket* const socket = server_.nextPendingConnection();
+        EXPECT_TRUE(server_->listen(QHostAddress::AnyIPv4));
+        QObject::connect(server_.get(), &QTcpServer::pendingConnectionAvailable, server_.get(), [this] {
+            QTcpSocket* const socket = server_->nextPendingConnection();
             QObject::connect(socket, &QTcpSocket::readyRead, socket, [this, socket] { answer(*socket); });
             QObject::connect(socket, &QTcpSocket::disconnected, socket, &QObject::deleteLater);
         });
@@ -35,7 +41,8 @@ public:
 
     [[nodiscard]] std::string host(const std::string& address = "127.0.0.1") const
     {
-        return "http://" + address + ":" + std::to_string(server_.serverPort());
+        const char* const scheme = qobject_cast<QSslServer*>(server_.get()) != nullptr ? "https://" : "http://";
+        return scheme + address + ":" + std::to_string(server_->serverPort());
     }
 
     /// This server, too, but not a host that pages may have.
@@ -57,14 +64,35 @@ private:
         if (asked.back().starts_with("/to/"))
             socket.write("HTTP/1.1 307 Elsewhere\r\nAccess-Control-Allow-Origin: *\r\nConnection: close\r\nLocation: " +
                          QByteArray::fromStdString(stranger() + asked.back().substr(3)) + "\r\n\r\n");
+        else if (asked.back().starts_with("/password"))
+            socket.write("HTTP/1.1 401 Who\r\nWWW-Authenticate: Basic realm=\"all\"\r\nConnection: close\r\n\r\n");
         else
             socket.write("HTTP/1.1 200 OK\r\nContent-Type: text/html\r\nConnection: close\r\n" +
                          QByteArray::fromStdString(page));
         socket.disconnectFromHost();
     }
 
-    QTcpServer server_;
+    std::unique_ptr<QTcpServer> server_;
 };
+
+/// A server with a certificate that it wrote itself, in a folder of its own.
+std::unique_ptr<QTcpServer> selfCertified(const TemporaryFolder& folder)
+{
+    const QString key = QString::fromStdString(folder.file("key"));
+    const QString certificate = QString::fromStdString(folder.file("certificate"));
+    QProcess openssl;
+    openssl.start("openssl", {"req", "-x509", "-newkey", "ec", "-pkeyopt", "ec_paramgen_curve:prime256v1", "-nodes",
+                              "-subj", "/CN=127.0.0.1", "-keyout", key, "-out", certificate});
+    EXPECT_TRUE(openssl.waitForFinished() && openssl.exitCode() == 0);
+    QFile keyFile(key);
+    EXPECT_TRUE(keyFile.open(QFile::ReadOnly));
+    QSslConfiguration configuration = QSslConfiguration::defaultConfiguration();
+    configuration.setLocalCertificate(QSslCertificate::fromPath(certificate).value(0));
+    configuration.setPrivateKey(QSslKey(&keyFile, QSsl::Ec));
+    auto server = std::make_unique<QSslServer>();
+    server->setSslConfiguration(configuration);
+    return server;
+}
 
 /// Waits until the page in a window says something.
 bool says(const QWidget& window, const QString& text)
@@ -94,10 +122,12 @@ protected:
         const std::string host = server_.host() + "\r\n";
         folder.write("MeaningServices.txt", host + host + host + host);
         folder.write("lexigrove.htm",
-                     "<body style='margin: 0'><a href='#two' style='font-size: 60px'>Go to two</a>"
-                     "<p style='height: 2000px'><a id='two' href='#three' style='font-size: 60px'>Two, to three</a>"
-                     "<p style='height: 2000px'><a id='three' style='font-size: 60px'>Three</a>"
-                     "<p style='height: 2000px'>");
+                     "<body style='margin: 0'><a href='#two' style='font-size: 60px'>Go to two</a><img src='" +
+                         server_.host() +
+                         "/picture'>"
+                         "<p style='height: 2000px'><a id='two' href='#three' style='font-size: 60px'>Two, to three</a>"
+                         "<p style='height: 2000px'><a id='three' style='font-size: 60px'>Three</a>"
+                         "<p style='height: 2000px'>");
     }
 
     /// The meaning of CAT, which is made in a new game, by a double click.
@@ -121,41 +151,80 @@ protected:
     Server server_;
 };
 
-// Guards the way of a word to its page, and the machine against the page: no question, no window, no dialog, no
-// clipboard, no other host is reached, not by a detour either, and nothing is remembered. Closing the window ends the
-// page.
+// Guards the way of a word to its page, and the machine against the page: whatever it tries, it reaches nothing but its
+// own server, not by a detour either, opens nothing, asks nothing and leaves nothing behind. Closing the window ends
+// the page.
 TEST_F(BrowserTest, APageReachesNothingBeyondItself)
 {
     QUdpSocket calls;
     ASSERT_TRUE(calls.bind(QHostAddress("127.0.0.2")));
-    server_.page = "Set-Cookie: seen=yes; Path=/; Max-Age=9999\r\n\r\n<p onclick='take()'>A page</p>"
-                   "<input type=color><script>const stranger = '" +
-                   server_.stranger() + "', stun = 'stun:127.0.0.2:" + std::to_string(calls.localPort()) + R"(';
-        const tell = () => { document.title += '.'; };
-        function take() {
-            document.querySelector('input').showPicker();
-            navigator.clipboard?.writeText('stolen');
-            const frame = document.body.appendChild(document.createElement('iframe'));
-            for (const place of [document, frame.contentDocument]) {
-                place.body.append('stolen');
-                place.getSelection().selectAllChildren(place.body);
-                place.execCommand('copy');
-            }
-            tell();
+    const Server impostor(selfCertified(folder));
+    server_.page = "Set-Cookie: seen=yes; Path=/; Max-Age=9999\r\n\r\n<p onclick='take()'>A page</p><input "
+                   "type=color><input type=file>"
+                   "<script>const stranger = '" +
+                   server_.stranger() + "', impostor = '" + impostor.host() + "', file = 'file://" +
+                   folder.file("lexigrove.htm") + "', stun = 'stun:127.0.0.2:" + std::to_string(calls.localPort()) +
+                   R"(';
+        const isLet = (answer) => answer ? answer : Promise.reject();
+        const get = (address) => fetch(address, {mode: 'no-cors'});
+        const atOnce = [
+            ['own', () => get('/own')],
+            ['stranger', () => get(stranger + '/fetched')],
+            ['detour', () => get('/to/detour')],
+            ['detour with a body', () => fetch('/to/detour', {mode: 'no-cors', method: 'POST', body: 'all'})],
+            ['false certificate', () => get(impostor)],
+            ['file', () => get(file)],
+            ['socket', () => new Promise((yes, no) => {
+                new WebSocket('ws://' + location.host + '/socket').onerror = no;
+            })],
+            ['place', () => new Promise((yes, no) => navigator.geolocation.getCurrentPosition(yes, no))],
+            ['password', async () => isLet((await get('/password')).ok)],
+            ['messages', async () => isLet(await Notification.requestPermission() == 'granted')],
+            ['question', async () => isLet(confirm('?') || prompt('?') || alert('?'))],
+        ];
+        const onClick = [ // one attempt a click, for each uses it up
+            ['own', () => get('/own')],
+            ['window', async () => { open('/window'); return isLet(false); }],
+            ['colour', async () => isLet(document.querySelector('input').showPicker())],
+            ['files', async () => isLet(document.querySelectorAll('input')[1].showPicker())],
+            ['full screen', () => document.body.requestFullscreen()],
+            ['clipboard', async () => isLet(navigator.clipboard?.writeText('stolen'))],
+            ['copy', async () => {
+                const frame = document.body.appendChild(document.createElement('iframe'));
+                for (const place of [document, frame.contentDocument]) {
+                    place.body.append('stolen');
+                    place.getSelection().selectAllChildren(place.body);
+                    await isLet(place.execCommand('copy'));
+                }
+            }],
+            ['download', async () => {
+                const link = document.createElement('a');
+                link.href = URL.createObjectURL(new Blob(['all']));
+                link.download = 'stolen';
+                link.click();
+                return isLet(false);
+            }],
+        ];
+        async function tell(attempts, done) {
+            const answers = await Promise.allSettled(attempts.map(([name, attempt]) => attempt()));
+            const reached = attempts.filter((attempt, i) => answers[i].status == 'fulfilled').map(([name]) => name);
+            document.title = `${done} ${onClick.length} clicks: ${reached.join(', ') || 'nothing'}`;
         }
-        document.write(`<img src='${stranger}/picture'><iframe src='${stranger}/frame'></iframe>
-            <img src='/to/detour'><script src='/to/detour'></` + `script><iframe src='/to/detour'></iframe>`);
-        alert(1);
-        confirm(2);
-        window.open('/popup');
-        setTimeout(() => { location.href = stranger + '/page'; }, 100);
+        let clicks = 0;
+        function take() {
+            tell([onClick[clicks]], `${++clicks} of`);
+        }
+        document.write(`<img src='${stranger}/picture'><iframe src='${stranger}/frame'></iframe><iframe src='${file}'>
+            </iframe><img src='/to/detour'><script src='/to/detour'></` + `script><iframe src='/to/detour'></iframe>`);
+        for (const place of [stranger + '/page', file])
+            setTimeout(() => { location.href = place; }, 100);
         const call = new RTCPeerConnection({iceServers: [{urls: stun}]});
         call.createDataChannel('all');
         call.createOffer().then((offer) => call.setLocalDescription(offer));
-        navigator.geolocation.getCurrentPosition(tell, tell);
-        for (const [to, method] of [[stranger + '/fetched', 'GET'], ['/to/detour', 'GET'], ['/to/detour', 'POST']])
-            fetch(to, {method, mode: 'no-cors', body: method == 'GET' ? null : 'all'}).then(tell, tell);
+        open('/window');
+        tell(atOnce, '0 of');
         </script>)";
+    QDir downloads(QStandardPaths::writableLocation(QStandardPaths::DownloadLocation));
     chooseOptions([](OptionsForm& options) { options.select(options.Option8); });
     for (int showing = 1; showing <= 2; ++showing) {
         script.in("Form3", [&](QDialog& dialog) {
@@ -163,10 +232,16 @@ TEST_F(BrowserTest, APageReachesNothingBeyondItself)
             EXPECT_TRUE(says(dialog, "A page"));
             const auto* view = dialog.findChild<QWebEngineView*>();
             EXPECT_EQ(view->size(), dialog.size());
-            EXPECT_TRUE(QTest::qWaitFor([&] { return view->title().endsWith("...."); }, 10'000));
             QGuiApplication::clipboard()->setText("mine");
-            QTest::mouseClick(view->focusProxy(), Qt::LeftButton, {}, {200, 25});
-            EXPECT_TRUE(QTest::qWaitFor([&] { return view->title().endsWith("....."); }, 10'000));
+            const auto isLet = [&](const std::string& step, const std::string& what) {
+                EXPECT_TRUE(QTest::qWaitFor([&] { return view->title().startsWith(step.c_str()); }, 10'000));
+                EXPECT_EQ(view->title().toStdString(), step + " of 8 clicks: " + what);
+            };
+            isLet("0", "own");
+            for (int click = 1; click <= 8; ++click) {
+                QTest::mouseClick(view->focusProxy(), Qt::LeftButton, {}, {200, 25});
+                isLet(std::to_string(click), click == 1 ? "own" : "nothing");
+            }
             QTest::qWait(300);
             const QWidgetList windows = QApplication::topLevelWidgets();
             EXPECT_EQ(std::count_if(windows.begin(), windows.end(), [](QWidget* w) { return w->isVisible(); }), 2);
@@ -175,10 +250,11 @@ TEST_F(BrowserTest, APageReachesNothingBeyondItself)
         });
         showMeaning();
         EXPECT_EQ(server_.asked.front(), "/cgi-bin/dictionary?book=Dictionary&va=CAT");
-        EXPECT_EQ(std::count(server_.asked.begin() + 1, server_.asked.end(), "/to/detour Cookie: seen=yes"),
-                  std::ssize(server_.asked) - 1);
-        EXPECT_GE(server_.asked.size(), 4U);
-        EXPECT_FALSE(calls.hasPendingDatagrams());
+        const std::set<std::string> asked(server_.asked.begin() + 1, server_.asked.end());
+        EXPECT_THAT(asked, testing::ElementsAre("/own Cookie: seen=yes", "/password Cookie: seen=yes",
+                                                "/to/detour Cookie: seen=yes"));
+        EXPECT_FALSE(calls.hasPendingDatagrams() || downloads.remove("stolen"));
+        EXPECT_THAT(impostor.asked, testing::IsEmpty());
         EXPECT_FALSE(enginePageExists());
     }
 }
@@ -247,6 +323,7 @@ TEST_F(BrowserTest, TheHelpIsReadBesideTheGame)
     });
     WindowTest::press("Aboutx");
     EXPECT_TRUE(says(showHelp(), "Go to two"));
+    EXPECT_THAT(server_.asked, testing::IsEmpty()) << "the network is none of its business";
 }
 
 // Guards the end: the main window closed under a page, with the help beside it, leaves no page of the engine behind. A

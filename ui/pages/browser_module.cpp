@@ -1,19 +1,13 @@
 #include "ui/pages/browser.hpp"
 
-#include <QAuthenticator>
 #include <QChildEvent>
 #include <QDialog>
 #include <QFileInfo>
 #include <QLoggingCategory>
 #include <QOpenGLContext>
-#include <QWebEngineCertificateError>
-#include <QWebEngineDownloadRequest>
-#include <QWebEngineFullScreenRequest>
 #include <QWebEngineHistory>
 #include <QWebEnginePage>
 #include <QWebEngineProfile>
-#include <QWebEngineQuotaRequest>
-#include <QWebEngineRegisterProtocolHandlerRequest>
 #include <QWebEngineScript>
 #include <QWebEngineScriptCollection>
 #include <QWebEngineSettings>
@@ -97,20 +91,6 @@ public:
                          [this](const QUrl& origin, Feature feature) {
                              setFeaturePermission(origin, feature, PermissionDeniedByUser);
                          });
-        QObject::connect(this, &QWebEnginePage::fullScreenRequested, this,
-                         [](QWebEngineFullScreenRequest request) { request.reject(); });
-        QObject::connect(this, &QWebEnginePage::quotaRequested, this,
-                         [](QWebEngineQuotaRequest request) { request.reject(); });
-        QObject::connect(this, &QWebEnginePage::registerProtocolHandlerRequested, this,
-                         [](QWebEngineRegisterProtocolHandlerRequest request) { request.reject(); });
-        QObject::connect(this, &QWebEnginePage::certificateError, this,
-                         [](QWebEngineCertificateError error) { error.rejectCertificate(); });
-        const auto noPassword = [](QAuthenticator* authenticator) { *authenticator = QAuthenticator(); };
-        QObject::connect(this, &QWebEnginePage::authenticationRequired, this,
-                         [noPassword](const QUrl&, QAuthenticator* authenticator) { noPassword(authenticator); });
-        QObject::connect(
-            this, &QWebEnginePage::proxyAuthenticationRequired, this,
-            [noPassword](const QUrl&, QAuthenticator* authenticator, const QString&) { noPassword(authenticator); });
     }
 
 protected:
@@ -118,7 +98,6 @@ protected:
     {
         return rules_.allows({url, isMainFrame ? url : this->url(), isMainFrame, false});
     }
-    QWebEnginePage* createWindow(WebWindowType) override { return nullptr; }
     QStringList chooseFiles(FileSelectionMode, const QStringList&, const QStringList&) override { return {}; }
     void javaScriptAlert(const QUrl&, const QString&) override {}
     bool javaScriptConfirm(const QUrl&, const QString&) override { return false; }
@@ -129,31 +108,21 @@ private:
     BrowserRules rules_;
 };
 
+/// In addition to what the engine refuses by itself, such as downloads, full screen, unknown certificates and windows
+/// that nobody makes.
 void setLimits(QWebEngineSettings& settings)
 {
     for (const auto refused : {
              QWebEngineSettings::JavascriptCanOpenWindows,
-             QWebEngineSettings::JavascriptCanAccessClipboard,
-             QWebEngineSettings::JavascriptCanPaste,
-             QWebEngineSettings::AllowWindowActivationFromJavaScript,
-             QWebEngineSettings::AllowGeolocationOnInsecureOrigins,
-             QWebEngineSettings::AllowRunningInsecureContent,
-             QWebEngineSettings::LocalContentCanAccessRemoteUrls,
              QWebEngineSettings::LocalContentCanAccessFileUrls,
-             QWebEngineSettings::PluginsEnabled,
              QWebEngineSettings::PdfViewerEnabled,
-             QWebEngineSettings::FullScreenSupportEnabled,
-             QWebEngineSettings::ScreenCaptureEnabled,
              QWebEngineSettings::WebGLEnabled,
-             QWebEngineSettings::HyperlinkAuditingEnabled,
-             QWebEngineSettings::DnsPrefetchEnabled,
              QWebEngineSettings::AutoLoadIconsForPage,
              QWebEngineSettings::NavigateOnDropEnabled,
          })
         settings.setAttribute(refused, false);
     settings.setAttribute(QWebEngineSettings::PlaybackRequiresUserGesture, true);
     settings.setAttribute(QWebEngineSettings::WebRTCPublicInterfacesOnly, true);
-    settings.setAttribute(QWebEngineSettings::ErrorPageEnabled, true);
     settings.setUnknownUrlSchemePolicy(QWebEngineSettings::DisallowUnknownUrlSchemes);
 }
 
@@ -191,10 +160,6 @@ public:
         : guard_(setup.rules), page_(&profile_, setup.rules), scripts_(setup.rules.scripts())
     {
         profile_.setUrlRequestInterceptor(&guard_);
-        profile_.setPersistentCookiesPolicy(QWebEngineProfile::NoPersistentCookies);
-        profile_.setHttpCacheType(QWebEngineProfile::MemoryHttpCache);
-        QObject::connect(&profile_, &QWebEngineProfile::downloadRequested, &profile_,
-                         [](QWebEngineDownloadRequest* download) { download->cancel(); });
         setLimits(*page_.settings());
         profile_.scripts()->insert(withoutClipboard());
         page_.setBackgroundColor(setup.background);
