@@ -355,6 +355,40 @@ TEST_F(Course, ClosingInTheMiddleOfAnAnimationLeaves)
     EXPECT_EQ(ended.count(), 1);
 }
 
+/// Notes what a widget paints while `watches` holds.
+class PaintLog : public QObject
+{
+public:
+    PaintLog(QWidget& widget, std::function<bool()> watches) : watches_(std::move(watches))
+    {
+        widget.installEventFilter(this);
+    }
+    bool eventFilter(QObject* /*receiver*/, QEvent* event) override
+    {
+        if (event->type() == QEvent::Paint && watches_())
+            painted.push_back(dynamic_cast<QPaintEvent&>(*event).rect());
+        return false;
+    }
+
+    std::vector<QRect> painted;
+
+private:
+    std::function<bool()> watches_;
+};
+
+// Guards a large screen from being painted whole at each step of an animation.
+TEST_F(Course, ASlidingColumnIsPaintedAlone)
+{
+    start({{9, "QCATS"}});
+    animate(100);
+    const PaintLog log(board(), [&] { return view().board.Picture2.Visible; });
+    enter("cat");
+    const double column = 1.5 * board().tileRect(9).width();
+    const auto isWide = [=](const QRect& place) { return place.width() > column; };
+    EXPECT_GT(log.painted.size(), 10U);
+    EXPECT_LE(std::count_if(log.painted.begin(), log.painted.end(), isWide), 1) << "when the word itself is done";
+}
+
 // Guards the computer's turn: the input that ends its wait must do nothing else, neither as a key nor as a click; and
 // whoever closes the window in its middle leaves before the word is played.
 TEST_F(Course, AnyInputEndsTheComputersTurnAndIsUsedUp)

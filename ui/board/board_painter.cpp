@@ -41,6 +41,12 @@ QRectF BoardPainter::placeOf(const BoardSpot& spot) const
     return shape_.tilePlace(board_.tile(spot.tile), Board::columnLeft(col), board_.cellTop(Board::row(spot.tile), col));
 }
 
+QRectF BoardPainter::surroundings(int tile) const
+{
+    const double margin = shape_.cell() * glowShare + 1;
+    return placeOf({tile, 0}).adjusted(-margin, -margin, margin, margin);
+}
+
 void BoardPainter::paint(QPainter& painter, const BoardMarks& marks, const QRectF& dirty) const
 {
     paintBackground(painter, marks, dirty);

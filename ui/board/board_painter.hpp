@@ -56,6 +56,9 @@ public:
     /// Where a spot is, with or without a tile.
     [[nodiscard]] QRectF placeOf(const BoardSpot& spot) const;
 
+    /// A tile's place with all that its glow and its links paint beside it.
+    [[nodiscard]] QRectF surroundings(int tile) const;
+
 private:
     void paintBackground(QPainter& painter, const BoardMarks& marks, const QRectF& dirty) const;
     void paintDropMarks(QPainter& painter, const BoardMarks& marks) const;

@@ -43,7 +43,11 @@ BoardView::BoardView(GameFlow& flow, Host& host, QWidget* parent)
     setFocusPolicy(Qt::StrongFocus); // keys that it ignores go to the window
     shining_->setStartValue(1.0);
     shining_->setEndValue(0.0);
-    connect(shining_, &QVariantAnimation::valueChanged, this, [this] { synchronise(); });
+    connect(shining_, &QVariantAnimation::valueChanged, this, [this](const QVariant& brightness) {
+        marks_.glowing = brightness.toDouble();
+        for (const Glow& glow : marks_.glows)
+            update(painter_.surroundings(glow.tile).toAlignedRect());
+    });
     connect(&host, &Host::happened, this, [this](Moment moment, int place) {
         if (moment != Moment::Pushed)
             shine({{place, flow_.view().scheme.tileFace(board_.maskcolor(place))}}, tileTime);
@@ -104,6 +108,8 @@ QRectF BoardView::placeOf(const BoardSpot& spot) const
 BoardMarks BoardView::currentMarks()
 {
     BoardMarks marks;
+    marks.glows = marks_.glows; // which run by themselves
+    marks.glowing = marks_.glowing;
     marks.swapTile = flow_.view().letterSwap.tile();
     marks.guideColumn = flow_.view().dropRow.guideColumn();
     for (int col = 1; flow_.inGame() && col <= Board::columns; ++col) {
@@ -124,10 +130,6 @@ BoardMarks BoardView::currentMarks()
     marks.cursor = cursor();
     marks.hint = firstSteps_.next();
     marks.threatened = threatenedColumns();
-    if (shining_->state() == QAbstractAnimation::Running) {
-        marks.glows = glows_;
-        marks.glowing = shining_->currentValue().toDouble();
-    }
     return marks;
 }
 
@@ -171,8 +173,8 @@ void BoardView::shine(std::vector<Glow> glows, int milliseconds)
     if (!Theme::showsAnimations())
         return;
     if (shining_->state() == QAbstractAnimation::Running)
-        glows.insert(glows.end(), glows_.begin(), glows_.end());
-    glows_ = std::move(glows);
+        glows.insert(glows.end(), marks_.glows.begin(), marks_.glows.end());
+    marks_.glows = std::move(glows);
     shining_->stop();
     shining_->setDuration(std::max(milliseconds, tileTime / 2));
     shining_->start();
@@ -211,11 +213,22 @@ void BoardView::synchronise()
         shownPanel_ = place;
     }
     lookForNewWord();
-    if (BoardMarks marks = currentMarks(); marks != marks_) {
-        marks_ = std::move(marks);
-        update();
-    }
+    showMarks(currentMarks());
     access_.synchronise();
+}
+
+/// The chain of a word changes with every letter: then only its tiles are painted again.
+void BoardView::showMarks(BoardMarks marks)
+{
+    if (marks.path != marks_.path) {
+        marks_.path.insert(marks_.path.end(), marks.path.begin(), marks.path.end());
+        for (const int tile : marks_.path)
+            update(painter_.surroundings(tile).toAlignedRect());
+        marks_.path = marks.path;
+    }
+    if (marks != marks_)
+        update();
+    marks_ = std::move(marks);
 }
 
 bool BoardView::takesInput() const

@@ -87,6 +87,7 @@ private:
     [[nodiscard]] unsigned threatenedColumns() const;
     void lookForNewWord();
     void shine(std::vector<Glow> glows, int milliseconds);
+    void showMarks(BoardMarks marks);
     void repaintIfChanged(const BoxControl& control, Shown& shown);
     [[nodiscard]] bool takesInput() const;
 
@@ -104,8 +105,7 @@ private:
     QRectF shownPanel_;
     BoardMarks marks_;
     QVariantAnimation* shining_; ///< the moment in which cells glow, brightness 1 to 0
-    std::vector<Glow> glows_;
-    std::string begun_; ///< of the game that is known
+    std::string begun_;          ///< of the game that is known
     std::size_t turns_ = 0;
     bool pushNear_ = false;
     BoardSpot hovered_;
