@@ -72,9 +72,10 @@ void BoardSearch::visitChildren(WordTrie::Node parent, const Frontier& paths, in
         const Frontier longer = extend(paths, letter);
         if (longer.empty())
             return;
+        const LetterSet below = trie_.childLetters(node);
         if (trie_.endsWord(node))
             board_.copyPath(longer.begin, candidates_.add(score + letterScore, length + 1));
-        if (trie_.childLetters(node) != 0)
+        if ((below & (longer.next | otherCharacters)) != 0)
             visitChildren(node, longer, length + 1, score + letterScore);
     };
     const LetterSet letters = trie_.childLetters(parent);
@@ -88,7 +89,7 @@ void BoardSearch::visitChildren(WordTrie::Node parent, const Frontier& paths, in
         const int letterNumber = std::countr_zero(hits);
         const LetterSet before = letters & ((LetterSet{1} << letterNumber) - 1);
         const char letter = static_cast<char>('A' - 1 + letterNumber);
-        visit(first + static_cast<WordTrie::Node>(std::popcount(before)), letter, letterValue(letter));
+        visit(first + countOf(before), letter, letterValue(letter));
     }
 }
 

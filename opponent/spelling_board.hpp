@@ -3,7 +3,9 @@
 #include "opponent/letter_set.hpp"
 #include "opponent/search_board.hpp"
 
+#include <algorithm>
 #include <array>
+#include <bit>
 #include <cstdint>
 #include <span>
 #include <vector>
@@ -71,5 +73,35 @@ private:
 
     std::vector<Step> steps_ = std::vector<Step>(4'096); ///< the paths of all frontiers; grows as needed
 };
+
+// Inline, for a sweep calls it for each letter that it tries.
+inline Frontier SpellingBoard::extend(const Frontier& paths, char letter)
+{
+    makeRoom(paths.end + std::size_t{8} * (paths.end - paths.begin) + 1);
+    const auto number = static_cast<std::size_t>(letterIndex(letter));
+    Step* const begin = steps_.data() + paths.end;
+    Step* end = begin;
+    LetterSet next = 0;
+    for (std::uint32_t path = paths.begin; path != paths.end; ++path) {
+        const Step from = steps_[path];
+        const Surroundings& around = around_[from.tile];
+        unsigned slotBits = around.slotBits[number];
+        // Most paths end next to one tile with the letter or none. Its step is written either way and counted only if
+        // allowed: a branch here would be mispredicted too often.
+        const std::uint64_t found = slotBits != 0;
+        do {
+            const auto slot = static_cast<unsigned>(std::countr_zero(slotBits | 0x80U));
+            slotBits &= slotBits - 1;
+            const std::uint8_t tile = around.tiles[slot];
+            const std::uint64_t free = found & ~(from.blocked >> ((tile - 1U) % 64U));
+            *end = {from.blocked | around.blocks[slot], path, tile};
+            end += free;
+            next |= (0 - static_cast<LetterSet>(free)) & around_[tile].letters;
+        } while (slotBits != 0);
+    }
+    if (setOf(letter) == otherCharacters)
+        end = std::remove_if(begin, end, [&](const Step& step) { return letters_[step.tile] != letter; });
+    return {paths.end, paths.end + static_cast<std::uint32_t>(end - begin), next};
+}
 
 } // namespace lexigrove
