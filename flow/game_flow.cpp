@@ -6,6 +6,7 @@
 #include "record/review_texts.hpp"
 #include "settings/window_colours.hpp"
 
+#include <algorithm>
 #include <exception>
 #include <filesystem>
 
@@ -130,9 +131,7 @@ void GameFlow::offerEndIfNoWordIsLeft()
 {
     GameParts& p = *parts_;
     const Board& board = p.game.board;
-    bool letterWaits = false;
-    for (int col = 1; col <= Board::columns; ++col)
-        letterWaits = letterWaits || board.waiting(col).Visible();
+    const bool letterWaits = std::ranges::any_of(board.TopDrop, [](const BoxControl& w) { return w.Visible(); });
     if (!inGame_ || ended_ || noWordLeft_ || letterWaits || p.game.state.computerGame)
         return;
     try {

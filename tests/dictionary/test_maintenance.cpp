@@ -85,8 +85,10 @@ TEST_F(MaintenanceTest, OpensWithAWordAndALevelOnly)
     EXPECT_FALSE(maintenance.Option1.Value || maintenance.Option1.Enabled || maintenance.Option2.Enabled);
 
     // The words of level 3 must not reach another level's file.
-    maintenance.chooseOption(2);
-    EXPECT_TRUE(maintenance.Option3.Value);
+    for (const int other : {0, 2, 4}) {
+        maintenance.chooseOption(other);
+        EXPECT_TRUE(maintenance.Option3.Value);
+    }
     dictionary.applyChoice(2, "");
     maintenance.activate();
     add("EMU");
@@ -98,6 +100,10 @@ TEST_F(MaintenanceTest, OpensWithAWordAndALevelOnly)
     remove("CAT");
     EXPECT_EQ(messages.size(), 1U);
     EXPECT_EQ(dictionary.words.count(), 1);
+    const auto fingerprint = dictionary.fingerprint();
+    EXPECT_EQ(dictionary.fingerprint(), fingerprint);
+    load(1, {"DOG"});
+    EXPECT_NE(dictionary.fingerprint(), fingerprint);
 }
 
 // The list shows the words as they were when it was filled, whatever happens to the dictionary meanwhile.

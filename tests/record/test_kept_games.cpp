@@ -93,6 +93,7 @@ TEST(BoardPositions, AreReadBackOrRefused)
             boardOfTheDay(Day(std::chrono::days(random() % 50'000)), 1 + static_cast<int>(random() % 3));
         const std::string line = textOf(board);
         ASSERT_EQ(boardPositionOf(line), board);
+        EXPECT_THROW(boardPositionOf(line + std::string(1'000, 'E')), PositionError);
         std::string other = line;
         const std::size_t place = random() % (line.rfind(' ') + 2);
         if (i % 2 == 0)

@@ -95,6 +95,8 @@ inline void expectSoundBoard(const PlayedGame& played)
     EXPECT_GE(played.state.bonusTilesOnBoard, bonusTiles); // a lower bonus tile behind a higher one goes uncounted
     for (std::size_t i = 1; i < played.path.tiles().size(); ++i)
         EXPECT_TRUE(board.neighbours(played.path.tiles()[i - 1]).contains(played.path.tiles()[i]));
+    const LetterSwap& swap = played.flow.view().letterSwap;
+    EXPECT_TRUE(!swap.isPending() || (board.isVisible(swap.tile()) && played.path.isEmpty()));
     EXPECT_LE(played.screen.mostLocks, 1);
     EXPECT_FALSE(played.screen.busy || board.Picture2.Visible || played.flow.view().dropRow.guideColumn() != 0);
 }
