@@ -111,7 +111,7 @@ Colour shadeFor(Colour colour, Colour background, Colour otherBackground, double
     Hsl hsl = hslOf(colour);
     const double end = darker ? 0 : 1;
     const double start = hsl.lightness;
-    for (int i = 0; i <= steps; ++i) {
+    for (int i = 0; i < steps; ++i) {
         hsl.lightness = start + (end - start) * i / steps;
         const Colour shade = colourOf(hsl);
         if (worseContrast(shade, background, otherBackground) >= contrast)

@@ -34,6 +34,7 @@ void startAny(PlayedGame& played, unsigned seed)
     default:
         start();
         played.flow.perform(Command::CopyBoard);
+        EXPECT_EQ(played.screen.clipboard, played.state.start);
         return played.flow.playShared(played.screen.clipboard);
     }
 }

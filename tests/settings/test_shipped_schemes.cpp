@@ -191,6 +191,8 @@ TEST(WindowColours, AnySchemeReads)
         folder.write("Default.sch", text);
         ASSERT_TRUE(scheme.load(""));
         expectReadable(scheme, deriveWindowColours(scheme));
+        const auto any = static_cast<Colour>(random() & 0xFFFFFFU);
+        EXPECT_EQ(shadeFor(any, any, any, 1), any) << "a shade that will do is kept";
     }
 }
 
