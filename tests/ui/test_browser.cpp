@@ -258,18 +258,24 @@ TEST_F(BrowserTest, APageReachesNothingBeyondItself)
     }
 }
 
-// Guards the machine from a page without measure, and a window that stays empty without a word when the page has ended.
-TEST_F(BrowserTest, APageThatTakesTooMuchMemoryEnds)
+// Guards a window that stays empty without a word, where a page ends because it takes too much memory, or never comes.
+TEST_F(BrowserTest, WhatIsNotShownIsExplained)
 {
-    server_.page = "\r\n<script>for (const all = [];;) all.push(Array(100000).fill(all.length / 3));</script>";
-    script.in("Form3", [&](QDialog& dialog) {
-        const auto* const failure = dialog.findChild<QLabel*>("Failure");
-        EXPECT_TRUE(QTest::qWaitFor([&] { return failure->isVisible(); }, 20'000));
-        EXPECT_THAT(failure->text().toStdString(), testing::StartsWith("The page has stopped working."));
-        EXPECT_FALSE(enginePageExists());
-        QTest::keyClick(&dialog, Qt::Key_Escape);
-    });
-    showMeaning();
+    const std::pair<const char*, const char*> cases[] = {
+        {"\r\n<script>for (const all = [];;) all.push(Array(100000).fill(all.length / 3));</script>",
+         "The page has stopped working."},
+        {"Content-Disposition: attachment\r\n\r\nAll", "The service sends no page that could be shown here."}};
+    for (const auto& [page, reason] : cases) {
+        server_.page = page;
+        script.in("Form3", [expected = reason](QDialog& dialog) {
+            const auto* const failure = dialog.findChild<QLabel*>("Failure");
+            EXPECT_TRUE(QTest::qWaitFor([&] { return failure->isVisible(); }, 20'000));
+            EXPECT_THAT(failure->text().toStdString(), testing::StartsWith(expected));
+            EXPECT_FALSE(enginePageExists());
+            QTest::keyClick(&dialog, Qt::Key_Escape);
+        });
+        showMeaning();
+    }
 }
 
 // Guards the help window: Back and Forward only move between the places of the page, coming to the front shows it from

@@ -40,10 +40,10 @@ public:
 
 struct BrowserPageSetup {
     BrowserRules rules;
-    QColor background;                ///< behind a page that is not painted yet
-    double zoom = 1;                  ///< the size of the game's text as a multiple of the usual one
-    std::function<void(bool)> loaded; ///< called with whether a page could be loaded
-    std::function<void()> died;       ///< called if the page's process has ended
+    QColor background;                          ///< behind a page that is not painted yet
+    double zoom = 1;                            ///< the size of the game's text as a multiple of the usual one
+    std::function<void(bool)> loaded;           ///< called with whether a page could be loaded
+    std::function<void(const QString&)> failed; ///< called with the reason if nothing is shown, or nothing more
 };
 
 /// The web engine, in a separate module, so that a game that shows no page does not load it.

@@ -163,16 +163,20 @@ public:
         setLimits(*page_.settings());
         profile_.scripts()->insert(withoutClipboard());
         page_.setBackgroundColor(setup.background);
-        if (setup.loaded)
-            QObject::connect(&page_, &QWebEnginePage::loadFinished, &page_, setup.loaded);
-        QObject::connect(&page_, &QWebEnginePage::renderProcessTerminated, &page_, [died = setup.died](auto status) {
-            if (died && status != QWebEnginePage::NormalTerminationStatus)
-                died();
-        });
+        QObject::connect(&page_, &QWebEnginePage::loadFinished, &page_, setup.loaded);
         view_.setContextMenuPolicy(Qt::NoContextMenu);
         view_.setAcceptDrops(false);
         view_.setPage(&page_);
         view_.setZoomFactor(std::min(setup.zoom, 5.0)); // the engine's greatest
+        QObject::connect(&page_, &QWebEnginePage::loadFinished, &page_, [this, failed = setup.failed](bool success) {
+            if (!success && page_.history()->count() == 0) // the engine has not even a page about its failure
+                failed("The service sends no page that could be shown here.");
+        });
+        QObject::connect(&page_, &QWebEnginePage::renderProcessTerminated, &page_,
+                         [failed = setup.failed](auto status) {
+                             if (status != QWebEnginePage::NormalTerminationStatus)
+                                 failed("The page has stopped working.");
+                         });
     }
 
     [[nodiscard]] QWidget* widget() override { return &view_; }

@@ -65,12 +65,12 @@ void BrowserView::navigate(const QUrl& address)
 bool BrowserView::openPage()
 {
     const auto emitLoaded = [this](bool success) { emit loaded(success); };
-    const auto giveUp = [this] { // the page ends after its own signal
+    const auto giveUp = [this](const QString& reason) { // the page ends after its own signal
         QMetaObject::invokeMethod(
             this,
-            [this] {
+            [this, reason] {
                 close();
-                showFailure("The page has stopped working.");
+                showFailure(reason);
             },
             Qt::QueuedConnection);
     };
