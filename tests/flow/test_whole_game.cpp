@@ -19,6 +19,10 @@ TEST(WholeGame, TheClockOfAGameAgainstTheComputer)
         played.flow.tick(Timer::Clock);
         return clock.currentValue();
     };
+    played.clock.seconds += 60;
+    tick();
+    EXPECT_EQ(clock.shownDigit(3), 1) << "the time of day goes on";
+
     played.choose(&OptionsForm::Check1);
     played.start(Arrangement::Square);
     EXPECT_EQ(tick(), 599);
