@@ -26,10 +26,7 @@ void setUpClock(Dc& Dc1)
 {
     Dc1.ClockColor("BLUE");
     Dc1.DigitWidth(3);
-    Dc1.ClockStartValue(0);
     Dc1.ClockIncrement(-1);
-    Dc1.ShowTimeOnly(true);
-    Dc1.StartCountdown();
 }
 
 /// Shows the top-ten window if the score enters the list. Returns its answer, or Close if it was not shown.
