@@ -73,8 +73,10 @@ TEST(AnyPlay, WhatAlwaysHolds)
         PlayedGame played(words);
         for (unsigned i = 0; i < 150 && !played.flow.ended(); ++i, ++done) {
             SCOPED_TRACE("LEXIGROVE_SEED=" + std::to_string(seed) + ", action " + std::to_string(i));
-            if (i % 75 == 0) // a game, and another in its place
+            if (i % 75 == 0) { // a game, and another in its place
                 startAny(played, seed + i);
+                EXPECT_FALSE(played.flow.view().letterSwap.isPending());
+            }
             step(played, 1000 * seed + i);
             if (!played.flow.ended())
                 expectWhatAlwaysHolds(played);

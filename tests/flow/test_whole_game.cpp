@@ -53,6 +53,7 @@ TEST(WholeGame, TheClockOfAGameAgainstTheComputer)
         };
         played.windows.onOptions = [&](OptionsForm& form) {
             EXPECT_EQ(clock.shownDigit(1), 2) << "it shows the time of day";
+            EXPECT_FALSE(played.board.isVisible(64)) << "over the board of a game that is done";
             form.pressStart();
         };
         played.flow.clockGotFocus();
