@@ -51,24 +51,12 @@ TEST(MaintainedFormat, SortedWordsSurvive)
     }));
 }
 
-// Damaged files: whatever the bytes, decoding ends with words or with its own error.
-TEST(MaintainedFormat, AnyBytesDecodeWithoutACrash)
+// Damaged files end with words or with the format's own error, which fuzzing tries, too, but finds no header's base.
+TEST(MaintainedFormat, DamageStaysHarmless)
 {
-    const auto decodes = [](const std::string& text, Coding coding) {
-        try {
-            (void)decodeMaintained(text, coding);
-        } catch (const FormatError&) {
-        }
-    };
-    EXPECT_TRUE(rc::check([&](const std::string& bytes, const std::string& base) {
-        const Coding coding = *rc::gen::element(Coding::Maintained, Coding::OldMaintained);
-        decodes(bytes, coding);
-        decodes(encipher("129", KESTR) + "\t 8 4 7\r\n" + bytes, coding);
-        decodes(encipher(base, KESTR) + "\t" + bytes, coding);
-        (void)isMaintainedHeader(bytes);
-    }));
     for (const char* base : {"", "-5", "32768", "1e99", "nan", "inf", "99999999999999999999", "0.4", "-"})
-        decodes(encipher(base, KESTR) + "\tA\r\nB\r\n", Coding::Maintained);
+        EXPECT_THROW((void)decodeMaintained(encipher(base, KESTR) + "\tA\r\nB\r\n", Coding::Maintained), FormatError)
+            << base;
 
     // Each line lengthens the previous word by three letters: 750 KB would become 90 GB.
     std::string growing = headerLine("A", "", "") + "\r\n";

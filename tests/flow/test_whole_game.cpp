@@ -60,23 +60,6 @@ TEST(WholeGame, TheClockOfAGameAgainstTheComputer)
     }
 }
 
-/// Guards against an ending that hangs, or loses the options, where an animation is cut off.
-TEST(WholeGame, LeavingInAnAnimation)
-{
-    PlayedGame played;
-    played.choose(&OptionsForm::Option10);
-    played.choose(&OptionsForm::Option15);
-    played.start(Arrangement::Square, presetOf("EEECAT"));
-    played.click({4, 5, 6});
-    played.screen.onStep = [] { throw Leaving{}; };
-    std::filesystem::remove(played.folder.file("Lexigrove.cfg"));
-    played.flow.perform(Command::EnterWord);
-    EXPECT_TRUE(played.flow.ended());
-    EXPECT_FALSE(played.flow.isBusy() || played.screen.busy);
-    EXPECT_NE(played.folder.read("Lexigrove.cfg"), "");
-    EXPECT_TRUE(played.sounds.commands.back().ends_with("thanks.wav"));
-}
-
 TEST(WholeGame, DeveloperModeHasAPasswordAndKeys)
 {
     PlayedGame played;
