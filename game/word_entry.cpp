@@ -83,7 +83,7 @@ void WordEntry::awardBonusTile(Colour multiplier)
     if (game_.state.bonusTilesOnBoard >= maxBonusTiles || game_.state.computerGame)
         return;
     const auto isPlain = [](const BoxControl& tile) { return tile.Visible() && tile.MaskColor() == multiplier::plain; };
-    if (std::none_of(game_.board.Tiles.begin() + 1, game_.board.Tiles.end(), isPlain))
+    if (std::ranges::none_of(game_.board.Tiles, isPlain))
         return;
 
     int number = 0;

@@ -17,9 +17,13 @@ void startAny(PlayedGame& played, unsigned seed)
         played.start(square ? Arrangement::Square : Arrangement::Staggered, preset);
     };
     played.clock.seconds = seed % 86'400;
+    played.choose(seed % 5 == 0 ? &OptionsForm::Option10 : &OptionsForm::Option11);
     switch (seed / 2 % 6) {
     case 0:
-        return start();
+        played.choose(std::array{&OptionsForm::Option3, &OptionsForm::Option4, &OptionsForm::Option5}[seed % 3]);
+        start();
+        EXPECT_EQ(played.flow.view().dictionary.level(), static_cast<int>(1 + seed % 3));
+        return;
     case 1:
         played.choose(&OptionsForm::Check1);
         played.choose(std::array{&OptionsForm::Option12, &OptionsForm::Option13, &OptionsForm::Option14}[seed % 3]);

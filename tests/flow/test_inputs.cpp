@@ -139,5 +139,35 @@ TEST(Inputs, EndASwapAndHoldThePressure)
     }
 }
 
+/// Guards somebody who is left to guess: why an input came to nothing, and what comes next.
+TEST(Inputs, SayWhy)
+{
+    PlayedGame played;
+    const std::string& told = played.status.News;
+    played.start(Arrangement::Square, presetOf("CAT"));
+    for (const auto& [word, why] : {std::pair{"C", "two letters at least"}, {"CAE", "not in dictionary"}}) {
+        played.flow.typeWord(word);
+        played.flow.perform(Command::EnterWord);
+        EXPECT_EQ(played.screen.refusal, why);
+        played.flow.perform(Command::ClearWord);
+    }
+    played.flow.drop(1);
+    EXPECT_EQ(told, "Column 1 is full");
+    for (const int tile : {8, 24, 64})
+        played.study.editTile(tile, "E", multiplier::doubled);
+    played.flow.warnOfPush();
+    EXPECT_EQ(told, "Column 1, 3 or 8 will be pushed down");
+
+    played.study.set(&GameState::yourScore, 10);
+    played.click({4});
+    for (const bool pending : {true, false}) {
+        played.flow.perform(Command::SwapLetter);
+        EXPECT_EQ(played.flow.view().letterSwap.isPending(), pending);
+    }
+    played.study.chooseOptions([](OptionsForm& form) { form.settings.pressure = Pressure::Relaxed; });
+    played.start(Arrangement::Square);
+    EXPECT_EQ(told, "A relaxed game: no red tiles, no pushes, no record");
+}
+
 } // namespace
 } // namespace lexigrove

@@ -1,5 +1,6 @@
 #include "tests/support/random_play.hpp"
 
+#include <functional>
 #include <rapidcheck.h>
 
 namespace lexigrove
@@ -75,8 +76,17 @@ TEST(Play, LettersAreSeenMoving)
         played.click({3, 4});
         played.flow.perform(Command::EnterWord);
         EXPECT_EQ(slides, animated ? 2 * 21 : 0) << "two cells, two pixels a step over 40";
-        played.screen.onStep = [&] { EXPECT_EQ(played.flow.view().dropRow.guideColumn(), 1); };
+        std::vector<int> tops;
+        std::vector<int> lefts; // of the letter beside, which slides over before it falls
+        played.screen.onStep = [&] {
+            EXPECT_EQ(played.flow.view().dropRow.guideColumn(), 1);
+            tops.push_back(played.board.waiting(1).Top());
+            lefts.push_back(played.board.waiting(2).Left());
+        };
         played.flow.drop(1);
+        EXPECT_TRUE(std::ranges::is_sorted(tops) && std::ranges::is_sorted(lefts, std::greater()));
+        EXPECT_EQ(tops.back(), played.board.cellTop(2, 1));
+        EXPECT_EQ(lefts.back(), Board::columnLeft(1));
         EXPECT_EQ(played.board.waiting(1).Top(), layout::dropRowTop);
     }
 }

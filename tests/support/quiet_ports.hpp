@@ -25,6 +25,7 @@ public:
     bool busy = false;
     int mostLocks = 0;
     std::string clipboard;
+    std::string refusal; ///< the last one
     std::function<void()> onYield = [] {};
     std::function<void()> onStep = [] {};
     std::function<void()> onWait = [] {};
@@ -45,6 +46,7 @@ public:
     void copyText(const std::string& text) override { clipboard = text; }
     [[nodiscard]] std::string copiedText() const override { return clipboard; }
     void inputEnded() override {}
+    void refuse(const std::string& why) override { refusal = why; }
 
 private:
     int locks_ = 0;

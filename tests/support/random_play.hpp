@@ -84,6 +84,10 @@ inline void expectSoundBoard(const PlayedGame& played)
             EXPECT_EQ(board.maskcolor(tile), multiplier::plain) << "an emptied cell is plain";
             continue;
         }
+        const ColourScheme& scheme = played.flow.view().scheme;
+        const bool held = board.tile(tile).Tag() == "X";
+        EXPECT_EQ(board.tile(tile).ForeColor(),
+                  held ? scheme.selectedLetter() : scheme.tileLetter(board.maskcolor(tile)));
         bonusTiles += multiplier::isBonus(board.maskcolor(tile)) ? 1 : 0;
         redTiles += board.maskcolor(tile) == multiplier::red ? 1 : 0;
         const bool bottom = Board::row(tile) == board.columnHeight(Board::col(tile));
