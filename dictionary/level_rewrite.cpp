@@ -11,10 +11,10 @@ namespace
 {
 
 /// The lines of a file, split and limited like a word list even if they are coded.
-WordList readLinesOf(const std::string& path)
+WordList linesIn(std::string text, const std::string& path)
 {
     try {
-        return WordList::ofLines(readFile(path));
+        return WordList::ofLines(std::move(text));
     } catch (const std::length_error& error) {
         throw FileError(error.what(), path, 0);
     }
@@ -50,6 +50,7 @@ void DictionaryMaintenance::tellStage(const Rewrite& rewrite, const std::string&
 bool DictionaryMaintenance::rewriteFile(LevelFiles& files, const Rewrite& rewrite)
 {
     std::string oldText;
+    std::string text;
     std::string backup = "File " + files.backup;
     try {
         const BusyPointer busy(screen_);
@@ -67,7 +68,6 @@ bool DictionaryMaintenance::rewriteFile(LevelFiles& files, const Rewrite& rewrit
     tellStage(rewrite, backup + ", now " + rewrite.toWrite);
     try {
         const BusyPointer busy(screen_);
-        std::string text;
         if (rewrite.coding == Coding::Maintained) {
             text = headerLine(rewrite.words.entry(1), clock_.shortDate(), clock_.shortTime()) + "\r\n";
             dictionary_.codingBase = writtenCodingBase;
@@ -80,15 +80,16 @@ bool DictionaryMaintenance::rewriteFile(LevelFiles& files, const Rewrite& rewrit
         return false;
     }
     tellStage(rewrite, rewrite.written + " now read and verify " + files.name);
-    return readBack(files, rewrite, oldText);
+    return readBack(files, rewrite, text, oldText);
 }
 
-bool DictionaryMaintenance::readBack(LevelFiles& files, const Rewrite& rewrite, const std::string& oldText)
+bool DictionaryMaintenance::readBack(LevelFiles& files, const Rewrite& rewrite, const std::string& written,
+                                     const std::string& oldText)
 {
     std::optional<Difference> difference;
     try {
         const BusyPointer busy(screen_);
-        difference = verify(files, rewrite);
+        difference = verify(files, rewrite, written);
     } catch (const FileError& error) {
         const std::string failure = error.what() + putBack(files.path, oldText);
         endTurn(files);
@@ -117,11 +118,19 @@ bool DictionaryMaintenance::readBack(LevelFiles& files, const Rewrite& rewrite, 
 
 /// Compares the file with the words up to the first difference; `List1` then holds the words that match, or the first
 /// word of the file if that differs. A line that cannot be decoded and an early end are differences too.
-std::optional<DictionaryMaintenance::Difference> DictionaryMaintenance::verify(const LevelFiles& files,
-                                                                               const Rewrite& rewrite)
+/// A maintained file that holds the bytes written holds their words, too, but perhaps for its first: not every text
+/// survives the header's cipher.
+std::optional<DictionaryMaintenance::Difference>
+DictionaryMaintenance::verify(const LevelFiles& files, const Rewrite& rewrite, const std::string& written)
 {
     List1.Clear();
-    const WordList lines = readLinesOf(files.path);
+    std::string text = readFile(files.path);
+    if (rewrite.coding == Coding::Maintained && rewrite.words.count() > 0 && text == written &&
+        LineDecoder(rewrite.coding).read(text.substr(0, text.find_first_of("\r\n"))) == rewrite.words.entry(1)) {
+        List1.fill(rewrite.words, rewrite.words.count());
+        return {};
+    }
+    const WordList lines = linesIn(std::move(text), files.path);
     LineDecoder decoder(rewrite.coding);
     int same = 0;
     try {

@@ -8,6 +8,7 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
+#include <memory>
 
 namespace lexigrove
 {
@@ -34,9 +35,9 @@ std::size_t sharedLetters(std::string_view previous, std::string_view word)
     return static_cast<std::size_t>(differing.first - previous.begin());
 }
 
-void refuseLineEnds(std::string_view text)
+void refuseLineEnd(char letter)
 {
-    if (std::any_of(text.begin(), text.end(), [](char character) { return character == '\r' || character == '\n'; }))
+    if (letter == '\r' || letter == '\n')
         throw FormatError("A word holds a line end");
 }
 
@@ -61,6 +62,27 @@ bool beginsWithHeader(std::string_view text)
 std::ptrdiff_t unsharedLetters(int codingBase, std::string_view previous)
 {
     return codingBase - std::ssize(previous);
+}
+
+/// Writes the line that codes a word relative to the previous word, with its line end, and returns where it ends.
+char* writeCodedLine(char* line, std::string_view previous, std::string_view word)
+{
+    const std::size_t shared = sharedLetters(previous, word);
+    const std::string_view rest = word.substr(shared);
+    const std::size_t unshared = previous.size() - shared;
+    if (unshared > writtenCodingBase)
+        throw FormatError("A word of more than 129 letters cannot be coded: " + std::string(previous));
+    const auto marker = static_cast<char>(writtenCodingBase - static_cast<int>(unshared));
+    if (marker == '\r' || marker == '\n')
+        throw FormatError("The marker behind this word would be a line end: " + std::string(previous));
+    *line++ = marker;
+    for (const char letter : rest) { // mostly few, so that no function is worth its call
+        refuseLineEnd(letter);
+        *line++ = letter;
+    }
+    *line++ = '\r';
+    *line++ = '\n';
+    return line;
 }
 
 } // namespace
@@ -101,30 +123,16 @@ std::string headerLine(std::string_view firstWord, std::string_view date, std::s
     return line;
 }
 
-void appendCodedLine(std::string& text, std::string_view previous, std::string_view word)
-{
-    const std::size_t shared = sharedLetters(previous, word);
-    const std::string_view rest = word.substr(shared);
-    refuseLineEnds(rest);
-    const std::size_t unshared = previous.size() - shared;
-    if (unshared > writtenCodingBase)
-        throw FormatError("A word of more than 129 letters cannot be coded: " + std::string(previous));
-    const auto marker = static_cast<char>(writtenCodingBase - static_cast<int>(unshared));
-    if (marker == '\r' || marker == '\n')
-        throw FormatError("The marker behind this word would be a line end: " + std::string(previous));
-    text += marker;
-    text += rest;
-    text += "\r\n";
-}
-
 std::string codedLines(const WordList& words)
 {
-    refuseLineEnds(words.entry(1));
-    std::string text;
-    text.reserve(words.memory()); // more than the lines need
+    const std::string_view first = words.entry(1);
+    std::for_each(first.begin(), first.end(), refuseLineEnd);
+    const std::size_t enough = words.memory() + std::size_t{3} * static_cast<std::size_t>(words.count());
+    const auto text = std::make_unique_for_overwrite<char[]>(enough);
+    char* end = text.get();
     for (int i = 2; i <= words.count(); ++i)
-        appendCodedLine(text, words.entry(i - 1), words.entry(i));
-    return text;
+        end = writeCodedLine(end, words.entry(i - 1), words.entry(i));
+    return {text.get(), end};
 }
 
 std::string expandLine(std::string_view previous, std::string_view line, int codingBase)

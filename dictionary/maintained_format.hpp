@@ -38,13 +38,10 @@ bool isMaintainedHeader(std::string_view line);
 /// The first line of a maintained file, without its line end.
 std::string headerLine(std::string_view firstWord, std::string_view date, std::string_view time);
 
-/// Appends the line that codes a word relative to the previous word, with its line end. Throws FormatError if the
-/// marker is outside 0 to 255 or is a line end (the previous word has 116, 119 or more than 129 letters that this one
-/// does not share), or if the word contains a line end.
-void appendCodedLine(std::string& text, std::string_view previous, std::string_view word);
-
-/// All lines after the first of a maintained file with the entries from 1 to the count, each with its line end. Throws
-/// like `appendCodedLine`, and also if entry 1 contains a line end.
+/// All lines after the first of a maintained file with the entries from 1 to the count, each with its line end, and
+/// each coding a word relative to the one before. Throws FormatError if a marker is outside 0 to 255 or is a line end
+/// (the word before has 116, 119 or more than 129 letters that the word does not share), or if a word contains a line
+/// end.
 std::string codedLines(const WordList& words);
 
 /// The word that a line codes relative to the previous word. Throws FormatError if the line has no marker, or if its

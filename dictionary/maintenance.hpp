@@ -150,8 +150,9 @@ private:
     bool readAsPlainList(const LevelFiles& files, Rewrite& rewrite);
     void tellStage(const Rewrite& rewrite, const std::string& text);
     bool rewriteFile(LevelFiles& files, const Rewrite& rewrite);
-    bool readBack(LevelFiles& files, const Rewrite& rewrite, const std::string& oldText);
-    [[nodiscard]] std::optional<Difference> verify(const LevelFiles& files, const Rewrite& rewrite);
+    bool readBack(LevelFiles& files, const Rewrite& rewrite, const std::string& written, const std::string& oldText);
+    [[nodiscard]] std::optional<Difference> verify(const LevelFiles& files, const Rewrite& rewrite,
+                                                   const std::string& written);
     [[nodiscard]] std::string restore(const LevelFiles& files, const Rewrite& rewrite, const std::string& oldText);
 
     Dictionary& dictionary_;

@@ -139,10 +139,18 @@ void WordList::overwrite(std::span<const std::string_view> words)
     Words changed;
     changed.text.reserve(size);
     changed.starts.reserve(written + 1);
+    std::string_view run; // words that lie side by side already are copied in one piece
     for (std::size_t place = 0; place < written; ++place) {
-        changed.text += next(place);
-        changed.starts.push_back(static_cast<std::uint32_t>(changed.text.size()));
+        const std::string_view word = next(place);
+        changed.starts.push_back(changed.starts.back() + static_cast<std::uint32_t>(word.size()));
+        if (word.data() == run.data() + run.size()) {
+            run = {run.data(), run.size() + word.size()};
+        } else {
+            changed.text += run;
+            run = word;
+        }
     }
+    changed.text += run;
     words_ = std::make_shared<const Words>(std::move(changed));
 }
 
