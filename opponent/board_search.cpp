@@ -69,10 +69,10 @@ Frontier BoardSearch::extend(const Frontier& paths, char letter)
 void BoardSearch::visitChildren(WordTrie::Node parent, const Frontier& paths, int length, int score)
 {
     const auto visit = [&](WordTrie::Node node, char letter, int letterScore) {
+        const LetterSet below = trie_.childLetters(node);
         const Frontier longer = extend(paths, letter);
         if (longer.empty())
             return;
-        const LetterSet below = trie_.childLetters(node);
         if (trie_.endsWord(node))
             board_.copyPath(longer.begin, candidates_.add(score + letterScore, length + 1));
         if ((below & (longer.next | otherCharacters)) != 0)
