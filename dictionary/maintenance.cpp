@@ -145,7 +145,7 @@ void DictionaryMaintenance::removeWord()
                     .restored = "file restored ", // lower case here
                     .words = {},
                     .lines = {}};
-    SortingList ListBoy1(before.count() + 1);
+    SortingList ListBoy1(before.count());
     {
         const BusyPointer busy(screen_);
         for (int i = 1; i <= before.count(); ++i)

@@ -70,7 +70,6 @@ void DropRow::land(BoxControl& waiting, int row, int col)
     game_.sounds.play(cue::swap);
     target.Caption(waiting.Caption());
     target.Move(Board::columnLeft(col), game_.board.cellTop(row, col), layout::cellSize, layout::cellSize);
-    target.Tag("");
     target.MaskColor(multiplier::plain);
     game_.look.showNormal(target);
     target.Visible(true);

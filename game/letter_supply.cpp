@@ -43,7 +43,6 @@ void LetterSupply::dealLetters()
     for (int tile = 1; tile <= Board::tileCount; ++tile) {
         game_.board.tile(tile).Caption(letterText(game_.dictionary.letters.pool[static_cast<std::size_t>(tile)]));
         game_.board.tile(tile).MaskColor(multiplier::plain);
-        game_.board.tile(tile).Tag("");
     }
     const bool staggered = game_.board.arrangement() == Arrangement::Staggered;
     if (staggered) {

@@ -62,7 +62,6 @@ void showOn(Board& board, const BoardPosition& position)
     for (int tile = 1; tile <= Board::tileCount; ++tile) {
         const BoardPosition::Cell& cell = position.cells[static_cast<std::size_t>(tile)];
         BoxControl& control = board.tile(tile);
-        control.Tag("");
         control.Caption(captionOf(cell.letter));
         control.MaskColor(cell.multiplier);
         control.Visible(cell.letter != BoardPosition::none);

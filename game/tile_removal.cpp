@@ -17,20 +17,13 @@ void TileRemoval::removePathTiles()
     // From the top down within a column: moving a column does not change the cells below, so a lower tile of the path
     // still holds its own letter when its turn comes.
     for (const int tile : list) {
-        if (Board::row(tile) == 1)
-            emptyCell(game_.board.tile(tile));
-        else
-            moveColumnDown(Board::row(tile), Board::col(tile));
+        moveColumnDown(Board::row(tile), Board::col(tile));
         game_.sounds.play(cue::removal);
     }
 }
 
 void TileRemoval::moveColumnDown(int row, int col)
 {
-    BoxControl& removed = game_.board.tile(row, col);
-    removed.MaskColor(multiplier::plain);
-    game_.look.showNormal(removed);
-
     int empty = 0;
     for (int r = 1; r <= row; ++r) {
         BoxControl& tile = game_.board.tile(r, col);
@@ -53,7 +46,9 @@ void TileRemoval::moveColumnDown(int row, int col)
         game_.look.showNormal(destination);
         destination.Visible(true);
     }
-    emptyCell(game_.board.tile(std::min(first, row), col));
+    BoxControl& emptied = game_.board.tile(std::min(first, row), col);
+    emptied.MaskColor(multiplier::plain);
+    game_.look.showNormal(emptied);
 }
 
 /// Shows the letters of the rows from `firstRow` to the one above `row` sliding down by one cell.
@@ -84,13 +79,6 @@ void TileRemoval::animateColumn(int firstRow, int row, int col)
         game_.ports.screen.animationStep(game_.options.settings.dropDelay);
     }
     panel.Visible = false;
-}
-
-void TileRemoval::emptyCell(BoxControl& tile)
-{
-    tile.Visible(false);
-    tile.MaskColor(multiplier::plain);
-    game_.look.showNormal(tile);
 }
 
 } // namespace lexigrove

@@ -22,7 +22,6 @@ public:
 
 private:
     void animateColumn(int firstRow, int row, int col);
-    void emptyCell(BoxControl& tile);
 
     Game& game_;
 };

@@ -86,7 +86,7 @@ ColourTable builtInColours()
 
 ColourScheme::ColourScheme(std::string folder, Dialogs& dialogs) : folder_(std::move(folder)), dialogs_(dialogs) {}
 
-bool ColourScheme::load(const std::string& name)
+void ColourScheme::load(const std::string& name)
 {
     currentName = name.empty() ? defaultName : name;
     const auto readLine = currentName == defaultName ? readDefaultSchemeLine : readSchemeLine;
@@ -96,13 +96,12 @@ bool ColourScheme::load(const std::string& name)
         while (i < fileEntries && i < lines.size() && readLine(lines[i], entries_[i]))
             ++i;
         if (i == fileEntries)
-            return true;
+            return;
     } catch (const FileError&) {
         // reported below, like a file that ends too soon
     }
     const std::string failed = std::exchange(currentName, defaultName);
     dialogs_.message("Color Scheme File:" + failed + " not found, defaults will be used");
-    return false;
 }
 
 std::vector<std::string> ColourScheme::filesInFolder() const

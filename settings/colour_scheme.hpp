@@ -48,8 +48,8 @@ public:
 
     /// Makes `name` the current name and fills the table from that file; an empty name loads the default scheme. If the
     /// file cannot be read to its end, shows a message and makes the default's name the current one; the table keeps
-    /// the entries read so far. Returns true if the whole file was read.
-    bool load(const std::string& name);
+    /// the entries read so far.
+    void load(const std::string& name);
 
     /// The scheme files in the folder, in ascending byte order of their names.
     [[nodiscard]] std::vector<std::string> filesInFolder() const;

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <rapidcheck.h>
+#include <set>
 
 namespace lexigrove
 {
@@ -85,6 +86,7 @@ TEST(Play, LettersAreSeenMoving)
         };
         played.flow.drop(1);
         EXPECT_TRUE(std::ranges::is_sorted(tops) && std::ranges::is_sorted(lefts, std::greater()));
+        EXPECT_GT(std::set(tops.begin(), tops.end()).size(), 8U) << "every step of the fall is seen";
         EXPECT_EQ(tops.back(), played.board.cellTop(2, 1));
         EXPECT_EQ(lefts.back(), Board::columnLeft(1));
         EXPECT_EQ(played.board.waiting(1).Top(), layout::dropRowTop);

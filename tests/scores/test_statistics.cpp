@@ -36,6 +36,10 @@ TEST(StatisticsForm, ShowsBothColumnsAndTheChart)
     const Bar a{630, 40 * 9, rgb(0, 0, 0)};
     const Bar z{25 * 120 + 630, 40 * 60, rgb(0, 0, 0)};
     EXPECT_THAT(barsOf(form.chart(120)), testing::ElementsAre(a, z));
+    EXPECT_TRUE(std::ranges::any_of(form.chart(120).items, [](const auto& item) {
+        const auto* label = std::get_if<ChartText>(&item);
+        return label != nullptr && label->text == "Z" && label->x == 550 + 25 * 120;
+    })) << "each letter stands above its bars";
 
     statistics.recordWord("ABA", Statistics::computerBase);
     form.activate(true, provided);

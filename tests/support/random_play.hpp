@@ -2,6 +2,7 @@
 
 #include "tests/support/played_game.hpp"
 
+#include <array>
 #include <random>
 
 namespace lexigrove
@@ -85,9 +86,13 @@ inline void expectSoundBoard(const PlayedGame& played)
             continue;
         }
         const ColourScheme& scheme = played.flow.view().scheme;
-        const bool held = board.tile(tile).Tag() == "X";
-        EXPECT_EQ(board.tile(tile).ForeColor(),
-                  held ? scheme.selectedLetter() : scheme.tileLetter(board.maskcolor(tile)));
+        const BoxControl& shown = board.tile(tile);
+        EXPECT_EQ(shown.ForeColor(),
+                  shown.Tag() == "X" ? scheme.selectedLetter() : scheme.tileLetter(board.maskcolor(tile)));
+        EXPECT_EQ((std::array{shown.BorderTop(), shown.BorderLeft(), shown.BorderBottom(), shown.BorderRight()}),
+                  (std::array{scheme.entry(scheme_entry::tileTop), scheme.entry(scheme_entry::tileLeft),
+                              scheme.entry(scheme_entry::tileBottom), scheme.entry(scheme_entry::tileRight)}));
+        EXPECT_TRUE(shown.FontBold());
         bonusTiles += multiplier::isBonus(board.maskcolor(tile)) ? 1 : 0;
         redTiles += board.maskcolor(tile) == multiplier::red ? 1 : 0;
         const bool bottom = Board::row(tile) == board.columnHeight(Board::col(tile));

@@ -91,7 +91,10 @@ TEST_F(KeptGamesTest, EndWhereNoWordIsLeft)
     enter("do");
     std::string told;
     QObject::connect(&game->host, &Host::gameOver, [&](const EndOfGame& end) { told = end.memorable.front(); });
-    script.box("There is no word left on the board, and no letter is left to come.\n\nEnd the game?", QMessageBox::Yes);
+    script.in("QMessageBox", [this](QDialog& question) {
+        EXPECT_EQ(shown("Label1"), "No more words: New Game or Exit");
+        dynamic_cast<QMessageBox&>(question).button(QMessageBox::Yes)->click();
+    });
     QElapsedTimer counting;
     script.when([&] { return child("End").isVisible() && (counting.isValid() || (counting.start(), false)); }, [] {});
     script.when([&] { return counting.hasExpired(1'800); }, [this] { QTest::keyClick(&window(), Qt::Key_Space); });

@@ -82,11 +82,13 @@ TEST_F(OptionsDialogTest, HandlersRunOnTheRelease)
         EXPECT_TRUE(dialog.findChild<QWidget*>("GetUserDictName")->isEnabled());
         EXPECT_EQ(view().dictionary.level(), 0);
     });
-    click("Option5");
-    then([&](QDialog& dialog) {
-        EXPECT_FALSE(dialog.findChild<QWidget*>("GetUserDictName")->isEnabled());
-        EXPECT_EQ(view().dictionary.level(), 3);
-    });
+    for (const char* const option : {"Option3", "Option4", "Option5"}) {
+        click(option);
+        then([this, option](QDialog& dialog) {
+            EXPECT_FALSE(dialog.findChild<QWidget*>("GetUserDictName")->isEnabled());
+            EXPECT_EQ(view().dictionary.level(), option[6] - '2');
+        });
+    }
     openAndStart();
 }
 
