@@ -215,7 +215,7 @@ Theme::Theme() : desktop_(systemColoursOf(QApplication::palette()))
 {
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     QIcon icon;
-    for (const int size : {16, 32, 48, 128, 256}) // pictures: a drawing would load a library at every start
+    for (const int size : {16, 32, 48, 128}) // pictures: a drawing would load a library at every start
         icon.addFile(QString(":/icon/%1.png").arg(size));
     QApplication::setWindowIcon(icon);
 }

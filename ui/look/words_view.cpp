@@ -223,7 +223,6 @@ void WordsView::paintEvent(QPaintEvent* event)
     if (grid_.Rows() > 1)
         return;
     QPainter painter(viewport());
-    painter.setFont(Theme::font(cellTextSize));
     painter.setPen(toQColor(theme_.colours().cardQuietText));
     painter.drawText(viewport()->rect().adjusted(Theme::gap, Theme::gap, -Theme::gap, -Theme::gap),
                      Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, emptyText_);

@@ -94,9 +94,10 @@ public:
 
     [[nodiscard]] QSize sizeHint() const override
     {
-        const QFontMetricsF metrics(fontOf(largest_));
-        const double width = text().isEmpty() ? 0 : metrics.horizontalAdvance(text());
-        return {static_cast<int>(std::ceil(width)), static_cast<int>(std::ceil(metrics.height()))};
+        const double width = text().isEmpty() ? 0 : QFontMetricsF(fontOf(largest_)).horizontalAdvance(text());
+        // By the font that is loaded anyway: looking for another size takes time at the start.
+        const double height = QFontMetricsF(font()).height() * largest_ / QFontInfo(font()).pixelSize();
+        return {static_cast<int>(std::ceil(width)), static_cast<int>(std::ceil(height))};
     }
 
     [[nodiscard]] QSize minimumSizeHint() const override { return {0, sizeHint().height()}; }
@@ -107,7 +108,6 @@ protected:
         QPainter painter(this);
         const Qt::Alignment place = alignment() | Qt::AlignVCenter;
         if (text().isEmpty()) {
-            painter.setFont(Theme::font(Theme::quietTextSize + 1));
             painter.setPen(palette().color(QPalette::PlaceholderText));
             painter.drawText(rect(), static_cast<int>(place) | Qt::TextWordWrap, placeholder_);
             return;
