@@ -44,7 +44,8 @@ constexpr Command lastCommand = Command::ExportWords;
 /// The keys that set the drop-animation delay in developer mode.
 enum class DeveloperKey { End, NumpadMinus, NumpadPlus, Home };
 
-/// The timers that a front end runs all the time; the flow knows when a tick counts.
+/// The timers that a front end runs all the time, the last one at least while the game is paused; the flow knows when a
+/// tick counts.
 enum class Timer {
     Red,   ///< `UpdateRedTriggerTimer`
     Push,  ///< `MoveColDownTimer`

@@ -49,8 +49,8 @@ MainWindow::MainWindow(Host& host, GameFlow& flow, const StatusLine& status) : h
 
     addTimer("UpdateRedTriggerTimer", Timer::Red);
     addTimer("MoveColDownTimer", Timer::Push);
-    addTimer("PauseTimer", Timer::Pause);
     addTimer("Clock", Timer::Clock);
+    blinking_ = addTimer("PauseTimer", Timer::Pause);
 
     saving_ = new QTimer(this);
     saving_->setSingleShot(true);
@@ -117,7 +117,7 @@ void MainWindow::connectArea()
     });
 }
 
-void MainWindow::addTimer(const QString& name, Timer timer)
+QTimer* MainWindow::addTimer(const QString& name, Timer timer)
 {
     auto* clock = new QTimer(this);
     clock->setObjectName(name);
@@ -129,6 +129,7 @@ void MainWindow::addTimer(const QString& name, Timer timer)
     clock->start();
     if (timer == Timer::Push)
         warnBefore(*clock);
+    return clock;
 }
 
 /// In the last seconds before a push the columns that it may strike are marked.
@@ -290,6 +291,10 @@ void MainWindow::showModels()
         if (entry.item.command == Command::Pause)
             entry.action->setText(flow_.isPaused() ? tr("&Resume") : tr("&Pause"));
     }
+    if (!flow_.isPaused())
+        blinking_->stop();
+    else if (!blinking_->isActive())
+        blinking_->start();
     area_->synchronise();
     status_->synchronise();
     speaker_.lookAtGame();

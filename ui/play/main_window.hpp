@@ -52,7 +52,7 @@ private:
     void addCornerButton(QHBoxLayout& row, const QString& name, const QString& caption, Command command);
     void connectArea();
     void warnBefore(QTimer& push);
-    void addTimer(const QString& name, Timer timer);
+    QTimer* addTimer(const QString& name, Timer timer);
     void watchLeaving();
     void pauseIfLeft();
     [[nodiscard]] bool typed(const QKeyEvent& event);
@@ -64,6 +64,7 @@ private:
     std::vector<MenuEntry> menuEntries_;
     Speaker speaker_;
     bool away_ = false; ///< left, while the game is busy with something that cannot be paused
+    QTimer* blinking_;  ///< runs while the game is paused: a game at rest is not to be woken up
     QTimer* left_;      ///< runs while the window is minimised or another program's has the keys
     QTimer* saving_;    ///< fires once the events of an input are done
     bool endReported_ = false;
