@@ -58,7 +58,7 @@ TEST(MaintainedFormat, DamageStaysHarmless)
         EXPECT_THROW((void)decodeMaintained(encipher(base, KESTR) + "\tA\r\nB\r\n", Coding::Maintained), FormatError)
             << base;
 
-    EXPECT_NO_THROW((void)decodeMaintained(encipher("1", KESTR) + "\tA\r\n", Coding::Maintained));
+    EXPECT_TRUE(isMaintainedHeader(encipher("1", KESTR) + "\tA"));
 
     // Each line lengthens the previous word by three letters: 750 KB would become 90 GB.
     std::string growing = headerLine("A", "", "") + "\r\n";

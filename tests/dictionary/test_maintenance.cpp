@@ -74,26 +74,26 @@ TEST_F(MaintenanceTest, IsFullAtExactly200000)
 
 TEST_F(MaintenanceTest, OpensWithAWordAndALevelOnly)
 {
-    load(3, {"CAT"});
+    load(2, {"CAT"});
     EXPECT_FALSE(maintenance.open("", status));
     EXPECT_EQ(status.Label1, "Select a word first");
     EXPECT_TRUE(status.Warn);
     ASSERT_TRUE(maintenance.open("EMU", status));
     maintenance.activate();
     EXPECT_EQ(maintenance.Text1, "EMU");
-    EXPECT_TRUE(maintenance.Option3.Value && maintenance.Option3.Enabled);
-    EXPECT_FALSE(maintenance.Option1.Value || maintenance.Option1.Enabled || maintenance.Option2.Enabled);
+    EXPECT_TRUE(maintenance.Option2.Value && maintenance.Option2.Enabled);
+    EXPECT_FALSE(maintenance.Option1.Value || maintenance.Option1.Enabled || maintenance.Option3.Enabled);
 
-    // The words of level 3 must not reach another level's file.
-    for (const int other : {0, 2, 4}) {
+    // The words of level 2 must not reach another level's file.
+    for (const int other : {0, 1, 3, 4}) {
         maintenance.chooseOption(other);
-        EXPECT_TRUE(maintenance.Option3.Value);
+        EXPECT_TRUE(maintenance.Option2.Value);
     }
-    dictionary.applyChoice(2, "");
+    dictionary.applyChoice(3, "");
     maintenance.activate();
     add("EMU");
     EXPECT_EQ(messages.size(), 1U);
-    EXPECT_FALSE(fs::exists(levelFile(2)));
+    EXPECT_FALSE(fs::exists(levelFile(3)));
     dictionary.applyChoice(0, "Mine.txt");
     EXPECT_FALSE(maintenance.open("EMU", status));
     maintenance.activate();
